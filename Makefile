@@ -1,0 +1,56 @@
+# Everything that this repository can do, by name: `make help`.
+.DEFAULT_GOAL := help
+.PHONY: help demo demo-windows build test abi format tidy bench clean
+
+help: ## This list
+	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-14s %s\n", $$1, $$2 }' Makefile
+
+demo: ## Build, then read, change and write the example documents
+	@tools/packages.sh build
+	@cmake --preset linux-release -DTOLVA_TESTS=OFF > /dev/null
+	@cmake --build --preset linux-release --target tolva_demo
+	@build/linux-release/examples/tolva_demo examples/documents build/demo
+
+demo-windows: ## The same with the Windows library, under Wine
+	@tools/packages.sh windows
+	@cmake --preset windows -DTOLVA_TESTS=OFF > /dev/null
+	@cmake --build --preset windows --target tolva_demo
+	@cmake --preset windows-own -DTOLVA_TESTS=OFF > /dev/null
+	@cmake --build --preset windows-own --target tolva_demo
+	@echo; echo "With XmlLite. Wine's does not escape what it writes: the documents that need that follow."
+	@tools/run-windows.sh build/windows/examples/tolva_demo.exe examples/documents build/demo-windows \
+	  active-directory broken
+	@echo; echo "With the library's own XML layer:"
+	@tools/run-windows.sh build/windows-own/examples/tolva_demo.exe examples/documents \
+	  build/demo-windows
+
+build: ## The library alone, optimised, in build/linux-release
+	@tools/packages.sh build
+	@cmake --preset linux-release -DTOLVA_TESTS=OFF > /dev/null
+	@cmake --build --preset linux-release --target tolva
+
+test: ## All tests and checks, on Linux and Windows
+	@tools/packages.sh test
+	@tools/test.sh
+
+abi: ## Compare the binary interface with the lists in abi/
+	@tools/packages.sh test
+	@tools/abi.sh
+
+format: ## Format the sources
+	@tools/packages.sh test
+	@tools/format.sh
+
+tidy: ## clang-tidy over the sources
+	@tools/packages.sh test
+	@cmake --preset linux-clang > /dev/null
+	@tools/tidy.sh
+
+bench: ## Build and run the benchmarks
+	@tools/packages.sh bench
+	@cmake --preset bench > /dev/null
+	@cmake --build --preset bench
+	@build/bench/bench/tolva_bench
+
+clean: ## Remove everything that was built
+	@rm -rf build

@@ -1,0 +1,30 @@
+#!/bin/sh
+# Installs the Debian packages that a target needs, if any of them is missing:
+#   packages.sh build|test|bench
+set -eu
+
+build='g++ cmake ninja-build'
+windows='g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64'
+test="$build $windows googletest clang clang-format clang-tidy llvm libclang-rt-14-dev pkg-config shellcheck"
+case ${1:-} in
+  build) wanted=$build ;;
+  windows) wanted="$build $windows" ;;
+  test) wanted=$test ;;
+  bench) wanted="$build libbenchmark-dev libpugixml-dev libexpat1-dev" ;;
+  *) echo 'usage: packages.sh build|windows|test|bench' >&2; exit 2 ;;
+esac
+
+missing=
+for package in $wanted; do
+  status=$(dpkg-query -W -f='${Status}' "$package" 2> /dev/null || true)
+  [ "$status" = 'install ok installed' ] || missing="$missing $package"
+done
+[ -n "$missing" ] || exit 0
+
+echo "Installing:$missing"
+as_root=
+[ "$(id -u)" = 0 ] || as_root=sudo
+export DEBIAN_FRONTEND=noninteractive
+$as_root apt-get -qq update
+# shellcheck disable=SC2086  # a list of names
+$as_root apt-get -qq install -y --no-install-recommends $missing > /dev/null

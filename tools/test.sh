@@ -1,0 +1,191 @@
+#!/bin/bash
+# Runs everything that can fail: each build with its tests, and the checks of the sources and of the
+# binary interface. Ends with one line of totals; fails when anything did.
+#   test.sh [part...]      only these parts: sources linux sanitizers windows windows-own abi tidy
+set -u
+cd "$(dirname "$0")/.." || exit
+
+passed=0
+failed=0
+skipped=0
+failures=()
+results=build/results
+rm -rf "$results"
+mkdir -p "$results"
+start=$SECONDS
+
+count_check() { # <passed: yes|no> <name>
+  if [ "$1" = yes ]; then
+    passed=$((passed + 1))
+    echo "  ok      $2"
+  else
+    failed=$((failed + 1))
+    failures+=("$2")
+    echo "  FAILED  $2"
+  fi
+}
+
+# check <name> <command...>: one check; what the command says is shown when it fails
+check() {
+  local name=$1 log
+  shift
+  log=$results/$(echo "$name" | tr -c 'A-Za-z0-9\n' '-').log
+  if "$@" > "$log" 2>&1; then
+    count_check yes "$name"
+  else
+    count_check no "$name"
+    tail -n 60 "$log" | sed 's/^/          /'
+    return 1
+  fi
+}
+
+# programs <preset> [launcher]: every test program of a build, each of its tests counted
+programs() {
+  local preset=$1 launcher=${2:-} program name xml log status ran bad left_out found=no
+  for program in build/"$preset"/tests/tolva_*_tests*; do
+    [ -x "$program" ] || continue
+    found=yes
+    name=$(basename "$program" .exe)
+    xml=$results/$preset-$name.xml
+    log=$results/$preset-$name.log
+    # shellcheck disable=SC2086  # no launcher is no argument
+    timeout 900 $launcher "$program" --gtest_output=xml:"$xml" > "$log" 2>&1
+    status=$?
+    if [ ! -s "$xml" ]; then
+      count_check no "$preset: $name (exit status $status)"
+      tail -n 40 "$log" | sed 's/^/          /'
+      continue
+    fi
+    ran=$(sed -n 's/^<testsuites tests="\([0-9]*\)".*/\1/p' "$xml")
+    bad=$(sed -n 's/^<testsuites .* failures="\([0-9]*\)".*/\1/p' "$xml")
+    left_out=$(grep -c 'result="skipped"' "$xml")
+    passed=$((passed + ran - bad - left_out))
+    failed=$((failed + bad))
+    skipped=$((skipped + left_out))
+    echo "  $preset: $name: $((ran - bad - left_out)) passed, $bad failed, $left_out skipped"
+    grep -A1 -a ': Skipped$' "$log" | grep -av '^--$' | sed 's/^/          /'
+    if [ "$bad" != 0 ]; then
+      failures+=("$preset: $name")
+      grep -av '^\[ *\(OK\|RUN\|--*\) *\]' "$log" | head -n 80 | sed 's/^/          /'
+    elif [ "$status" != 0 ]; then
+      count_check no "$preset: $name (exit status $status)"
+    fi
+  done
+  [ $found = yes ] || count_check no "$preset: test programs"
+}
+
+build() { # <preset>
+  check "$1: configure" cmake --preset "$1" && check "$1: build" cmake --build --preset "$1"
+}
+
+demo() { # <preset> [launcher] [part...]
+  local preset=$1 launcher=${2:-}
+  shift $(($# > 1 ? 2 : 1))
+  # shellcheck disable=SC2086
+  check "$preset: demonstration" $launcher "$(ls build/"$preset"/examples/tolva_demo*)" \
+    examples/documents "build/$preset/demo" "$@"
+}
+
+# The installed package: exactly its files, and a project that finds and uses it.
+package() { # <preset> <expected files> [launcher] [cmake argument...]
+  local preset=$1 expected=$2 launcher=${3:-} prefix consumer
+  shift 3
+  prefix=$PWD/build/$preset/installed
+  consumer=build/$preset/consumer
+  rm -rf "$prefix" "$consumer"
+  check "$preset: install" cmake --install "build/$preset" || return
+  { echo "$expected"; (cd include && find . -name '*.h' -printf 'include/%P\n'); } |
+    LC_ALL=C sort > "$results/expected-files"
+  (cd "$prefix" && find . ! -type d -printf '%P\n') | LC_ALL=C sort > "$results/installed-files"
+  check "$preset: installed files" diff -u "$results/expected-files" "$results/installed-files"
+  check "$preset: consumer, configure" cmake -S tests/consumer -B "$consumer" -G Ninja \
+    -DCMAKE_PREFIX_PATH="$prefix" "$@" || return
+  check "$preset: consumer, build" cmake --build "$consumer" || return
+  # shellcheck disable=SC2086
+  check "$preset: consumer, run" $launcher "$(ls "$consumer"/consumer "$consumer"/consumer.exe \
+    2> /dev/null)" "$consumer/document.xml"
+}
+
+cmake_files() { # <lib> <config>
+  printf '%s\n' "$1"/cmake/tolva/tolva-{config,config-version,targets,"targets-$2"}.cmake
+}
+
+part_sources() {
+  echo 'Sources'
+  check 'formatting' tools/format.sh --check
+  check 'shell scripts' shellcheck tools/*.sh .ci/run
+  check 'example of the README' tools/check-readme.sh
+}
+
+part_linux() {
+  echo 'Linux, GCC, optimised'
+  build linux-release || return
+  programs linux-release
+  check 'linux-release: exported symbols' tools/abi.sh linux
+  demo linux-release
+  local lib
+  lib=$(sed -n 's/^CMAKE_INSTALL_LIBDIR:PATH=//p' build/linux-release/CMakeCache.txt)
+  package linux-release "$(printf '%s\n' "$lib"/libtolva.so{,.1,.1.0.0} "$lib/pkgconfig/tolva.pc"
+    cmake_files "$lib" release)" ''
+  check 'linux-release: pkg-config' pkg_config_consumer "$PWD/build/linux-release/installed/$lib"
+}
+
+pkg_config_consumer() { # <library folder>
+  local flags
+  flags=$(PKG_CONFIG_PATH=$1/pkgconfig pkg-config --cflags --libs tolva) || return
+  # shellcheck disable=SC2086
+  g++ tests/consumer/main.cpp $flags -Wl,-rpath,"$1" -o build/linux-release/pc-consumer &&
+    build/linux-release/pc-consumer build/linux-release/pc-consumer.xml
+}
+
+part_sanitizers() {
+  echo 'Linux, Clang, sanitizers'
+  build linux-asan || return
+  programs linux-asan
+  demo linux-asan
+}
+
+part_windows() {
+  echo 'Windows, XmlLite, under Wine'
+  build windows || return
+  programs windows tools/run-windows.sh
+  check 'windows: exported symbols' tools/abi.sh windows
+  demo windows tools/run-windows.sh active-directory broken  # Wine's XmlLite does not escape
+  package windows "$(printf '%s\n' bin/tolva.dll lib/libtolva.dll.a lib/pkgconfig/tolva.pc
+    cmake_files lib release)" "env TOLVA_WINEPATH=$PWD/build/windows/installed/bin tools/run-windows.sh" \
+    -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake"
+}
+
+part_windows-own() {
+  echo 'Windows, own XML layer, under Wine'
+  build windows-own || return
+  programs windows-own tools/run-windows.sh
+  demo windows-own tools/run-windows.sh
+}
+
+part_abi() {
+  echo "Microsoft's binary interface"
+  check 'headers, names and slots' tools/abi.sh
+}
+
+part_tidy() {
+  echo 'clang-tidy'
+  check 'linux-clang: configure' cmake --preset linux-clang || return
+  check 'clang-tidy' tools/tidy.sh
+}
+
+parts=("$@")
+[ ${#parts[@]} != 0 ] || parts=(sources linux sanitizers windows windows-own abi tidy)
+for part in "${parts[@]}"; do
+  if [ "$(type -t "part_$part")" = function ]; then
+    "part_$part"
+  else
+    count_check no "there is no part '$part'"
+  fi
+done
+
+seconds=$((SECONDS - start))
+for failure in ${failures[@]+"${failures[@]}"}; do echo "failed: $failure"; done
+printf 'tolva: %d passed, %d failed, %d skipped in %d min %02d s\n' \
+  "$passed" "$failed" "$skipped" $((seconds / 60)) $((seconds % 60))
+[ "$failed" = 0 ]
