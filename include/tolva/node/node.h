@@ -1,0 +1,81 @@
+// What all configuration nodes have in common.
+//
+// A node is the object of one element of a configuration document: it holds the element's
+// attributes and child elements as typed fields, is made by the element's exported factory, and is
+// destroyed with `delete` through its interface. Its fields are reached through typed accessors, of
+// which there are these forms (X an attribute, Y a child element):
+//
+//   required number, ENUM    DWORD GetX() const                 (or ConfigResult GetX(DWORD* out))
+//                            ConfigResult SetX(const DWORD* value)
+//   required string          const std::wstring& GetX() const
+//                            ConfigResult SetX(const std::wstring* value)
+//   optional attribute       ConfigResult GetX(T* out) const    1 when absent, `out` untouched
+//                            ConfigResult SetX(const T* value)  null removes the attribute; 0
+//   required child           IY* GetY()
+//                            ConfigResult SetY(const IY* child) copies
+//   optional child           ConfigResult GetY(IY** out)        1 when absent
+//                            ConfigResult SetY(const IY* child) copies; null removes the child; 0
+//   repeated child           DWORD GetYCount() const
+//                            IY* GetYAt(DWORD index)            null behind the last item
+//                            ConfigResult AddY(const IY* item)  appends a copy
+//                            ConfigResult InsertYAt(DWORD index, const IY* item)
+//                                                               a copy; behind the last: appends
+//                            void RemoveYAt(DWORD index)        nothing behind the last item
+//                            void RemoveAllY()
+//
+// The setter of a required value answers a null pointer with a diagnostic and -101; AddY and
+// InsertYAt answer it with -101 alone. Getters accept null out-pointers, so GetX(nullptr) asks
+// whether X is present. Numbers are stored as given, without a range check; a number outside an
+// ENUM's table is kept, and written as an empty value.
+//
+// Nodes passed in have to be nodes of this library: another implementation of an interface is a
+// caller's error that is not noticed.
+//
+// Pointers and references that getters hand out belong to the node; they are valid until the node
+// changes that field or is destroyed. Everything passed in is copied.
+//
+// Nothing is thrown but std::bad_alloc. A node and all below it are used by one thread at a time.
+#pragma once
+
+#include <tolva/types.h>
+
+class IXMLLiteManager;
+
+namespace tolva::node {
+
+/// What every element's object can do: write itself and read itself.
+class IElement {
+ public:
+  IElement() = default;
+  virtual ~IElement() = default;
+
+  /// Writes the element with all it holds. `manager` is an open writer; the other two arguments are
+  /// those that a parent passes and do not influence the output. -101 with a diagnostic when
+  /// something could not be written: the document is then incomplete, the node unchanged. A manager
+  /// that is a reader gives -101 without a diagnostic.
+  virtual ConfigResult WriteToXMLMgr(IXMLLiteManager* manager, int reserved = 0,
+                                     int position = 1) const = 0;
+
+  /// Fills the node from the element on whose start tag `manager`, an open reader, stands, and
+  /// leaves the reader on that element's end. Attributes and children that the node does not know
+  /// are ignored; children may come in any order. The node starts from its defaults, and is at its
+  /// defaults again when the read failed: -101 with a diagnostic, or -102 without one when the
+  /// element has another name (or the reader holds no element). A null manager, and one that is a
+  /// writer, give -101 and leave the node as it was.
+  virtual ConfigResult ReadFromXMLMgr(IXMLLiteManager* manager, int reserved = 0) = 0;
+
+ protected:
+  IElement(const IElement&) = default;
+  IElement& operator=(const IElement&) = default;
+};
+
+/// The common slots of a configuration node. Each interface adds its own
+/// `IName& CopyFrom(const IName& other)` behind them: a deep copy, for which `other` has to be a
+/// node of this library (one's own descendants and the node itself included).
+class INode : public IElement {
+ public:
+  /// Resets every field to its default: empty, 0, absent.
+  virtual void Clear() = 0;
+};
+
+}  // namespace tolva::node

@@ -1,0 +1,73 @@
+// The XML manager: the object through which configuration nodes reach an XML document.
+//
+//   IXMLLiteManager* manager = tolvaCreateXMLManager(0);        // 0: a reader
+//   if (manager->OpenFile(L"active-directory.xml") == 0) root->ReadFromXMLMgr(manager);
+//   tolvaDestroyXMLManager(manager);
+//
+// A manager is either a reader or a writer for its whole life, works on one document at a time, and
+// is used by one thread at a time. Separate managers may be used on separate threads.
+#pragma once
+
+#include <tolva/export.h>
+#include <tolva/types.h>
+
+/// A reader or writer of one XML document.
+///
+/// Results are 0, -101 (failed; the thread's last-error value holds the platform's code where it
+/// gave one) or -102 (a null argument). A manager whose XML object could not be created answers
+/// -101 to everything.
+class IXMLLiteManager {
+ public:
+  IXMLLiteManager() = default;
+  IXMLLiteManager(const IXMLLiteManager&) = delete;
+  IXMLLiteManager& operator=(const IXMLLiteManager&) = delete;
+
+  /// Callers destroy a manager through `tolvaDestroyXMLManager`.
+  virtual ~IXMLLiteManager() = default;
+
+  /// Reader: opens the file and stops on the root element. 0 is also returned when the input holds
+  /// no element or breaks off before one; the last-error value then holds the parser's answer, and
+  /// the root node's read answers -102. An empty file, a directory and a file that is in use by
+  /// another process (Windows) are refused with -101. A document type declaration is an error.
+  ///
+  /// Writer: creates the file or truncates it, and writes the XML declaration. A document that is
+  /// still open on this manager is finished first. To keep an earlier file until the new one is
+  /// complete, write to a name beside it and rename after `Close` returned 0.
+  virtual ConfigResult OpenFile(const wchar_t* path) = 0;
+
+  /// Reader: lets the file go; 0.
+  ///
+  /// Writer: closes the elements that are still open, flushes and lets the file go. -101 when the
+  /// document could not be finished or the flush failed (a full disk): the file stays open and the
+  /// next `Close`, or the destruction, tries again.
+  virtual ConfigResult Close() = 0;
+
+  /// Reader: reads a document from a zero-terminated wide string, which is copied; stops on the
+  /// root element as `OpenFile` does. -102 for null, for an empty text and for one that is too
+  /// long. A lone surrogate becomes U+FFFD.
+  ///
+  /// Writer: not supported; -101.
+  virtual ConfigResult OpenFromString(const wchar_t* xml_text) = 0;
+};
+
+/// Makes a manager: a writer when `writer` is nonzero, a reader when it is zero. The caller owns
+/// it.
+TOLVA_API IXMLLiteManager* tolvaCreateXMLManager(int writer);
+
+/// Destroys a manager; null is ignored. A writer's open document is finished and flushed first.
+TOLVA_API void tolvaDestroyXMLManager(IXMLLiteManager* manager);
+
+/// Installs the function that receives every diagnostic text of the process, replacing an earlier
+/// one; null removes it. It is called on the thread that failed, and the text is valid only during
+/// the call. Install it before other threads use the library.
+TOLVA_API void SetTolvaDebugDumpCallBack(void (*callback)(const wchar_t*));
+
+/// The calling thread's last-error value: the HRESULT of a failed platform call; -104 (attribute
+/// absent) and -102 as DWORDs; 1 where the reader found no suitable node; 0 after an attribute was
+/// read. What succeeds need not touch it: who sets it to 0 before opening a document, and finds a
+/// value 0xC00CExxx after the read of its root returned 0, knows that the document broke off. On
+/// Windows it is the system's own cell.
+TOLVA_API DWORD tolvaGetLastError();
+
+/// Sets the value that `tolvaGetLastError` reads.
+TOLVA_API void tolvaSetLastError(DWORD error);
