@@ -1,0 +1,112 @@
+#include "platform/posix/file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cwchar>
+#include <new>
+#include <string>
+
+#include "platform/utf.h"
+
+namespace tolva::platform {
+namespace posix {
+namespace {
+
+int Descriptor(HANDLE file) { return static_cast<int>(reinterpret_cast<LONG_PTR>(file)); }
+
+bool IsDirectory(const std::string& path) {
+  struct stat about {};
+  return stat(path.c_str(), &about) == 0 && S_ISDIR(about.st_mode);
+}
+
+/// POSIX says ENOENT for a missing file and for a missing folder alike; Windows tells them apart.
+DWORD ErrorOfMissing(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  if (path.empty()) return ERROR_PATH_NOT_FOUND;
+  if (slash == std::string::npos || slash == 0) return ERROR_FILE_NOT_FOUND;
+  return IsDirectory(path.substr(0, slash)) ? ERROR_FILE_NOT_FOUND : ERROR_PATH_NOT_FOUND;
+}
+
+}  // namespace
+
+DWORD ErrorOf(int error_number) noexcept {
+  switch (error_number) {
+    case ENOENT:
+      return ERROR_FILE_NOT_FOUND;
+    case ENOTDIR:
+    case ELOOP:
+      return ERROR_PATH_NOT_FOUND;
+    case EMFILE:
+    case ENFILE:
+      return ERROR_TOO_MANY_OPEN_FILES;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EISDIR:
+    case ETXTBSY:
+      return ERROR_ACCESS_DENIED;
+    case ENOMEM:
+      return ERROR_NOT_ENOUGH_MEMORY;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return ERROR_DISK_FULL;
+    case ENAMETOOLONG:
+      return ERROR_FILENAME_EXCED_RANGE;
+    case EIO:
+      return ERROR_IO_DEVICE;
+    default:
+      return ERROR_GEN_FAILURE;
+  }
+}
+
+int Open(const wchar_t* path, int flags, DWORD* error) noexcept try {
+  std::string name;
+  AppendUtf8(path, name);
+  // O_NONBLOCK: opening a named pipe must not wait for the process at its other end.
+  const int file = open(name.c_str(), flags | O_CLOEXEC | O_NONBLOCK, 0666);
+  if (file < 0) {
+    *error = errno == ENOENT ? ErrorOfMissing(name) : ErrorOf(errno);
+    return -1;
+  }
+  struct stat about {};
+  if (fstat(file, &about) != 0 || S_ISDIR(about.st_mode)) {
+    close(file);
+    *error = ERROR_ACCESS_DENIED;
+    return -1;
+  }
+  return file;
+} catch (const std::bad_alloc&) {
+  *error = ERROR_NOT_ENOUGH_MEMORY;
+  return -1;
+}
+
+}  // namespace posix
+
+HANDLE CreateFileW(const wchar_t* path, DWORD /*access*/, DWORD /*share_mode*/, void* /*security*/,
+                   DWORD /*disposition*/, DWORD /*flags*/, HANDLE /*template_file*/) noexcept {
+  DWORD error = 0;
+  const int file = posix::Open(path, O_RDONLY, &error);
+  if (file < 0) {
+    SetLastError(error);
+    return INVALID_HANDLE_VALUE;
+  }
+  return reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(file));
+}
+
+DWORD GetFileSize(HANDLE file, DWORD* size_high) noexcept {
+  struct stat about {};
+  if (fstat(posix::Descriptor(file), &about) != 0) about.st_size = 0;
+  const auto size = static_cast<std::uint64_t>(about.st_size);
+  if (size_high != nullptr) *size_high = static_cast<DWORD>(size >> 32);
+  return static_cast<DWORD>(size);
+}
+
+BOOL CloseHandle(HANDLE file) noexcept {
+  return close(posix::Descriptor(file)) == 0 ? TRUE : FALSE;
+}
+
+}  // namespace tolva::platform

@@ -1,0 +1,113 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <utility>
+
+#include "platform/posix/file.h"
+#include "platform/posix/system.h"
+#include "platform/ref_counted.h"
+
+namespace tolva::platform {
+namespace {
+
+HRESULT ResultOfErrno() { return HRESULT_FROM_WIN32(posix::ErrorOf(errno)); }
+
+class FileStream final : public RefCounted<IStream> {
+ public:
+  explicit FileStream(int file) : file_(file) {}
+  ~FileStream() override { close(file_); }
+
+  HRESULT Read(void* buffer, ULONG size, ULONG* read_count) noexcept override {
+    *read_count = 0;
+    while (*read_count < size) {
+      const ssize_t count =
+          read(file_, static_cast<char*>(buffer) + *read_count, size - *read_count);
+      if (count < 0 && errno == EINTR) continue;
+      if (count < 0) return ResultOfErrno();
+      if (count == 0) break;
+      *read_count += static_cast<ULONG>(count);
+    }
+    return *read_count == size ? S_OK : S_FALSE;
+  }
+
+  HRESULT Write(const void* buffer, ULONG size, ULONG* written) noexcept override {
+    *written = 0;
+    while (*written < size) {
+      const ssize_t count =
+          write(file_, static_cast<const char*>(buffer) + *written, size - *written);
+      if (count < 0 && errno == EINTR) continue;
+      if (count < 0) return ResultOfErrno();
+      *written += static_cast<ULONG>(count);
+    }
+    return S_OK;
+  }
+
+ private:
+  const int file_;
+};
+
+class MemoryStream final : public RefCounted<IStream> {
+ public:
+  MemoryStream(std::unique_ptr<BYTE[]> bytes, UINT size) : bytes_(std::move(bytes)), size_(size) {}
+
+  HRESULT Read(void* buffer, ULONG size, ULONG* read_count) noexcept override {
+    const ULONG count = std::min(size, size_ - position_);
+    if (count != 0) std::memcpy(buffer, bytes_.get() + position_, count);
+    position_ += count;
+    *read_count = count;
+    return count == size ? S_OK : S_FALSE;
+  }
+
+  HRESULT Write(const void* /*buffer*/, ULONG /*size*/, ULONG* /*written*/) noexcept override {
+    return E_NOTIMPL;
+  }
+
+ private:
+  const std::unique_ptr<BYTE[]> bytes_;
+  const UINT size_;
+  UINT position_ = 0;
+};
+
+/// Reading takes files only; writing takes devices too (/dev/null), but no pipe, whose reader might
+/// go away.
+bool IsAcceptable(int file, bool for_writing) {
+  struct stat about {};
+  if (fstat(file, &about) != 0) return false;
+  return S_ISREG(about.st_mode) || (for_writing && S_ISCHR(about.st_mode));
+}
+
+}  // namespace
+
+HRESULT SHCreateStreamOnFileW(const wchar_t* path, DWORD mode, IStream** stream) noexcept {
+  *stream = nullptr;
+  const bool for_writing = (mode & STGM_WRITE) != 0;
+  DWORD error = 0;
+  const int file = posix::Open(path, for_writing ? O_WRONLY | O_CREAT | O_TRUNC : O_RDONLY, &error);
+  if (file < 0) return HRESULT_FROM_WIN32(error);
+  if (!IsAcceptable(file, for_writing)) {
+    close(file);
+    return HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED);
+  }
+  fcntl(file, F_SETFL, fcntl(file, F_GETFL) & ~O_NONBLOCK);
+  *stream = new (std::nothrow) FileStream(file);
+  if (*stream == nullptr) {
+    close(file);
+    return E_OUTOFMEMORY;
+  }
+  return S_OK;
+}
+
+IStream* SHCreateMemStream(const BYTE* bytes, UINT size) noexcept {
+  std::unique_ptr<BYTE[]> copy(new (std::nothrow) BYTE[size]);
+  if (copy == nullptr) return nullptr;
+  if (size != 0) std::memcpy(copy.get(), bytes, size);
+  return new (std::nothrow) MemoryStream(std::move(copy), size);
+}
+
+}  // namespace tolva::platform

@@ -1,0 +1,124 @@
+// The Windows interfaces that the library calls, for systems that have none of them: names,
+// signatures and results are those of the Windows SDK, narrowed to what is called here. Flags that
+// have no counterpart are accepted and have no effect.
+#pragma once
+
+#include <cstdint>
+
+#include <tolva/types.h>
+
+struct IMalloc;
+
+namespace tolva::platform {
+
+// ---- types -------------------------------------------------------------------------------------
+
+using BOOL = int;
+using BYTE = unsigned char;
+using UINT = std::uint32_t;
+using ULONG = std::uint32_t;
+using LONG_PTR = std::intptr_t;
+using HRESULT = std::int32_t;
+using HANDLE = void*;
+
+inline constexpr BOOL FALSE = 0;
+inline constexpr BOOL TRUE = 1;
+
+// ---- results -----------------------------------------------------------------------------------
+
+inline constexpr HRESULT S_OK = 0;
+inline constexpr HRESULT S_FALSE = 1;
+inline constexpr auto E_NOTIMPL = static_cast<HRESULT>(0x80004001);
+inline constexpr auto E_NOINTERFACE = static_cast<HRESULT>(0x80004002);
+inline constexpr auto E_FAIL = static_cast<HRESULT>(0x80004005);
+inline constexpr auto E_UNEXPECTED = static_cast<HRESULT>(0x8000FFFF);
+inline constexpr auto E_INVALIDARG = static_cast<HRESULT>(0x80070057);
+inline constexpr auto E_OUTOFMEMORY = static_cast<HRESULT>(0x8007000E);
+
+constexpr bool SUCCEEDED(HRESULT result) { return result >= 0; }
+constexpr bool FAILED(HRESULT result) { return result < 0; }
+
+inline constexpr DWORD ERROR_FILE_NOT_FOUND = 2;
+inline constexpr DWORD ERROR_PATH_NOT_FOUND = 3;
+inline constexpr DWORD ERROR_TOO_MANY_OPEN_FILES = 4;
+inline constexpr DWORD ERROR_ACCESS_DENIED = 5;
+inline constexpr DWORD ERROR_NOT_ENOUGH_MEMORY = 8;
+inline constexpr DWORD ERROR_GEN_FAILURE = 31;
+inline constexpr DWORD ERROR_DISK_FULL = 112;
+inline constexpr DWORD ERROR_FILENAME_EXCED_RANGE = 206;
+inline constexpr DWORD ERROR_IO_DEVICE = 1117;
+
+constexpr HRESULT HRESULT_FROM_WIN32(DWORD error) {
+  return error == 0 ? S_OK : static_cast<HRESULT>(0x80070000U | (error & 0xFFFFU));
+}
+
+/// The calling thread's last-error value. A cell of its own, not `errno`, which any C library call
+/// may change.
+DWORD GetLastError() noexcept;
+void SetLastError(DWORD error) noexcept;
+
+// ---- streams -----------------------------------------------------------------------------------
+
+/// A sequence of bytes, reference-counted; destroyed by the last Release.
+class ISequentialStream {
+ public:
+  ISequentialStream() = default;
+  ISequentialStream(const ISequentialStream&) = delete;
+  ISequentialStream& operator=(const ISequentialStream&) = delete;
+
+  virtual ULONG AddRef() noexcept = 0;
+  virtual ULONG Release() noexcept = 0;
+
+  /// Reads up to `size` bytes. `*read` is less than `size` only at the end or on a failure.
+  virtual HRESULT Read(void* buffer, ULONG size, ULONG* read) noexcept = 0;
+
+  /// Writes `size` bytes; `*written` says how many arrived.
+  virtual HRESULT Write(const void* buffer, ULONG size, ULONG* written) noexcept = 0;
+
+ protected:
+  virtual ~ISequentialStream() = default;
+};
+
+/// Seeking and the rest of the Windows interface are not used by the library.
+class IStream : public ISequentialStream {};
+
+inline constexpr DWORD STGM_READ = 0;
+inline constexpr DWORD STGM_WRITE = 1;
+inline constexpr DWORD STGM_CREATE = 0x1000;
+
+/// Opens a file as a stream: STGM_READ, or STGM_CREATE | STGM_WRITE, which creates or truncates it.
+/// Reading a directory or anything that is not made of bytes fails like a missing permission.
+HRESULT SHCreateStreamOnFileW(const wchar_t* path, DWORD mode, IStream** stream) noexcept;
+
+/// A stream over a copy of `size` bytes; null when memory is short.
+IStream* SHCreateMemStream(const BYTE* bytes, UINT size) noexcept;
+
+// ---- files -------------------------------------------------------------------------------------
+
+inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1));
+inline constexpr DWORD GENERIC_READ = 0x80000000;
+inline constexpr DWORD OPEN_EXISTING = 3;
+inline constexpr DWORD FILE_ATTRIBUTE_NORMAL = 0x80;
+inline constexpr DWORD FILE_FLAG_OVERLAPPED = 0x40000000;
+
+/// Opens an existing file for reading, the only way in which the library calls it. There is no
+/// share mode: a file that another process holds open is opened all the same.
+HANDLE CreateFileW(const wchar_t* path, DWORD access, DWORD share_mode, void* security,
+                   DWORD disposition, DWORD flags, HANDLE template_file) noexcept;
+
+/// The low 32 bits of the file's size.
+DWORD GetFileSize(HANDLE file, DWORD* size_high) noexcept;
+
+BOOL CloseHandle(HANDLE file) noexcept;
+
+// ---- text --------------------------------------------------------------------------------------
+
+inline constexpr UINT CP_UTF8 = 65001;
+
+/// Converts to UTF-8. Wide strings are code points here: a surrogate pair is combined, and a lone
+/// surrogate or a value beyond U+10FFFF becomes U+FFFD. Without a buffer the result is the size
+/// needed; 0 is a failure (no text, a result that does not fit).
+int WideCharToMultiByte(UINT code_page, DWORD flags, const wchar_t* text, int length, char* buffer,
+                        int capacity, const char* default_char, BOOL* default_used) noexcept;
+
+}  // namespace tolva::platform

@@ -1,0 +1,32 @@
+#include <cstring>
+#include <limits>
+#include <string_view>
+
+#include "platform/posix/system.h"
+#include "platform/utf.h"
+
+namespace tolva::platform {
+
+int WideCharToMultiByte(UINT /*code_page*/, DWORD /*flags*/, const wchar_t* text, int length,
+                        char* buffer, int capacity, const char* /*default_char*/,
+                        BOOL* /*default_used*/) noexcept {
+  if (text == nullptr || length <= 0) return 0;
+  std::size_t size = 0;
+  const wchar_t* at = text;
+  const wchar_t* const end = text + length;
+  while (at != end) {
+    char bytes[4];
+    char32_t c = TakeCodePoint(at, end);
+    if (IsSurrogate(c) || c > kLastCodePoint) c = kReplacementCharacter;
+    const auto count = static_cast<std::size_t>(EncodeUtf8(c, bytes) - bytes);
+    if (size + count > static_cast<std::size_t>(std::numeric_limits<int>::max())) return 0;
+    if (buffer != nullptr) {
+      if (size + count > static_cast<std::size_t>(capacity)) return 0;
+      std::memcpy(buffer + size, bytes, count);
+    }
+    size += count;
+  }
+  return static_cast<int>(size);
+}
+
+}  // namespace tolva::platform

@@ -1,0 +1,61 @@
+// Sixteen bytes at a time: SSE2 where the compiler has it, which on x86-64 is always. Code that
+// uses this has a plain loop for the rest of a run, and that loop alone elsewhere.
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+
+#if defined(__SSE2__) || defined(_M_X64)
+#include <emmintrin.h>
+#define TOLVA_HAS_VECTORS 1
+#else
+#define TOLVA_HAS_VECTORS 0
+#endif
+
+#if TOLVA_HAS_VECTORS
+namespace tolva::platform {
+
+/// One bit for each of sixteen bytes.
+using Mask = std::uint32_t;
+
+class Bytes {
+ public:
+  static constexpr std::size_t kCount = 16;
+
+  static Bytes Load(const char* at) {
+    return Bytes(_mm_loadu_si128(reinterpret_cast<const __m128i*>(at)));
+  }
+
+  Bytes Is(char c) const { return Bytes(_mm_cmpeq_epi8(bytes_, _mm_set1_epi8(c))); }
+
+  /// Control characters and all bytes outside ASCII: as signed numbers, those below a blank.
+  Bytes IsBelowBlankOrNonAscii() const {
+    return Bytes(_mm_cmplt_epi8(bytes_, _mm_set1_epi8(0x20)));
+  }
+
+  /// Control characters alone.
+  Bytes IsBelowBlank() const {
+    return Bytes(_mm_cmpeq_epi8(_mm_min_epu8(bytes_, _mm_set1_epi8(0x1F)), bytes_));
+  }
+
+  Bytes operator|(Bytes other) const { return Bytes(_mm_or_si128(bytes_, other.bytes_)); }
+
+  Mask ToMask() const { return static_cast<Mask>(_mm_movemask_epi8(bytes_)); }
+
+  bool IsAscii() const { return ToMask() == 0; }
+
+  __m128i native() const { return bytes_; }
+
+ private:
+  explicit Bytes(__m128i bytes) : bytes_(bytes) {}
+
+  __m128i bytes_;
+};
+
+inline constexpr Mask kAll = 0xFFFF;
+
+inline unsigned FirstOf(Mask mask) { return static_cast<unsigned>(std::countr_zero(mask)); }
+
+}  // namespace tolva::platform
+#endif

@@ -1,0 +1,35 @@
+// From the text of a document to the value that it stands for.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "platform/buffer.h"
+#include "platform/xml/hresults.h"
+
+namespace tolva::platform::own_xml {
+
+/// A scan met the end of the window: more input is needed to go on. No failure code.
+inline constexpr HRESULT kMoreInput = 2;
+
+/// A character or entity reference.
+struct Reference {
+  HRESULT result;      ///< S_OK, kMoreInput, or what is wrong with it
+  const char* end;     ///< behind the semicolon
+  char32_t character;  ///< what it stands for
+};
+
+/// Reads the reference that starts with the '&' at `at`, in text that ends with zero.
+Reference ReadReference(const char* at);
+
+/// What has to be done to a value's text.
+enum class ValueKind : std::uint8_t {
+  kLiteral,    ///< line ends: CR LF and CR become LF (comments, CDATA, processing instructions)
+  kText,       ///< line ends and references
+  kAttribute,  ///< line ends, TAB and LF become blanks; references
+};
+
+/// Appends the value of `raw`, which has been found well-formed.
+void AppendValue(std::string_view raw, ValueKind kind, Buffer<char>& out);
+
+}  // namespace tolva::platform::own_xml

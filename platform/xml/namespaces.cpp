@@ -1,0 +1,174 @@
+#include "platform/xml/namespaces.h"
+
+#include <algorithm>
+#include <chrono>
+#include <tuple>
+
+#include "platform/xml/decode.h"
+
+namespace tolva::platform::own_xml {
+namespace {
+
+constexpr std::string_view kXmlUri = "http://www.w3.org/XML/1998/namespace";
+constexpr std::string_view kXmlnsUri = "http://www.w3.org/2000/xmlns/";
+
+/// Stands for the namespace of the prefix "xml", which needs no declaration.
+constexpr ScopedStrings::Id kXmlNamespace = ScopedStrings::kNone - 1;
+
+/// What a document with very many names has needed is not kept behind it.
+constexpr std::size_t kSlotsKept = 4096;
+constexpr std::size_t kNamesKept = 1024;
+
+constexpr std::uint64_t kHashPrime = 0x7FFFFFFF;
+
+/// A number that the author of a document cannot foresee.
+std::uint64_t MakeHashKey(const void* address) {
+  const auto time = std::chrono::steady_clock::now().time_since_epoch().count();
+  const auto mixed =
+      (static_cast<std::uint64_t>(time) ^ reinterpret_cast<std::uintptr_t>(address)) *
+      0x9E3779B97F4A7C15U;
+  return 256 + (mixed >> 20) % (kHashPrime - 512);
+}
+
+}  // namespace
+
+ScopedStrings::ScopedStrings() : key_(MakeHashKey(this)) {}
+
+/// The text's bytes as the coefficients of a polynomial, evaluated at the key: two texts of n bytes
+/// share a value for at most n of the two thousand million keys.
+std::uint32_t ScopedStrings::Hash(std::string_view text) const {
+  std::uint64_t hash = text.size();
+  for (const char c : text) hash = (hash * key_ + static_cast<unsigned char>(c)) % kHashPrime;
+  return static_cast<std::uint32_t>(hash);
+}
+
+std::string_view ScopedStrings::TextOf(const Entry& entry) const {
+  return {characters_.data() + entry.start, entry.size};
+}
+
+/// Where the text is, or where it belongs.
+std::size_t ScopedStrings::SlotOf(std::string_view text, std::uint32_t hash) const {
+  const std::size_t mask = slots_.size() - 1;
+  std::size_t slot = hash & mask;
+  while (slots_[slot] != kNone) {
+    const Entry& entry = entries_.data()[slots_[slot]];
+    if (entry.hash == hash && TextOf(entry) == text) break;
+    slot = (slot + 1) & mask;
+  }
+  return slot;
+}
+
+ScopedStrings::Id ScopedStrings::Find(std::string_view text) const {
+  return slots_.empty() ? kNone : slots_[SlotOf(text, Hash(text))];
+}
+
+ScopedStrings::Id ScopedStrings::Push(std::string_view text) {
+  if ((entries_.size() + 1) * 2 > slots_.size()) GrowSlots();
+  const std::uint32_t hash = Hash(text);
+  const std::size_t slot = SlotOf(text, hash);
+  const auto id = static_cast<Id>(entries_.size());
+  const std::size_t start = characters_.size();
+  entries_.Room(1);
+  characters_.Append(text.data(), text.size());
+  entries_.Append(Entry{start, text.size(), hash, slots_[slot]});
+  slots_[slot] = id;
+  return id;
+}
+
+void ScopedStrings::Truncate(std::size_t count) {
+  while (entries_.size() > count) {
+    const Entry& last = entries_.data()[entries_.size() - 1];
+    // Emptying a slot breaks no search: whatever was placed past it has gone before.
+    slots_[SlotOf(TextOf(last), last.hash)] = last.hidden;
+    characters_.Truncate(last.start);
+    entries_.Truncate(entries_.size() - 1);
+  }
+  if (count == 0 && slots_.size() > kSlotsKept) {
+    slots_ = std::vector<Id>();
+    characters_.Clear();
+    entries_.Clear();
+  }
+}
+
+void ScopedStrings::GrowSlots() {
+  slots_ = std::vector<Id>(std::max<std::size_t>(16, slots_.size() * 2), kNone);
+  // Oldest first, so that the order in which slots were taken stays that of the strings.
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    const Entry& entry = entries_.data()[i];
+    slots_[SlotOf(TextOf(entry), entry.hash)] = static_cast<Id>(i);
+  }
+}
+
+HRESULT Namespaces::Enter(const Name& element, std::span<const Attribute> attributes) {
+  for (const Attribute& attribute : attributes) {
+    const bool declares = attribute.name.text == "xmlns" || attribute.name.PrefixText() == "xmlns";
+    if (!declares) continue;
+    const HRESULT result = Declare(attribute);
+    if (FAILED(result)) return result;
+  }
+
+  ScopedStrings::Id uri = ScopedStrings::kNone;
+  if (element.prefix != 0) {
+    const HRESULT result = Resolve(element.PrefixText(), uri);
+    if (FAILED(result)) return result;
+  }
+
+  if (names_.capacity() > kNamesKept) names_ = std::vector<ExpandedName>();
+  names_.clear();
+  for (const Attribute& attribute : attributes) {
+    if (attribute.name.prefix == 0 || attribute.name.PrefixText() == "xmlns") continue;
+    const HRESULT result = Resolve(attribute.name.PrefixText(), uri);
+    if (FAILED(result)) return result;
+    names_.push_back({uri, attribute.name.Local()});
+  }
+  const auto key = [](const ExpandedName& name) { return std::tie(name.uri, name.local); };
+  std::sort(names_.begin(), names_.end(),
+            [key](const ExpandedName& a, const ExpandedName& b) { return key(a) < key(b); });
+  const auto same = std::adjacent_find(
+      names_.begin(), names_.end(),
+      [key](const ExpandedName& a, const ExpandedName& b) { return key(a) == key(b); });
+  return same == names_.end() ? S_OK : WC_E_UNIQUEATTRIBUTE;
+}
+
+HRESULT Namespaces::Declare(const Attribute& attribute) {
+  uri_.Clear();
+  AppendValue(attribute.value, ValueKind::kAttribute, uri_);
+  const std::string_view uri(uri_.data(), uri_.size());
+  const bool is_default = attribute.name.prefix == 0;
+  const std::string_view prefix = attribute.name.Local();
+  if (!is_default && prefix == "xmlns") return NC_E_XMLNSPREFIXRESERVED;
+  if (!is_default && prefix == "xml") return uri == kXmlUri ? S_OK : NC_E_XMLPREFIXRESERVED;
+  if (uri == kXmlUri) return NC_E_XMLURIRESERVED;
+  if (uri == kXmlnsUri) return NC_E_XMLNSURIRESERVED;
+  // The default namespace decides nothing here: attributes are not in it.
+  if (is_default) return S_OK;
+  if (uri.empty()) return NC_E_EMPTYURI;
+
+  const std::size_t uris_before = uris_.size();
+  ScopedStrings::Id id = uris_.Find(uri);
+  if (id == ScopedStrings::kNone) id = uris_.Push(uri);
+  bindings_.Append(Binding{id, uris_before});
+  prefixes_.Push(prefix);
+  return S_OK;
+}
+
+HRESULT Namespaces::Resolve(std::string_view prefix, ScopedStrings::Id& uri) const {
+  if (prefix == "xmlns") return NC_E_XMLNSPREFIXRESERVED;
+  if (prefix == "xml") {
+    uri = kXmlNamespace;
+    return S_OK;
+  }
+  const ScopedStrings::Id binding = prefixes_.Find(prefix);
+  if (binding == ScopedStrings::kNone) return NC_E_UNDECLAREDPREFIX;
+  uri = bindings_.data()[binding].uri;
+  return S_OK;
+}
+
+void Namespaces::Leave(std::size_t count) {
+  if (count >= bindings_.size()) return;
+  uris_.Truncate(bindings_.data()[count].uris_before);
+  bindings_.Truncate(count);
+  prefixes_.Truncate(count);
+}
+
+}  // namespace tolva::platform::own_xml

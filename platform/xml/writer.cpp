@@ -1,0 +1,390 @@
+#include "platform/xml/writer.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <cwchar>
+#include <limits>
+#include <new>
+
+#include "platform/utf.h"
+#include "platform/xml/characters.h"
+
+namespace tolva::platform {
+namespace {
+
+/// A call starts by handing over what has been written when there is this much of it.
+constexpr std::size_t kBlock = std::size_t{64} * 1024;
+
+enum Escaped : std::uint8_t { kInAttribute = 1, kInText = 2 };
+
+/// The ASCII characters that cannot be written as they are, and where.
+constexpr auto kEscapes = [] {
+  std::array<std::uint8_t, 128> escapes{};
+  for (unsigned c = 0; c < 0x20; ++c) escapes[c] = kInAttribute | kInText;
+  escapes['\t'] = kInAttribute;
+  escapes['\n'] = kInAttribute;
+  escapes['"'] = kInAttribute;
+  for (const char c : {'&', '<', '>'}) {
+    escapes[static_cast<unsigned char>(c)] = kInAttribute | kInText;
+  }
+  return escapes;
+}();
+
+/// What stands for a character of `kEscapes`; empty for one that XML does not allow.
+std::string_view EscapeOf(wchar_t c) {
+  switch (c) {
+    case '&':
+      return "&amp;";
+    case '<':
+      return "&lt;";
+    case '>':
+      return "&gt;";
+    case '"':
+      return "&quot;";
+    case '\t':
+      return "&#x9;";
+    case '\n':
+      return "&#xA;";
+    case '\r':
+      return "&#xD;";
+    case ' ':
+      return "&#x20;";
+    default:
+      return {};
+  }
+}
+
+/// Appends a value, escaped for its place.
+HRESULT AppendEscaped(const wchar_t* text, Escaped place, Buffer<char>& out) {
+  // Room for a stretch of characters is made at once; no character takes more than six bytes.
+  constexpr std::ptrdiff_t kStretch = 1024;
+  const wchar_t* const end = text + std::wcslen(text);
+  while (text != end) {
+    const wchar_t* const stretch = text + std::min(kStretch, end - text);
+    char* const start = out.Room(6 * kStretch);
+    char* to = start;
+    while (text < stretch) {
+      const auto unit = static_cast<char32_t>(*text);
+      if (unit < 0x80) {
+        ++text;
+        if ((kEscapes[unit] & place) == 0) {
+          *to++ = static_cast<char>(unit);
+          continue;
+        }
+        const std::string_view escape = EscapeOf(static_cast<wchar_t>(unit));
+        if (escape.empty()) return WC_E_XMLCHARACTER;
+        to = std::copy(escape.begin(), escape.end(), to);
+        continue;
+      }
+      const char32_t c = TakeCodePoint(text, end);
+      if (IsSurrogate(c)) return WR_E_INVALIDSURROGATEPAIR;
+      if (!IsXmlCharacter(c)) return WC_E_XMLCHARACTER;
+      to = EncodeUtf8(c, to);
+    }
+    out.Commit(static_cast<std::size_t>(to - start));
+  }
+  return S_OK;
+}
+
+bool IsBlank(wchar_t c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+
+bool IsSet(const wchar_t* text) { return text != nullptr && *text != 0; }
+
+}  // namespace
+
+// ---- changes -----------------------------------------------------------------------------------
+
+XmlWriter::Change::Change(XmlWriter& writer)
+    : writer_(writer),
+      size_(writer.out_.size()),
+      names_size_(writer.open_names_.size()),
+      depth_(writer.open_elements_.size()),
+      state_(writer.state_),
+      at_line_start_(writer.at_line_start_),
+      has_text_(depth_ != 0 && writer.Innermost().has_text) {}
+
+XmlWriter::Change::~Change() {
+  if (kept_) return;
+  writer_.out_.Truncate(size_);
+  writer_.open_names_.Truncate(names_size_);
+  writer_.open_elements_.Truncate(depth_);
+  // A call out of place has closed the document.
+  if (writer_.state_ != State::kClosed) writer_.state_ = state_;
+  writer_.at_line_start_ = at_line_start_;
+  if (depth_ != 0) writer_.Innermost().has_text = has_text_;
+}
+
+// ---- documents ---------------------------------------------------------------------------------
+
+HRESULT XmlWriter::SetOutput(ISequentialStream* output) noexcept {
+  if (output_) {
+    try {
+      if (IsInElement() || state_ == State::kEpilog) WriteEndDocument();
+      Flush();
+    } catch (const std::bad_alloc&) {
+      // The last document is left as far as it came.
+    }
+  }
+  output_.Share(output);
+  state_ = State::kNothing;
+  at_line_start_ = true;
+  out_.Clear();
+  open_names_.Clear();
+  open_elements_.Clear();
+  return S_OK;
+}
+
+HRESULT XmlWriter::SetProperty(UINT property, LONG_PTR value) {
+  return property == XmlWriterProperty_Indent && value != FALSE ? S_OK : E_NOTIMPL;
+}
+
+/// What every call asks first.
+HRESULT XmlWriter::Begin() {
+  if (!output_) return E_UNEXPECTED;
+  if (state_ == State::kClosed) return WR_E_INVALIDACTION;
+  return out_.size() < kBlock ? S_OK : Drain();
+}
+
+HRESULT XmlWriter::Refuse() {
+  state_ = State::kClosed;
+  return WR_E_INVALIDACTION;
+}
+
+/// Empties `out_` into the stream; what the stream does not take stays.
+HRESULT XmlWriter::Drain() {
+  HRESULT result = S_OK;
+  std::size_t gone = 0;
+  while (gone < out_.size() && SUCCEEDED(result)) {
+    const std::size_t left = out_.size() - gone;
+    const auto count =
+        static_cast<ULONG>(std::min<std::size_t>(left, std::numeric_limits<ULONG>::max() / 2));
+    ULONG written = 0;
+    result = output_->Write(out_.data() + gone, count, &written);
+    gone += written;
+    if (SUCCEEDED(result) && written == 0) result = HRESULT_FROM_WIN32(ERROR_DISK_FULL);
+  }
+  const std::size_t left = out_.size() - gone;
+  if (gone != 0 && left != 0) std::memmove(out_.data(), out_.data() + gone, left);
+  out_.Truncate(left);
+  return FAILED(result) ? result : S_OK;
+}
+
+HRESULT XmlWriter::Flush() { return output_ ? Drain() : S_OK; }
+
+HRESULT XmlWriter::WriteStartDocument(XmlStandalone standalone) {
+  if (standalone != XmlStandalone_Omit) return E_NOTIMPL;
+  const HRESULT ready = Begin();
+  if (FAILED(ready)) return ready;
+  if (state_ != State::kNothing) return Refuse();
+  Change change(*this);
+  Put(R"(<?xml version="1.0" encoding="UTF-8"?>)");
+  at_line_start_ = false;
+  state_ = State::kProlog;
+  return change.Keep();
+}
+
+HRESULT XmlWriter::WriteEndDocument() {
+  const HRESULT ready = Begin();
+  if (FAILED(ready)) return ready;
+  if (!IsInElement() && state_ != State::kEpilog) return Refuse();
+  while (IsInElement()) {
+    const HRESULT result = EndElement(false);
+    if (FAILED(result)) return result;
+  }
+  Change change(*this);
+  if (!at_line_start_) Put("\n");
+  state_ = State::kClosed;
+  return change.Keep();
+}
+
+// ---- elements ----------------------------------------------------------------------------------
+
+HRESULT XmlWriter::WriteStartElement(const wchar_t* prefix, const wchar_t* name,
+                                     const wchar_t* uri) {
+  if (!IsSet(name)) return E_INVALIDARG;
+  if (IsSet(prefix) || IsSet(uri)) return E_NOTIMPL;
+  const HRESULT ready = Begin();
+  if (FAILED(ready)) return ready;
+  Change change(*this);
+  const HRESULT result = StartElement(name);
+  if (FAILED(result)) return result;
+  twin_names_.Clear();
+  attribute_names_.Clear();
+  attribute_name_ends_.Clear();
+  return change.Keep();
+}
+
+HRESULT XmlWriter::StartElement(const wchar_t* name) {
+  if (state_ == State::kEpilog) return Refuse();
+  FinishStartTag();
+  const bool on_new_line = open_elements_.size() == 0 || !Innermost().has_text;
+  if (on_new_line) PutLineBreak(open_elements_.size());
+  Put("<");
+  const std::size_t name_start = out_.size();
+  const HRESULT result = PutName(name);
+  if (FAILED(result)) return result;
+  open_elements_.Append(OpenElement{open_names_.size(), false});
+  open_names_.Append(out_.data() + name_start, out_.size() - name_start);
+  state_ = State::kStartTag;
+  at_line_start_ = false;
+  return S_OK;
+}
+
+HRESULT XmlWriter::WriteAttributeString(const wchar_t* prefix, const wchar_t* name,
+                                        const wchar_t* uri, const wchar_t* value) {
+  if (!IsSet(name)) return E_INVALIDARG;
+  if (IsSet(prefix) || IsSet(uri)) return E_NOTIMPL;
+  if (std::wcscmp(name, L"xmlns") == 0) return WR_E_XMLNSPREFIXDECLARATION;
+  const HRESULT ready = Begin();
+  if (FAILED(ready)) return ready;
+  if (state_ != State::kStartTag) return Refuse();
+
+  Change change(*this);
+  Put(" ");
+  const std::size_t name_start = out_.size();
+  HRESULT result = PutName(name);
+  if (FAILED(result)) return result;
+  const std::size_t name_size = out_.size() - name_start;
+  Put("=\"");
+  result = PutAttributeValue(value);
+  if (FAILED(result)) return result;
+  Put("\"");
+
+  const std::string_view new_name(out_.data() + name_start, name_size);
+  const auto is_new_name = [this, new_name](std::size_t i) {
+    const std::size_t start = i == 0 ? 0 : attribute_name_ends_.data()[i - 1];
+    const std::size_t end = attribute_name_ends_.data()[i];
+    return std::string_view(attribute_names_.data() + start, end - start) == new_name;
+  };
+  attribute_name_ends_.Room(1);
+  attribute_names_.Room(name_size);
+  bool has_twin = false;
+  if (twin_names_.MayHaveTwin(new_name)) {
+    for (std::size_t i = 0; i < attribute_name_ends_.size(); ++i) {
+      has_twin = has_twin || is_new_name(i);
+    }
+  }
+  if (has_twin) return WR_E_DUPLICATEATTRIBUTE;
+  attribute_names_.Append(new_name.data(), name_size);
+  attribute_name_ends_.Append(attribute_names_.size());
+  return change.Keep();
+}
+
+HRESULT XmlWriter::WriteString(const wchar_t* text) {
+  if (text == nullptr) return S_OK;
+  const HRESULT ready = Begin();
+  if (FAILED(ready)) return ready;
+  if (!IsInElement()) return Refuse();
+  Change change(*this);
+  FinishStartTag();
+  const HRESULT result = PutText(text);
+  return FAILED(result) ? result : change.Keep();
+}
+
+HRESULT XmlWriter::WriteWhitespace(const wchar_t* text) {
+  if (text == nullptr) return S_OK;
+  const std::wstring_view blanks(text);
+  if (!std::all_of(blanks.begin(), blanks.end(), IsBlank)) return WR_E_NONWHITESPACE;
+  const HRESULT ready = Begin();
+  if (FAILED(ready)) return ready;
+  Change change(*this);
+  FinishStartTag();
+  for (const wchar_t c : blanks) out_.Append(static_cast<char>(c));
+  if (state_ == State::kNothing) state_ = State::kProlog;
+  if (!blanks.empty()) at_line_start_ = blanks.back() == '\n';
+  return change.Keep();
+}
+
+HRESULT XmlWriter::WriteEndElement() {
+  const HRESULT ready = Begin();
+  return FAILED(ready) ? ready : EndElement(false);
+}
+
+HRESULT XmlWriter::WriteFullEndElement() {
+  const HRESULT ready = Begin();
+  return FAILED(ready) ? ready : EndElement(true);
+}
+
+HRESULT XmlWriter::EndElement(bool full) {
+  if (!IsInElement()) return Refuse();
+  Change change(*this);
+  const OpenElement element = Innermost();
+  const bool is_empty = state_ == State::kStartTag;
+  if (is_empty && !full) {
+    Put("/>");
+  } else {
+    FinishStartTag();
+    if (!is_empty && !element.has_text) PutLineBreak(open_elements_.size() - 1);
+    Put("</");
+    out_.Append(open_names_.data() + element.name_start, open_names_.size() - element.name_start);
+    Put(">");
+  }
+  open_elements_.Truncate(open_elements_.size() - 1);
+  open_names_.Truncate(element.name_start);
+  state_ = open_elements_.size() == 0 ? State::kEpilog : State::kContent;
+  at_line_start_ = false;
+  return change.Keep();
+}
+
+HRESULT XmlWriter::WriteElementString(const wchar_t* prefix, const wchar_t* name,
+                                      const wchar_t* uri, const wchar_t* text) {
+  if (!IsSet(name)) return E_INVALIDARG;
+  if (IsSet(prefix) || IsSet(uri)) return E_NOTIMPL;
+  const HRESULT ready = Begin();
+  if (FAILED(ready)) return ready;
+  Change change(*this);
+  HRESULT result = StartElement(name);
+  if (FAILED(result)) return result;
+  if (text != nullptr) {
+    FinishStartTag();
+    result = PutText(text);
+    if (FAILED(result)) return result;
+  }
+  result = EndElement(text != nullptr);
+  return FAILED(result) ? result : change.Keep();
+}
+
+// ---- pieces ------------------------------------------------------------------------------------
+
+HRESULT XmlWriter::PutName(const wchar_t* name) {
+  const wchar_t* const end = name + std::wcslen(name);
+  for (const wchar_t* at = name; at != end;) {
+    const bool first = at == name;
+    const char32_t c = TakeCodePoint(at, end);
+    const bool legal = first ? own_xml::IsNameStartCharacter(c) : own_xml::IsNameCharacter(c);
+    if (!legal) return WC_E_NAMECHARACTER;
+    char* const room = out_.Room(4);
+    out_.Commit(static_cast<std::size_t>(EncodeUtf8(c, room) - room));
+  }
+  return S_OK;
+}
+
+HRESULT XmlWriter::PutAttributeValue(const wchar_t* value) {
+  return value == nullptr ? S_OK : AppendEscaped(value, kInAttribute, out_);
+}
+
+HRESULT XmlWriter::PutText(const wchar_t* text) {
+  Innermost().has_text = true;
+  at_line_start_ = false;
+  const std::wstring_view all(text);
+  if (!all.empty() && std::all_of(all.begin(), all.end(), IsBlank)) {
+    Put(EscapeOf(*text++));
+  }
+  return AppendEscaped(text, kInText, out_);
+}
+
+/// Goes to the start of a new line, indented for an element at this depth.
+void XmlWriter::PutLineBreak(std::size_t depth) {
+  if (!at_line_start_) Put("\n");
+  for (std::size_t i = 0; i < depth; ++i) Put("  ");
+  at_line_start_ = false;
+}
+
+void XmlWriter::FinishStartTag() {
+  if (state_ != State::kStartTag) return;
+  Put(">");
+  state_ = State::kContent;
+}
+
+}  // namespace tolva::platform
