@@ -1,0 +1,31 @@
+// The exported functions that make managers, install the callback and reach the last-error value.
+#include <tolva/xml/manager.h>
+
+#include <memory>
+
+#include "xml/debug_dump.h"
+#include "xml/reader.h"
+#include "xml/writer.h"
+
+IXMLLiteManager* tolvaCreateXMLManager(int writer) {
+  if (writer != 0) return std::make_unique<tolva::xml::CXMLLiteManagerWriter>().release();
+  return std::make_unique<tolva::xml::CXMLLiteManagerReader>().release();
+}
+
+void tolvaDestroyXMLManager(IXMLLiteManager* manager) {
+  const std::unique_ptr<IXMLLiteManager> owned(manager);
+}
+
+void SetTolvaDebugDumpCallBack(void (*callback)(const wchar_t*)) {
+  tolva::xml::SetDebugDumpCallback(callback);
+}
+
+DWORD tolvaGetLastError() {
+  using namespace tolva::platform;
+  return GetLastError();
+}
+
+void tolvaSetLastError(DWORD error) {
+  using namespace tolva::platform;
+  SetLastError(error);
+}

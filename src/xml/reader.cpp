@@ -1,0 +1,230 @@
+#include "xml/reader.h"
+
+#include <cwchar>
+#include <limits>
+#include <new>
+#include <vector>
+
+namespace tolva::xml {
+namespace {
+
+// Last errors that are results of the library or plain numbers, not HRESULTs.
+constexpr auto kNoSuitableNode = DWORD{1};
+constexpr auto kNoSuchAttribute = static_cast<DWORD>(kAttributeAbsent);
+constexpr auto kNotOnAnElement = static_cast<DWORD>(kInvalidArgument);
+
+}  // namespace
+
+CXMLLiteManagerReader::CXMLLiteManagerReader() : CXMLLiteManager(Kind::kReader) {
+  void* reader = nullptr;
+  HRESULT result = CreateXmlReader(kIidXmlReader, &reader, nullptr);
+  if (SUCCEEDED(result)) {
+    reader_.Attach(static_cast<IXmlReader*>(reader));
+    result = reader_->SetProperty(XmlReaderProperty_DtdProcessing, DtdProcessing_Prohibit);
+  }
+  if (FAILED(result)) {
+    SetLastResult(result);
+    reader_.Reset();
+  }
+}
+
+ConfigResult CXMLLiteManagerReader::OpenFile(const wchar_t* path) {
+  if (!reader_) return kFailed;
+  if (path == nullptr) return kInvalidArgument;
+  Close();
+
+  const HANDLE file = CreateFileW(path, GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                                  FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OVERLAPPED, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return kFailed;
+  const DWORD size_low = GetFileSize(file, nullptr);
+  CloseHandle(file);
+  if (size_low == 0) return kFailed;
+
+  const HRESULT opened = SHCreateStreamOnFileW(path, STGM_READ, stream_.Receive());
+  if (FAILED(opened)) {
+    SetLastResult(opened);
+    return kFailed;
+  }
+  return MoveToRoot(reader_->SetInput(stream_.Get()));
+}
+
+ConfigResult CXMLLiteManagerReader::OpenFromString(const wchar_t* xml_text) {
+  if (!reader_) return kFailed;
+  if (xml_text == nullptr) return kInvalidArgument;
+  const std::size_t length = std::wcslen(xml_text);
+  if (length == 0) return kInvalidArgument;  // the conversion would change the last error
+  if (length > static_cast<std::size_t>(std::numeric_limits<int>::max())) return kInvalidArgument;
+  const auto wide_size = static_cast<int>(length);
+  const int size =
+      WideCharToMultiByte(CP_UTF8, 0, xml_text, wide_size, nullptr, 0, nullptr, nullptr);
+  if (size == 0) return kInvalidArgument;
+
+  // The zero byte behind the text becomes part of the document, which has ended by then.
+  std::vector<char> text;
+  try {
+    text.resize(static_cast<std::size_t>(size) + 1);
+  } catch (const std::bad_alloc&) {
+    return kFailed;
+  }
+  const int converted =
+      WideCharToMultiByte(CP_UTF8, 0, xml_text, wide_size, text.data(), size, nullptr, nullptr);
+  if (converted == 0) return kFailed;
+  IStream* const stream =
+      SHCreateMemStream(reinterpret_cast<const BYTE*>(text.data()), static_cast<UINT>(text.size()));
+  if (stream == nullptr) return kFailed;
+  stream_.Attach(stream);
+  return MoveToRoot(SetConvertedInput(*reader_.Get(), stream));
+}
+
+/// The tail of both opens. An input without an element is found out by the root node, which does
+/// not find its name.
+ConfigResult CXMLLiteManagerReader::MoveToRoot(HRESULT input_result) {
+  if (FAILED(input_result)) {
+    SetLastResult(input_result);
+    Close();
+    return kFailed;
+  }
+  for (;;) {
+    XmlNodeType type = XmlNodeType_None;
+    const HRESULT result = reader_->Read(&type);
+    node_type_ = type;
+    if (result != S_OK) {
+      SetLastResult(result);
+      return kSuccess;
+    }
+    if (type == XmlNodeType_Element) {
+      is_empty_element_ = reader_->IsEmptyElement() != FALSE;
+      return kSuccess;
+    }
+  }
+}
+
+ConfigResult CXMLLiteManagerReader::Close() {
+  if (stream_) {
+    reader_->SetInput(nullptr);
+    node_type_ = XmlNodeType_None;
+  }
+  return CXMLLiteManager::Close();
+}
+
+const wchar_t* CXMLLiteManagerReader::GetLocalName() {
+  if (node_type_ != XmlNodeType_Element && node_type_ != XmlNodeType_ProcessingInstruction) {
+    SetLastError(kNoSuitableNode);
+    return L"";
+  }
+  const wchar_t* name = nullptr;
+  const HRESULT result = reader_->GetLocalName(&name, nullptr);
+  if (FAILED(result)) {
+    SetLastResult(result);
+    return nullptr;
+  }
+  return name;
+}
+
+const wchar_t* CXMLLiteManagerReader::GetAttribute(const wchar_t* name) {
+  if (node_type_ != XmlNodeType_Element || name == nullptr) {
+    SetLastError(kNotOnAnElement);
+    return nullptr;
+  }
+  if (reader_->MoveToAttributeByName(name, nullptr) != S_OK) {
+    SetLastError(kNoSuchAttribute);
+    return nullptr;
+  }
+  if (reader_->IsDefault() != FALSE) {
+    SetLastError(kNotOnAnElement);
+    return nullptr;
+  }
+  const wchar_t* value = nullptr;
+  const HRESULT result = reader_->GetValue(&value, nullptr);
+  if (FAILED(result)) {
+    SetLastResult(result);
+    return nullptr;
+  }
+  SetLastError(0);
+  return value;
+}
+
+const wchar_t* CXMLLiteManagerReader::GetText() {
+  if (node_type_ == XmlNodeType_Element) {
+    if (is_empty_element_) return nullptr;
+    XmlNodeType type = XmlNodeType_None;
+    reader_->Read(&type);
+    node_type_ = type;
+  }
+  switch (node_type_) {
+    case XmlNodeType_Text:
+    case XmlNodeType_CDATA:
+    case XmlNodeType_ProcessingInstruction:
+    case XmlNodeType_Comment:
+      break;
+    case XmlNodeType_EndElement:
+      is_empty_element_ = true;
+      return nullptr;
+    default:
+      SetLastError(kNoSuitableNode);
+      return nullptr;
+  }
+  const wchar_t* value = nullptr;
+  const HRESULT result = reader_->GetValue(&value, nullptr);
+  if (FAILED(result)) {
+    SetLastResult(result);
+    return nullptr;
+  }
+  return value;
+}
+
+int CXMLLiteManagerReader::NextNode() {
+  if (!stream_) return XmlNodeType_None;
+  for (;;) {
+    XmlNodeType type = XmlNodeType_None;
+    const HRESULT result = reader_->Read(&type);
+    if (result != S_OK) {
+      SetLastResult(result);
+      return XmlNodeType_None;
+    }
+    switch (type) {
+      case XmlNodeType_Element:
+        is_empty_element_ = reader_->IsEmptyElement() != FALSE;
+        [[fallthrough]];
+      case XmlNodeType_CDATA:
+      case XmlNodeType_Comment:
+      case XmlNodeType_EndElement:
+        node_type_ = type;
+        return type;
+      default:
+        break;
+    }
+  }
+}
+
+int CXMLLiteManagerReader::SkipElement() {
+  if (node_type_ != XmlNodeType_Element || is_empty_element_) return NextNode();
+  for (int open = 1; open != 0;) {
+    switch (NextNode()) {
+      case XmlNodeType_None:
+        return XmlNodeType_None;
+      case XmlNodeType_Element:
+        if (!is_empty_element_) ++open;
+        break;
+      case XmlNodeType_EndElement:
+        --open;
+        break;
+      default:
+        break;
+    }
+  }
+  return NextNode();
+}
+
+int CXMLLiteManagerReader::FinishElement() {
+  if (node_type_ == XmlNodeType_EndElement) return node_type_;
+  if (node_type_ == XmlNodeType_Element && is_empty_element_) return node_type_;
+  int type = NextNode();
+  while (type != XmlNodeType_EndElement && type != XmlNodeType_None) {
+    type = type == XmlNodeType_Element ? SkipElement() : NextNode();
+  }
+  node_type_ = type;
+  return type;
+}
+
+}  // namespace tolva::xml

@@ -1,0 +1,30 @@
+// A wide text to be written.
+#pragma once
+
+#include <cwchar>
+#include <string>
+
+namespace tolva::xml {
+
+/// Zero-terminated characters of known number, or none at all: what the platform's writer takes,
+/// with the length by which a zero within the text is noticed. Refers to characters that the caller
+/// keeps.
+class Text {
+ public:
+  /// `characters` may be null.
+  Text(const wchar_t* characters)
+      : characters_(characters), size_(characters == nullptr ? 0 : std::wcslen(characters)) {}
+  Text(const std::wstring& text) : characters_(text.c_str()), size_(text.size()) {}
+
+  bool IsNull() const { return characters_ == nullptr; }
+  bool IsEmpty() const { return size_ == 0; }
+  const wchar_t* begin() const { return characters_; }
+  const wchar_t* end() const { return characters_ + size_; }
+  const wchar_t* c_str() const { return characters_; }
+
+ private:
+  const wchar_t* characters_;
+  std::size_t size_;
+};
+
+}  // namespace tolva::xml
