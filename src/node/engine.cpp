@@ -1,0 +1,449 @@
+#include "node/engine.h"
+
+#include <cassert>
+#include <cstdint>
+#include <cwchar>
+#include <string>
+
+#include "xml/reader.h"
+#include "xml/writer.h"
+
+namespace tolva::node {
+namespace {
+
+using namespace platform;  // see platform.h
+using xml::CXMLLiteManagerReader;
+using xml::CXMLLiteManagerWriter;
+
+/// The rows locate fields for reading and writing alike; who has a constant node does not change
+/// it.
+IElement& Mutable(const IElement& node) { return const_cast<IElement&>(node); }
+
+void ReportOr(OwnText own, std::wstring_view beginning, std::wstring_view element,
+              std::wstring_view attribute) {
+  if (own.IsSet()) {
+    Report(own.Get());
+  } else {
+    ReportAttribute(beginning, element, attribute);
+  }
+}
+
+void ReportOr(OwnText own, std::wstring_view beginning, std::wstring_view element) {
+  if (own.IsSet()) {
+    Report(own.Get());
+  } else {
+    ReportElement(beginning, element);
+  }
+}
+
+// ---- values ------------------------------------------------------------------------------------
+
+DWORD& NumberAt(const FieldRef& field) { return *static_cast<DWORD*>(field.value); }
+
+std::uint64_t& LongNumberAt(const FieldRef& field) {
+  return *static_cast<std::uint64_t*>(field.value);
+}
+
+std::wstring& StringAt(const FieldRef& field) { return *static_cast<std::wstring*>(field.value); }
+
+bool IsPresent(const FieldRef& field) { return field.present == nullptr || *field.present != 0; }
+
+void ClearString(std::wstring& text) {
+  constexpr std::size_t kWorthKeeping = 4096;
+  if (text.capacity() > kWorthKeeping) {
+    std::wstring().swap(text);  // assignment would keep the memory
+  } else {
+    text.clear();
+  }
+}
+
+void ClearValue(ValueType type, const FieldRef& field) {
+  if (field.present != nullptr) *field.present = 0;
+  switch (type) {
+    case ValueType::kNumber:
+    case ValueType::kEnum:
+      NumberAt(field) = 0;
+      break;
+    case ValueType::kLongNumber:
+      LongNumberAt(field) = 0;
+      break;
+    case ValueType::kString:
+      ClearString(StringAt(field));
+      break;
+  }
+}
+
+// ---- writing -----------------------------------------------------------------------------------
+
+std::wstring_view WriteFaultOf(ValueType type) {
+  switch (type) {
+    case ValueType::kString:
+      return kWriteString;
+    case ValueType::kEnum:
+      return kWriteEnum;
+    default:
+      return kWriteNumber;
+  }
+}
+
+/// The text of a value; `buffer` holds that of a number.
+xml::Text FormatValue(const Attribute& row, const FieldRef& field, Numbers numbers,
+                      NumberText& buffer) {
+  switch (row.type) {
+    case ValueType::kNumber:
+      return FormatNumber(NumberAt(field), numbers, buffer);
+    case ValueType::kLongNumber:
+      return FormatLongNumber(LongNumberAt(field), buffer);
+    case ValueType::kEnum: {
+      const DWORD value = NumberAt(field);
+      const EnumTexts& table = row.enum_texts;
+      return value < table.texts.size() ? table.texts[value] : table.otherwise;
+    }
+    default:
+      return StringAt(field);
+  }
+}
+
+ConfigResult WriteAttributes(const Schema& schema, IElement& node, CXMLLiteManagerWriter& writer) {
+  for (const Attribute& row : schema.attributes) {
+    const FieldRef field = row.locate(node);
+    if (!IsPresent(field)) continue;
+    NumberText buffer;
+    const xml::Text value = FormatValue(row, field, schema.dialect.numbers, buffer);
+    const ConfigResult result = writer.WriteAttribute(row.name, value);
+    if (result != kSuccess && row.is_write_checked && !row.is_optional) {
+      ReportAttribute(WriteFaultOf(row.type), schema.ReportedName(), row.name);
+      return kFailed;
+    }
+  }
+  return kSuccess;
+}
+
+std::wstring_view WriteFaultOf(Occurrence occurrence) {
+  switch (occurrence) {
+    case Occurrence::kRequired:
+      return kWriteRequiredChild;
+    case Occurrence::kOptional:
+      return kWriteOptionalChild;
+    default:
+      return kWriteItem;
+  }
+}
+
+ConfigResult WriteChild(const Child& row, IElement& node, IXMLLiteManager* manager) {
+  const ChildRef child = row.locate(node);
+  if (row.occurrence == Occurrence::kRepeated) {
+    for (std::size_t i = 0; i < child.items->Size(); ++i) {
+      const auto position = static_cast<int>(i + 1);
+      const ConfigResult result = child.items->Item(i).WriteToXMLMgr(manager, 0, position);
+      if (result != kSuccess) return result;
+    }
+    return kSuccess;
+  }
+  if (child.present != nullptr && *child.present == 0) return kSuccess;
+  Report(row.before_write);
+  const ConfigResult result = child.element->WriteToXMLMgr(manager, 0, 1);
+  if (result == kSuccess) Report(row.after_write);
+  return result;
+}
+
+ConfigResult WriteChildren(const Schema& schema, IElement& node, IXMLLiteManager* manager) {
+  for (const Child& row : schema.children) {
+    if (WriteChild(row, node, manager) == kSuccess) continue;
+    ReportOr(row.write_fault, WriteFaultOf(row.occurrence), row.name);
+    return kFailed;
+  }
+  return kSuccess;
+}
+
+/// An element that is a value: written in one step.
+ConfigResult WriteContent(const Schema& schema, IElement& node, CXMLLiteManagerWriter& writer) {
+  const Content& content = schema.content;
+  const FieldRef field = content.locate(node);
+  if (!IsPresent(field) && !content.is_always_written) return kSuccess;
+  NumberText buffer;
+  const bool is_string = content.type == ValueType::kString;
+  xml::Text text = nullptr;
+  if (is_string && IsPresent(field)) text = StringAt(field);
+  if (!is_string) text = FormatNumber(NumberAt(field), schema.dialect.numbers, buffer);
+  const ConfigResult result = writer.WriteElementString(schema.element, text);
+  if (result == kSuccess || content.is_optional) return kSuccess;
+  ReportElement(is_string ? kWriteStringContent : kWriteNumberContent, schema.ReportedName());
+  return kFailed;
+}
+
+// ---- reading -----------------------------------------------------------------------------------
+
+/// Clears a node unless the read has succeeded: after a failure and when memory runs out.
+class ClearOnFailure {
+ public:
+  explicit ClearOnFailure(INode& node) : node_(&node) {}
+  ClearOnFailure(const ClearOnFailure&) = delete;
+  ClearOnFailure& operator=(const ClearOnFailure&) = delete;
+  ~ClearOnFailure() {
+    if (node_ != nullptr) node_->Clear();
+  }
+
+  void Succeed() { node_ = nullptr; }
+
+ private:
+  INode* node_;
+};
+
+std::wstring_view AbsentFaultOf(const Attribute& row, const Dialect& dialect) {
+  switch (row.type) {
+    case ValueType::kString:
+      return dialect.absent_string;
+    case ValueType::kEnum:
+      return kReadAbsentEnum;
+    default:
+      return kReadNumber;
+  }
+}
+
+std::wstring_view MalformedFaultOf(const Attribute& row) {
+  if (row.type != ValueType::kEnum) return kReadNumber;
+  return row.is_optional ? kReadUnknownOptionalEnum : kReadUnknownEnum;
+}
+
+bool ParseEnum(const wchar_t* text, const EnumTexts& table, DWORD* value) {
+  for (std::size_t i = 0; i < table.texts.size(); ++i) {
+    if (std::wcscmp(text, table.texts[i]) != 0) continue;
+    *value = static_cast<DWORD>(i);
+    return true;
+  }
+  return false;
+}
+
+bool ParseValue(const Attribute& row, const wchar_t* text, Numbers numbers, const FieldRef& field) {
+  switch (row.type) {
+    case ValueType::kNumber:
+      return ParseNumber(text, numbers, &NumberAt(field));
+    case ValueType::kLongNumber:
+      return ParseLongNumber(text, &LongNumberAt(field));
+    case ValueType::kEnum:
+      return ParseEnum(text, row.enum_texts, &NumberAt(field));
+    default:
+      StringAt(field) = text;
+      return true;
+  }
+}
+
+ConfigResult ReadAttributes(const Schema& schema, IElement& node, CXMLLiteManagerReader& reader) {
+  for (const Attribute& row : schema.attributes) {
+    const FieldRef field = row.locate(node);
+    const wchar_t* const text = reader.GetAttribute(row.name);
+    if (text == nullptr) {
+      if (row.is_one_when_absent) {
+        if (field.present != nullptr) *field.present = 1;
+        NumberAt(field) = 1;
+      } else if (!row.is_optional && !row.is_kept_when_absent) {
+        ReportOr(row.read_fault, AbsentFaultOf(row, schema.dialect), schema.ReportedName(),
+                 row.name);
+        return kFailed;
+      }
+      continue;
+    }
+    if (field.present != nullptr) *field.present = 1;
+    if (!ParseValue(row, text, schema.dialect.numbers, field)) {
+      ReportOr(row.read_fault, MalformedFaultOf(row), schema.ReportedName(), row.name);
+      return kFailed;
+    }
+  }
+  return kSuccess;
+}
+
+/// The row of the child that the reader stands on; null: the element knows none of that name.
+const Child* FindChild(const Schema& schema, const wchar_t* name) {
+  for (const Child& row : schema.children) {
+    if (std::wcscmp(row.name, name) == 0) return &row;
+  }
+  return nullptr;
+}
+
+ConfigResult ReadChild(const Child& row, INode& node, IXMLLiteManager* manager) {
+  const ChildRef child = row.locate(node);
+  if (row.occurrence == Occurrence::kRepeated) {
+    if (child.items->Append().ReadFromXMLMgr(manager, 0) == kSuccess) return kSuccess;
+    node.Clear();
+    ReportOr(row.read_fault, kReadItem, row.name);
+    return kFailed;
+  }
+  if (child.element->ReadFromXMLMgr(manager, 0) != kSuccess) {
+    ReportOr(row.read_fault, kReadChild, row.name);
+    return kFailed;
+  }
+  if (child.present != nullptr) *child.present = 1;
+  return kSuccess;
+}
+
+void ReportMissingChild(const Child& row) {
+  if (row.missing.IsSet()) {
+    Report(row.missing.Get());
+  } else {
+    ReportMissing(row.name);
+  }
+}
+
+/// `found` has a bit for each row of the table.
+ConfigResult CheckRequiredChildren(const Schema& schema, std::uint32_t found) {
+  for (const bool missed_first : {true, false}) {
+    std::uint32_t bit = 1;
+    for (const Child& row : schema.children) {
+      const bool is_required = row.occurrence == Occurrence::kRequired && !row.is_dispensable;
+      const bool is_missing = is_required && (found & bit) == 0;
+      if (is_missing && row.is_missed_first == missed_first) {
+        ReportMissingChild(row);
+        return kFailed;
+      }
+      bit <<= 1;
+    }
+  }
+  return kSuccess;
+}
+
+ConfigResult ReadChildren(const Schema& schema, INode& node, IXMLLiteManager* manager,
+                          CXMLLiteManagerReader& reader) {
+  if (schema.children.empty()) return kSuccess;
+  assert(schema.children.size() <= 32);
+  std::uint32_t found = 0;
+  int type = reader.is_empty_element() ? 0 : reader.NextNode();
+  while (type != XmlNodeType_EndElement && type != XmlNodeType_None) {
+    const wchar_t* const name = reader.GetLocalName();
+    const Child* const row = name == nullptr ? nullptr : FindChild(schema, name);
+    if (row == nullptr) {
+      type = reader.SkipElement();
+      continue;
+    }
+    const ConfigResult result = ReadChild(*row, node, manager);
+    if (result != kSuccess) return result;
+    found |= std::uint32_t{1} << (row - schema.children.data());
+    type = reader.NextNode();
+  }
+  return CheckRequiredChildren(schema, found);
+}
+
+/// An element that is a value. Only a missing text gives -102.
+ConfigResult ReadContent(const Schema& schema, IElement& node, CXMLLiteManagerReader& reader) {
+  const Content& content = schema.content;
+  if (content.locate == nullptr) return kSuccess;
+  const FieldRef field = content.locate(node);
+  const wchar_t* const text = reader.GetText();
+  const bool is_string = content.type == ValueType::kString;
+  if (text == nullptr) {
+    if (content.is_optional) return kSuccess;
+    ReportElement(is_string ? kReadStringContent : kReadNumberContent, L"Content");
+    return kInvalidArgument;
+  }
+  if (field.present != nullptr) *field.present = 1;
+  if (is_string) {
+    StringAt(field) = text;
+    return kSuccess;
+  }
+  if (content.takes_leading_digits) {
+    NumberAt(field) = ParseLeadingDigits(text, schema.dialect.numbers);
+    return kSuccess;
+  }
+  if (ParseNumber(text, schema.dialect.numbers, &NumberAt(field))) return kSuccess;
+  ReportElement(kReadNumberContent, schema.ReportedName());
+  return kFailed;
+}
+
+/// Leaves the reader where the node's parent expects it.
+void Finish(const Schema& schema, CXMLLiteManagerReader& reader) {
+  if (!schema.content.stops_at_first_end_tag) {
+    reader.FinishElement();
+    return;
+  }
+  if (reader.is_empty_element()) return;
+  int type = XmlNodeType_None;
+  do {
+    type = reader.NextNode();
+  } while (type != XmlNodeType_EndElement && type != XmlNodeType_None);
+}
+
+}  // namespace
+
+ConfigResult WriteNode(const Schema& schema, const IElement& node, IXMLLiteManager* manager) {
+  if (manager == nullptr) {
+    Report(schema.null_writer.IsSet() ? schema.null_writer.Get() : schema.dialect.null_writer);
+    return kFailed;
+  }
+  CXMLLiteManagerWriter* const writer = xml::AsWriter(manager);
+  if (writer == nullptr) return kFailed;
+  IElement& fields = Mutable(node);
+  if (schema.content.locate != nullptr) return WriteContent(schema, fields, *writer);
+
+  if (writer->StartElement(schema.element) != kSuccess) {
+    if (schema.add_fault.IsSet()) {
+      Report(schema.add_fault.Get());
+    } else {
+      ReportNotAdded(schema.ReportedName());
+    }
+    return kFailed;
+  }
+  ConfigResult result = WriteAttributes(schema, fields, *writer);
+  if (result != kSuccess) return result;
+  result = WriteChildren(schema, fields, manager);
+  if (result != kSuccess) return result;
+  const bool has_end_tag = !schema.children.empty() && !schema.is_closed_empty;
+  if (writer->EndElement(has_end_tag ? L"" : nullptr) != kSuccess) {
+    if (schema.close_fault.IsSet()) {
+      Report(schema.close_fault.Get());
+    } else {
+      ReportNotClosed(schema.ReportedName());
+    }
+    return kFailed;
+  }
+  return kSuccess;
+}
+
+ConfigResult ReadNode(const Schema& schema, INode& node, IXMLLiteManager* manager) {
+  if (manager == nullptr) {
+    Report(schema.null_reader.IsSet() ? schema.null_reader.Get() : schema.dialect.null_reader);
+    return kFailed;
+  }
+  CXMLLiteManagerReader* const reader = xml::AsReader(manager);
+  if (reader == nullptr) return kFailed;
+
+  node.Clear();
+  const wchar_t* const name = reader->GetLocalName();
+  if (name == nullptr || std::wcscmp(name, schema.element) != 0) return kInvalidArgument;
+
+  ClearOnFailure cleaner(node);
+  ConfigResult result = ReadAttributes(schema, node, *reader);
+  if (result == kSuccess) result = ReadContent(schema, node, *reader);
+  if (result == kSuccess) result = ReadChildren(schema, node, manager, *reader);
+  if (result != kSuccess) return result;
+  Finish(schema, *reader);
+  cleaner.Succeed();
+  return kSuccess;
+}
+
+void ClearNode(const Schema& schema, IElement& node) {
+  for (const Attribute& row : schema.attributes) {
+    const FieldRef field = row.locate(node);
+    ClearValue(row.type, field);
+    if (row.is_present_when_clear) *field.present = 1;
+  }
+  if (schema.content.locate != nullptr) {
+    ClearValue(schema.content.type, schema.content.locate(node));
+  }
+  for (const Child& row : schema.children) row.clear(node);
+}
+
+void ReportNullValue(const Schema& schema, const IElement& node, const void* field) {
+  std::wstring_view name = L"Content";
+  for (const Attribute& row : schema.attributes) {
+    if (row.locate(Mutable(node)).value == field) name = row.name;
+  }
+  ReportAttribute(schema.dialect.null_value, schema.ReportedName(), name);
+}
+
+void ReportNullChild(const Schema& schema, const IElement& node, const IElement* child) {
+  for (const Child& row : schema.children) {
+    if (row.locate(Mutable(node)).element == child) ReportElement(kSetElement, row.name);
+  }
+}
+
+}  // namespace tolva::node
