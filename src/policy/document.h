@@ -1,0 +1,21 @@
+// What all elements of the policy document share.
+#pragma once
+
+#include "node/node.h"
+
+namespace TolvaInterface {
+
+using namespace tolva::node;  // the language of classes and tables
+
+inline constexpr Dialect kDialect = {
+    .numbers = Numbers::kUnsigned,
+    .null_writer = kWriteRequireManager,
+    .null_reader = kReadRequireManager,
+    .null_value = kSetAttributeParama,
+    .absent_string = kReadStringAsEnum,
+};
+
+/// The texts of RuleAction.
+inline constexpr const wchar_t* kRuleActions[] = {L"USE_CONTENT_POLICY_ACTION", L"ALLOW", L"BLOCK"};
+
+}  // namespace TolvaInterface
