@@ -1,0 +1,18 @@
+// What all elements of the CI client configuration share.
+#pragma once
+
+#include "node/node.h"
+
+namespace CIConfInterface {
+
+using namespace tolva::node;  // the language of classes and tables
+
+inline constexpr Dialect kDialect = {
+    .numbers = Numbers::kSigned,
+    .null_writer = kWriteRequiredManager,
+    .null_reader = kReadRequiredManager,
+    .null_value = kSetAttributeParama,
+    .absent_string = kReadStringAsEnum,
+};
+
+}  // namespace CIConfInterface
