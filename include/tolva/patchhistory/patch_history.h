@@ -1,0 +1,127 @@
+// The history of the patches applied to the endpoint. Versions and dates are carried as they
+// stand.
+#pragma once
+
+#include <string>
+
+#include <tolva/export.h>
+#include <tolva/node/node.h>
+#include <tolva/types.h>
+
+namespace PatchFileHistory {
+
+/// Element `WSModule`: a module that a patch installed.
+class IWSModule : public tolva::node::INode {
+ public:
+  virtual IWSModule& CopyFrom(const IWSModule& other) = 0;
+
+  /// `Name`: its name. Required.
+  virtual const std::wstring& GetName() const = 0;
+  virtual ConfigResult SetName(const std::wstring* value) = 0;
+
+  /// `Version`. Optional.
+  virtual ConfigResult GetVersion(std::wstring* out) const = 0;
+  virtual ConfigResult SetVersion(const std::wstring* value) = 0;
+
+  /// `ProductID`. Optional.
+  virtual ConfigResult GetProductID(std::wstring* out) const = 0;
+  virtual ConfigResult SetProductID(const std::wstring* value) = 0;
+
+  /// `PreviouslyExisted`: whether there was one before. Optional.
+  virtual ConfigResult GetPreviouslyExisted(DWORD* out) const = 0;
+  virtual ConfigResult SetPreviouslyExisted(const DWORD* value) = 0;
+
+  /// `Description`. Optional.
+  virtual ConfigResult GetDescription(std::wstring* out) const = 0;
+  virtual ConfigResult SetDescription(const std::wstring* value) = 0;
+
+  /// `InstallationDir`: where it was installed. Required.
+  virtual const std::wstring& GetInstallationDir() const = 0;
+  virtual ConfigResult SetInstallationDir(const std::wstring* value) = 0;
+};
+
+/// Element `ModuleListingArray`.
+class IModuleListingArray : public tolva::node::INode {
+ public:
+  virtual IModuleListingArray& CopyFrom(const IModuleListingArray& other) = 0;
+
+  /// Children `WSModule`.
+  virtual DWORD GetWSModuleCount() const = 0;
+  virtual IWSModule* GetWSModuleAt(DWORD index) = 0;
+  virtual ConfigResult AddWSModule(const IWSModule* item) = 0;
+  virtual ConfigResult InsertWSModuleAt(DWORD index, const IWSModule* item) = 0;
+  virtual void RemoveWSModuleAt(DWORD index) = 0;
+  virtual void RemoveAllWSModule() = 0;
+};
+
+/// Element `PatchFileInfo`: a patch.
+class IPatchFileInfo : public tolva::node::INode {
+ public:
+  virtual IPatchFileInfo& CopyFrom(const IPatchFileInfo& other) = 0;
+
+  /// `Name`: its name. Required.
+  virtual const std::wstring& GetName() const = 0;
+  virtual ConfigResult SetName(const std::wstring* value) = 0;
+
+  /// `UpdateDate`: when it was applied. Required.
+  virtual const std::wstring& GetUpdateDate() const = 0;
+  virtual ConfigResult SetUpdateDate(const std::wstring* value) = 0;
+
+  /// `PatchVersion`: its version. Required.
+  virtual const std::wstring& GetPatchVersion() const = 0;
+  virtual ConfigResult SetPatchVersion(const std::wstring* value) = 0;
+
+  /// `ProductID`. Optional.
+  virtual ConfigResult GetProductID(std::wstring* out) const = 0;
+  virtual ConfigResult SetProductID(const std::wstring* value) = 0;
+
+  /// The child `ModuleListingArray`. Required.
+  virtual IModuleListingArray* GetModuleListingArray() = 0;
+  virtual ConfigResult SetModuleListingArray(const IModuleListingArray* child) = 0;
+};
+
+/// Element `EndpointFilePatches`, the root.
+class IEndpointFilePatches : public tolva::node::INode {
+ public:
+  virtual IEndpointFilePatches& CopyFrom(const IEndpointFilePatches& other) = 0;
+
+  /// `SchemaVersion`. Optional.
+  virtual ConfigResult GetSchemaVersion(DWORD* out) const = 0;
+  virtual ConfigResult SetSchemaVersion(const DWORD* value) = 0;
+
+  /// `SN`. Optional.
+  virtual ConfigResult GetSN(std::wstring* out) const = 0;
+  virtual ConfigResult SetSN(const std::wstring* value) = 0;
+
+  /// `Name`. Optional.
+  virtual ConfigResult GetName(std::wstring* out) const = 0;
+  virtual ConfigResult SetName(const std::wstring* value) = 0;
+
+  /// `LastAppliedPatchVersion`. Optional.
+  virtual ConfigResult GetLastAppliedPatchVersion(std::wstring* out) const = 0;
+  virtual ConfigResult SetLastAppliedPatchVersion(const std::wstring* value) = 0;
+
+  /// `UpdateDate`: when the history was changed last. Required.
+  virtual const std::wstring& GetUpdateDate() const = 0;
+  virtual ConfigResult SetUpdateDate(const std::wstring* value) = 0;
+
+  /// `RefId`. Optional.
+  virtual ConfigResult GetRefId(std::wstring* out) const = 0;
+  virtual ConfigResult SetRefId(const std::wstring* value) = 0;
+
+  /// The patches: children `PatchFileInfo`.
+  virtual DWORD GetPatchFileInfoCount() const = 0;
+  virtual IPatchFileInfo* GetPatchFileInfoAt(DWORD index) = 0;
+  virtual ConfigResult AddPatchFileInfo(const IPatchFileInfo* item) = 0;
+  virtual ConfigResult InsertPatchFileInfoAt(DWORD index, const IPatchFileInfo* item) = 0;
+  virtual void RemovePatchFileInfoAt(DWORD index) = 0;
+  virtual void RemoveAllPatchFileInfo() = 0;
+};
+
+// Each makes a node with default values, which the caller owns.
+TOLVA_API IWSModule* WSModule_CreateNewInstance();
+TOLVA_API IModuleListingArray* ModuleListingArray_CreateNewInstance();
+TOLVA_API IPatchFileInfo* PatchFileInfo_CreateNewInstance();
+TOLVA_API IEndpointFilePatches* EndpointFilePatches_CreateNewInstance();
+
+}  // namespace PatchFileHistory

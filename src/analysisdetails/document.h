@@ -1,0 +1,18 @@
+// What all elements of the analysis details document share.
+#pragma once
+
+#include "node/node.h"
+
+namespace CpsAnalysisDetailsConf {
+
+using namespace tolva::node;  // the language of classes and tables
+
+inline constexpr Dialect kDialect = {
+    .numbers = Numbers::kUnsigned,
+    .null_writer = kWriteRequiredManager,
+    .null_reader = kReadRequiredManager,
+    .null_value = kSetAttributeParama,
+    .absent_string = kReadStringAsEnum,
+};
+
+}  // namespace CpsAnalysisDetailsConf
