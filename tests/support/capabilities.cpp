@@ -1,0 +1,73 @@
+#include "support/capabilities.h"
+
+#include <string>
+
+#include "support/files.h"
+#include "support/nodes.h"
+
+#if !defined(TOLVA_OWN_XML_LAYER)
+#include "platform/platform.h"
+#include "support/streams.h"
+#endif
+
+namespace tolva::test {
+namespace {
+
+bool ProbeEscapes() {
+  const std::unique_ptr<ClientConfig::IDefaultDomain> node(
+      ClientConfig::DefaultDomain_CreateNewInstance());
+  const std::wstring name = L"<";
+  node->SetName(&name);
+  return WriteFile(*node).find("&lt;") != std::string::npos;
+}
+
+#if defined(TOLVA_OWN_XML_LAYER)
+
+bool ProbeTruncatedInput() { return true; }
+
+#else
+
+/// Gives a document that breaks off, and gives up on a reader that asks for more without end.
+class TruncatedStream final : public StackStream {
+ public:
+  HRESULT Read(void* buffer, ULONG size, ULONG* count) noexcept override {
+    const std::string_view text = asked_++ == 0 ? "<a><b>" : "";
+    *count = std::min<ULONG>(size, static_cast<ULONG>(text.size()));
+    std::memcpy(buffer, text.data(), *count);
+    return has_run_out() ? E_FAIL : S_FALSE;
+  }
+
+  bool has_run_out() const { return asked_ > 1000; }
+
+ private:
+  int asked_ = 0;
+};
+
+bool ProbeTruncatedInput() {
+  TruncatedStream stream;  // outlives the reader
+  ComPtr<IXmlReader> reader;
+  void* made = nullptr;
+  if (FAILED(CreateXmlReader(kIidXmlReader, &made, nullptr))) return false;
+  reader.Attach(static_cast<IXmlReader*>(made));
+  if (FAILED(reader->SetInput(&stream))) return false;
+  XmlNodeType type = XmlNodeType_None;
+  while (reader->Read(&type) == S_OK) {
+  }
+  return !stream.has_run_out();
+}
+
+#endif
+
+}  // namespace
+
+bool WriterEscapes() {
+  static const bool escapes = ProbeEscapes();
+  return escapes;
+}
+
+bool ReaderEndsTruncatedInput() {
+  static const bool ends = ProbeTruncatedInput();
+  return ends;
+}
+
+}  // namespace tolva::test

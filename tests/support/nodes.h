@@ -1,0 +1,56 @@
+// Nodes from and to text.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <tolva/node/node.h>
+
+#include <string>
+#include <string_view>
+
+#include "support/files.h"
+#include "support/managers.h"
+
+namespace tolva::test {
+
+/// Reads a node from a document that can be opened.
+inline ConfigResult ReadText(node::IElement& node, std::wstring_view document) {
+  const ManagerPtr reader = MakeReader();
+  EXPECT_EQ(reader->OpenFromString(std::wstring(document).c_str()), 0);
+  return node.ReadFromXMLMgr(reader.get());
+}
+
+/// Writes a node to a file and returns the file's text.
+inline std::string WriteFile(const node::IElement& node) {
+  const TempFile file;
+  const ManagerPtr writer = MakeWriter();
+  EXPECT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
+  EXPECT_EQ(node.WriteToXMLMgr(writer.get()), 0);
+  EXPECT_EQ(writer->Close(), 0);
+  return file.Read();
+}
+
+/// The elements alone: no declaration, nothing between the tags, empty tags in one form. So what
+/// one XML layer writes can be compared with what another does.
+inline std::string WithoutLayout(std::string_view text) {
+  std::string result;
+  if (text.starts_with("<?")) text.remove_prefix(text.find("?>") + 2);
+  while (!text.empty()) {
+    const bool at_end_of_tag = result.empty() || result.back() == '>';
+    const std::size_t blanks = text.find_first_not_of(" \r\n");
+    const std::size_t past = blanks == std::string_view::npos ? text.size() : blanks;
+    const bool between_tags = past == text.size() || text[past] == '<';
+    if (at_end_of_tag && between_tags && past != 0) {
+      text.remove_prefix(past);
+    } else if (text.starts_with(" />")) {
+      text.remove_prefix(1);
+    } else {
+      result += text.front();
+      text.remove_prefix(1);
+    }
+  }
+  return result;
+}
+
+inline std::string WriteText(const node::IElement& node) { return WithoutLayout(WriteFile(node)); }
+
+}  // namespace tolva::test

@@ -1,0 +1,311 @@
+// The reading manager: opening, the cursor, and what is left in the last-error cell.
+#include "xml/reader.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <iterator>
+#include <string>
+#include <thread>
+
+#include "support/capabilities.h"
+#include "support/files.h"
+#include "support/managers.h"
+#include "xml/writer.h"
+
+namespace tolva::test {
+namespace {
+
+using namespace platform;
+using xml::CXMLLiteManagerReader;
+
+constexpr DWORD kUntouched = 4711;
+
+constexpr int kNone = 0;
+constexpr int kElement = 1;
+constexpr int kCData = 4;
+constexpr int kComment = 8;
+constexpr int kEndElement = 15;
+
+class ManagerReader : public testing::Test {
+ protected:
+  ManagerReader() { tolvaSetLastError(kUntouched); }
+
+  void Open(const wchar_t* document) { ASSERT_EQ(reader_.OpenFromString(document), 0); }
+
+  CXMLLiteManagerReader reader_;
+};
+
+TEST_F(ManagerReader, RefusesWhatCannotBeOpened) {
+  EXPECT_EQ(reader_.OpenFile(nullptr), -102);
+  EXPECT_EQ(reader_.OpenFromString(nullptr), -102);
+  EXPECT_EQ(reader_.OpenFromString(L""), -102);
+  EXPECT_EQ(tolvaGetLastError(), kUntouched);
+  const TempFile empty("");
+  EXPECT_EQ(reader_.OpenFile(empty.Wide().c_str()), -101);
+
+  const TempFile folder;
+  std::filesystem::create_directory(folder.path());
+  EXPECT_EQ(reader_.OpenFile(folder.Wide().c_str()), -101);
+  EXPECT_EQ(tolvaGetLastError(), 5U);
+  EXPECT_EQ(reader_.OpenFile((folder.path() / "missing.xml").wstring().c_str()), -101);
+  EXPECT_EQ(tolvaGetLastError(), 2U);
+  EXPECT_EQ(reader_.OpenFile((folder.path() / "no" / "folder.xml").wstring().c_str()), -101);
+  EXPECT_EQ(tolvaGetLastError(), 3U);
+  EXPECT_EQ(reader_.OpenFile(L""), -101);
+  EXPECT_EQ(tolvaGetLastError(), 3U);
+}
+
+#if defined(_WIN32)
+TEST_F(ManagerReader, RefusesAFileThatAnotherHoldsOpen) {
+  const TempFile file("<a/>");
+  const HANDLE held = CreateFileW(file.Wide().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  ASSERT_NE(held, INVALID_HANDLE_VALUE);
+  EXPECT_EQ(reader_.OpenFile(file.Wide().c_str()), -101);
+  EXPECT_EQ(tolvaGetLastError(), DWORD{ERROR_SHARING_VIOLATION});
+  CloseHandle(held);
+  EXPECT_EQ(reader_.OpenFile(file.Wide().c_str()), 0);
+}
+#else
+TEST_F(ManagerReader, DoesNotWaitForPipesAndDevices) {
+  const TempFile pipe;
+  ASSERT_EQ(std::system(("mkfifo " + pipe.path().string()).c_str()), 0);
+  EXPECT_EQ(reader_.OpenFile(pipe.Wide().c_str()), -101);
+  EXPECT_EQ(reader_.OpenFile(L"/dev/zero"), -101);
+}
+#endif
+
+TEST_F(ManagerReader, StopsOnTheRoot) {
+  Open(L"<?xml version='1.0'?>\n<!-- c --><?p i?>\n<A><B/></A>");
+  EXPECT_EQ(reader_.node_type(), kElement);
+  EXPECT_FALSE(reader_.is_empty_element());
+  EXPECT_STREQ(reader_.GetLocalName(), L"A");
+
+  const TempFile file("\xEF\xBB\xBF<p:\xC3\xA9 xmlns:p='u' />");
+  ASSERT_EQ(reader_.OpenFile(file.Wide().c_str()), 0);
+  EXPECT_TRUE(reader_.is_empty_element());
+  EXPECT_STREQ(reader_.GetLocalName(), L"\u00E9");
+  EXPECT_EQ(reader_.FinishElement(), kElement);
+}
+
+TEST_F(ManagerReader, OpensWhatHasNoRoot) {
+  Open(L"<!DOCTYPE A><A/>");
+  EXPECT_EQ(tolvaGetLastError(), 0xC00CEE4FU);
+  EXPECT_EQ(reader_.node_type(), kNone);
+  EXPECT_STREQ(reader_.GetLocalName(), L"");
+  EXPECT_EQ(tolvaGetLastError(), 1U);
+  TOLVA_REQUIRE(ReaderEndsTruncatedInput);
+  for (const wchar_t* const document : {L"xml", L"<!-- only -->", L"<A", L"<A b='&x;'/>"}) {
+    tolvaSetLastError(0);
+    Open(document);
+    EXPECT_EQ(reader_.node_type(), kNone) << document;
+    EXPECT_NE(tolvaGetLastError(), 0U) << document;
+  }
+}
+
+TEST_F(ManagerReader, ConvertsStrings) {
+  Open(L"<A b='\u00E9\xD83D\xDE00'/>");
+  EXPECT_STREQ(reader_.GetAttribute(L"b"), L"\u00E9\U0001F600");
+  Open(L"<A b='x\xD83Dy'/>");
+  EXPECT_STREQ(reader_.GetAttribute(L"b"), L"x\uFFFDy");
+}
+
+TEST_F(ManagerReader, FindsAttributes) {
+  Open(L"<A first='1' second='&lt;&#x32;' third=''><B/></A>");
+  EXPECT_STREQ(reader_.GetAttribute(L"third"), L"");
+  EXPECT_EQ(tolvaGetLastError(), 0U);
+  EXPECT_STREQ(reader_.GetAttribute(L"second"), L"<2");
+  EXPECT_EQ(reader_.GetAttribute(L"fourth"), nullptr);
+  EXPECT_EQ(tolvaGetLastError(), static_cast<DWORD>(-104));
+  EXPECT_STREQ(reader_.GetAttribute(L"first"), L"1");
+  EXPECT_EQ(reader_.GetAttribute(nullptr), nullptr);
+  EXPECT_EQ(tolvaGetLastError(), static_cast<DWORD>(-102));
+  EXPECT_EQ(reader_.NextNode(), kElement);
+  EXPECT_EQ(reader_.GetAttribute(L"first"), nullptr);
+  EXPECT_EQ(reader_.NextNode(), kEndElement);
+  EXPECT_EQ(reader_.GetAttribute(L"first"), nullptr);
+  EXPECT_EQ(tolvaGetLastError(), static_cast<DWORD>(-102));
+}
+
+TEST_F(ManagerReader, SeesElementsCDataAndComments) {
+  Open(L"<A>text<!-- c --><B/>\n<![CDATA[d]]><?p i?><C>x</C></A>");
+  EXPECT_EQ(reader_.NextNode(), kComment);
+  EXPECT_STREQ(reader_.GetLocalName(), L"");
+  EXPECT_EQ(reader_.NextNode(), kElement);
+  EXPECT_TRUE(reader_.is_empty_element());
+  EXPECT_EQ(reader_.NextNode(), kCData);
+  EXPECT_TRUE(reader_.is_empty_element());  // still that of B
+  EXPECT_EQ(reader_.NextNode(), kElement);
+  EXPECT_FALSE(reader_.is_empty_element());
+  EXPECT_STREQ(reader_.GetLocalName(), L"C");
+  EXPECT_EQ(reader_.NextNode(), kEndElement);
+  EXPECT_EQ(reader_.NextNode(), kEndElement);
+}
+
+TEST_F(ManagerReader, TakesTheTextOfAnElement) {
+  struct Case {
+    const wchar_t* document;
+    const wchar_t* text;  ///< null: none
+    int end;              ///< where FinishElement then stops
+  };
+  for (const Case& one : {
+           Case{L"<A>text</A>", L"text", kEndElement},
+           Case{L"<A>\n text &amp;<B><C/></B>more</A>", L"\n text &", kEndElement},
+           Case{L"<A><![CDATA[<d>]]></A>", L"<d>", kEndElement},
+           Case{L"<A><!-- c -->text</A>", L" c ", kEndElement},
+           Case{L"<A><?p i ?>text</A>", L"i ", kEndElement},
+           Case{L"<A> \n</A>", nullptr, kEndElement},
+           Case{L"<A><B/>text</A>", nullptr, kEndElement},
+           Case{L"<A></A>", nullptr, kEndElement},
+           Case{L"<A/>", nullptr, kElement},
+       }) {
+    Open(one.document);
+    const wchar_t* const text = reader_.GetText();
+    if (one.text == nullptr) {
+      EXPECT_EQ(text, nullptr) << one.document;
+    } else {
+      EXPECT_STREQ(text, one.text) << one.document;
+    }
+    EXPECT_EQ(reader_.FinishElement(), one.end) << one.document;
+  }
+  Open(L"<A> <B/></A>");
+  reader_.GetText();
+  EXPECT_EQ(tolvaGetLastError(), 1U);
+  // The cursor may come to stand on a processing instruction, which has a name.
+  Open(L"<A><?target data?></A>");
+  EXPECT_STREQ(reader_.GetText(), L"data");
+  EXPECT_STREQ(reader_.GetLocalName(), L"target");
+  // An end tag right behind the start tag makes an empty element of it.
+  Open(L"<A></A>");
+  reader_.GetText();
+  EXPECT_TRUE(reader_.is_empty_element());
+  EXPECT_EQ(reader_.GetText(), nullptr);
+}
+
+TEST_F(ManagerReader, SkipsAndFinishesElements) {
+  Open(L"<A><B><C><D/>x</C><!-- c --><C/></B><E/><F><G></G></F></A>");
+  EXPECT_EQ(reader_.NextNode(), kElement);
+  EXPECT_EQ(reader_.SkipElement(), kElement);
+  EXPECT_STREQ(reader_.GetLocalName(), L"E");
+  EXPECT_EQ(reader_.SkipElement(), kElement);
+  EXPECT_STREQ(reader_.GetLocalName(), L"F");
+  EXPECT_EQ(reader_.NextNode(), kElement);
+  EXPECT_STREQ(reader_.GetLocalName(), L"G");
+  EXPECT_EQ(reader_.FinishElement(), kEndElement);
+  EXPECT_EQ(reader_.FinishElement(), kEndElement);
+  EXPECT_EQ(reader_.SkipElement(), kEndElement);  // of F: on anything but an element, one step
+  EXPECT_EQ(reader_.NextNode(), kEndElement);
+
+  Open(L"<A><B><C/></B><!-- c --><D>x</D></A>");
+  EXPECT_EQ(reader_.FinishElement(), kEndElement);
+}
+
+TEST_F(ManagerReader, EndsWhereTheInputEnds) {
+  TOLVA_REQUIRE(ReaderEndsTruncatedInput);
+  const std::wstring document = L"<A a='1'><B><C>x</C><D/></B><!-- c --><E>y</E></A>";
+  const std::function<void()> moves[] = {
+      [this] { reader_.SkipElement(); },
+      [this] { reader_.FinishElement(); },
+      [this] { EXPECT_EQ(reader_.GetLocalName() == nullptr, false); },
+      [this] {
+        while (reader_.NextNode() != kNone) {
+        }
+      },
+      [this] { reader_.GetText(); },
+  };
+  for (std::size_t size = 1; size < document.size(); ++size) {
+    for (const auto& first : moves) {
+      Open(document.substr(0, size).c_str());
+      first();
+      reader_.FinishElement();
+      while (reader_.NextNode() != kNone) {
+      }
+      EXPECT_EQ(tolvaGetLastError() & 0xFFFFF000U, 0xC00CE000U) << size;
+    }
+  }
+  // Skipping goes by what the last step found, not by the element before it.
+  Open(L"<A><B><C><D>");
+  EXPECT_EQ(reader_.NextNode(), kElement);
+  EXPECT_EQ(reader_.SkipElement(), kNone);
+  EXPECT_EQ(reader_.FinishElement(), kNone);
+  EXPECT_EQ(reader_.node_type(), kNone);
+}
+
+TEST_F(ManagerReader, OpensOneDocumentAfterAnother) {
+  const TempFile first("<A><B/></A>");
+  const TempFile second("<C/>");
+  ASSERT_EQ(reader_.OpenFile(first.Wide().c_str()), 0);
+  EXPECT_EQ(reader_.NextNode(), kElement);
+  ASSERT_EQ(reader_.OpenFile(second.Wide().c_str()), 0);
+  EXPECT_STREQ(reader_.GetLocalName(), L"C");
+  Open(L"<D/>");
+  EXPECT_STREQ(reader_.GetLocalName(), L"D");
+  // A failed open of a string leaves the document, one of a file does not.
+  EXPECT_EQ(reader_.OpenFromString(L""), -102);
+  EXPECT_STREQ(reader_.GetLocalName(), L"D");
+  EXPECT_EQ(reader_.OpenFile((first.Wide() + L"-missing").c_str()), -101);
+  EXPECT_EQ(reader_.node_type(), kNone);
+  ASSERT_EQ(reader_.OpenFile(first.Wide().c_str()), 0);
+  EXPECT_EQ(reader_.Close(), 0);
+  EXPECT_EQ(reader_.Close(), 0);
+  EXPECT_EQ(reader_.node_type(), kNone);
+  tolvaSetLastError(kUntouched);
+  EXPECT_EQ(reader_.NextNode(), kNone);
+  EXPECT_EQ(reader_.SkipElement(), kNone);
+  EXPECT_EQ(tolvaGetLastError(), kUntouched);
+  EXPECT_EQ(reader_.FinishElement(), kNone);
+  EXPECT_EQ(reader_.GetText(), nullptr);
+  EXPECT_EQ(reader_.GetAttribute(L"a"), nullptr);
+  EXPECT_TRUE(std::filesystem::remove(first.path()));  // nobody holds it any more
+}
+
+#if defined(TOLVA_OWN_XML_LAYER)
+TEST_F(ManagerReader, SeesTheZeroBehindAString) {
+  Open(L"<A/>");
+  EXPECT_EQ(reader_.NextNode(), kNone);
+  EXPECT_EQ(tolvaGetLastError(), 0xC00CEE2DU);
+  const TempFile file("<A/>");
+  ASSERT_EQ(reader_.OpenFile(file.Wide().c_str()), 0);
+  EXPECT_EQ(reader_.NextNode(), kNone);
+  EXPECT_EQ(tolvaGetLastError(), 1U);
+}
+#endif
+
+#if !defined(_WIN32)
+TEST(Manager, LetsFilesGo) {
+  const auto open_files = [] {
+    const std::filesystem::directory_iterator all("/proc/self/fd");
+    return std::distance(begin(all), end(all));
+  };
+  const TempFile file("<a/>");
+  const auto before = open_files();
+  const ManagerPtr reader = MakeReader();
+  const ManagerPtr writer = MakeWriter();
+  ASSERT_EQ(reader->OpenFile(file.Wide().c_str()), 0);
+  EXPECT_EQ(reader->Close(), 0);
+  ASSERT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
+  static_cast<xml::CXMLLiteManagerWriter*>(writer.get())->StartElement(L"b");
+  EXPECT_EQ(writer->Close(), 0);
+  EXPECT_EQ(open_files(), before);
+}
+#endif
+
+TEST(Manager, HasALastErrorForEachThread) {
+  tolvaSetLastError(1);
+  std::thread([] { tolvaSetLastError(2); }).join();
+  EXPECT_EQ(tolvaGetLastError(), 1U);
+}
+
+TEST(Manager, IsReaderOrWriterByTheArgument) {
+  const ManagerPtr reader = MakeReader();
+  EXPECT_EQ(reader->OpenFromString(L"<a/>"), 0);
+  const ManagerPtr writer(tolvaCreateXMLManager(7));
+  EXPECT_EQ(writer->OpenFromString(L"<a/>"), -101);
+  EXPECT_EQ(writer->Close(), 0);
+  tolvaDestroyXMLManager(nullptr);
+}
+
+}  // namespace
+}  // namespace tolva::test

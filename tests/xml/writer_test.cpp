@@ -1,0 +1,238 @@
+// The writing manager: files, primitives, and failures of the platform's writer.
+#include "xml/writer.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "support/capabilities.h"
+#include "support/files.h"
+#include "support/managers.h"
+#include "support/writer_faults.h"
+#include "xml/reader.h"
+
+namespace tolva::test {
+namespace {
+
+using namespace platform;
+using xml::CXMLLiteManagerWriter;
+
+constexpr DWORD kUntouched = 4711;
+constexpr DWORD kFault = WriterFault::kCode;
+
+class ManagerWriter : public testing::Test {
+ protected:
+  ManagerWriter() { tolvaSetLastError(kUntouched); }
+
+  void Open() { ASSERT_EQ(writer_.OpenFile(file_.Wide().c_str()), 0); }
+
+  bool Holds(const char* text) const { return file_.Read().find(text) != std::string::npos; }
+
+  const TempFile file_{std::string(4096, 'x')};  // longer than what is written
+  CXMLLiteManagerWriter writer_;
+};
+
+TEST_F(ManagerWriter, RefusesWhatCannotBeOpened) {
+  EXPECT_EQ(writer_.OpenFile(nullptr), -102);
+  EXPECT_EQ(writer_.OpenFromString(L"<a/>"), -101);
+  EXPECT_EQ(tolvaGetLastError(), kUntouched);
+  EXPECT_EQ(writer_.OpenFile((file_.Wide() + L"-no/folder.xml").c_str()), -101);
+  EXPECT_EQ(tolvaGetLastError(), 0x80070003U);
+  const TempFile folder;
+  std::filesystem::create_directory(folder.path());
+  EXPECT_EQ(writer_.OpenFile(folder.Wide().c_str()), -101);
+  EXPECT_EQ(tolvaGetLastError(), 0x80070005U);
+  EXPECT_EQ(writer_.Close(), 0);
+}
+
+TEST_F(ManagerWriter, WritesAFile) {
+  Open();
+  EXPECT_EQ(writer_.StartElement(L"Root"), 0);
+  EXPECT_EQ(writer_.StartElement(L"Leaf"), 0);
+  EXPECT_EQ(writer_.WriteAttribute(L"a", L"1"), 0);
+  EXPECT_EQ(writer_.WriteAttribute(L"b", L""), 0);
+  EXPECT_EQ(writer_.EndElement(nullptr), 0);
+  EXPECT_EQ(writer_.StartElement(L"Box"), 0);
+  EXPECT_EQ(writer_.EndElement(L""), 0);
+  EXPECT_EQ(writer_.StartElement(L"Text"), 0);
+  EXPECT_EQ(writer_.EndElement(L"\u00E9t\u00E9"), 0);
+  EXPECT_EQ(writer_.WriteElementString(L"Full", L"text"), 0);
+  EXPECT_EQ(writer_.WriteElementString(L"Empty", L""), 0);
+  EXPECT_EQ(writer_.WriteElementString(L"None", nullptr), 0);
+  EXPECT_EQ(writer_.EndElement(L""), 0);
+  EXPECT_EQ(writer_.Close(), 0);
+  const std::string expected[] = {"<?xml version=\"1.0\" encoding=\"UTF-8\"?>",
+                                  "<Root>",
+                                  "<Leaf a=\"1\" b=\"\"",
+                                  "<Box></Box>",
+                                  "<Text>\xC3\xA9t\xC3\xA9</Text>",
+                                  "<Full>text</Full>",
+                                  "<Empty></Empty>",
+                                  "<None",
+                                  "</Root>"};
+  const std::string text = file_.Read();
+  std::size_t at = 0;
+  for (const std::string& piece : expected) {
+    at = text.find(piece, at);
+    ASSERT_NE(at, std::string::npos) << piece << " in\n" << text;
+  }
+#if defined(TOLVA_OWN_XML_LAYER)
+  EXPECT_EQ(text,
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Root>\n  <Leaf a=\"1\" b=\"\"/>\n"
+            "  <Box></Box>\n  <Text>\xC3\xA9t\xC3\xA9</Text>\n  <Full>text</Full>\n"
+            "  <Empty></Empty>\n  <None/>\n</Root>\n");
+#endif
+}
+
+TEST_F(ManagerWriter, RefusesWhatCannotBeWritten) {
+  EXPECT_EQ(writer_.StartElement(L"early"), -101);
+  EXPECT_EQ(writer_.WriteElementString(L"early", L"x"), -101);
+  EXPECT_EQ(tolvaGetLastError(), kUntouched);
+  Open();
+  ASSERT_EQ(writer_.StartElement(L"a"), 0);
+  tolvaSetLastError(kUntouched);
+  for (const wchar_t* const name : {static_cast<const wchar_t*>(nullptr), L""}) {
+    EXPECT_EQ(writer_.StartElement(name), -102);
+    EXPECT_EQ(writer_.WriteAttribute(name, L"x"), -102);
+    EXPECT_EQ(writer_.WriteElementString(name, L"x"), -102);
+  }
+  EXPECT_EQ(tolvaGetLastError(), kUntouched);
+
+  struct Case {
+    std::wstring text;
+    DWORD error;
+  };
+  for (const Case& one : {Case{std::wstring(L"x\0y", 3), 0xC00CEE2B}, Case{L"\x1", 0xC00CEE2B},
+                          Case{L"x\xFFFE", 0xC00CEE2B}, Case{L"\xD800", 0xC00CEF0C},
+                          Case{L"\xDC00\xD800", 0xC00CEF0C}}) {
+    tolvaSetLastError(0);
+    EXPECT_EQ(writer_.WriteAttribute(L"bad", one.text), -101);
+    EXPECT_EQ(tolvaGetLastError(), one.error);
+    EXPECT_EQ(writer_.WriteElementString(L"bad", one.text), -101);
+    EXPECT_EQ(writer_.EndElement(one.text), -101);
+    EXPECT_EQ(tolvaGetLastError(), one.error);
+  }
+  // The writer is none the worse for it.
+  EXPECT_EQ(writer_.WriteAttribute(L"good", L"x"), 0);
+  EXPECT_EQ(writer_.EndElement(nullptr), 0);
+  EXPECT_EQ(writer_.EndElement(nullptr), -101);  // nothing is open
+  EXPECT_EQ(tolvaGetLastError(), 0xC00CEF0BU);
+  EXPECT_FALSE(Holds("bad"));
+}
+
+TEST_F(ManagerWriter, FinishesADocumentThatIsLeftOpen) {
+  const TempFile second;
+  Open();
+  ASSERT_EQ(writer_.StartElement(L"a"), 0);
+  ASSERT_EQ(writer_.StartElement(L"b"), 0);
+  ASSERT_EQ(writer_.OpenFile(second.Wide().c_str()), 0);
+  EXPECT_TRUE(Holds("</a>"));
+  {
+    CXMLLiteManagerWriter destroyed;
+    ASSERT_EQ(destroyed.OpenFile(file_.Wide().c_str()), 0);
+    ASSERT_EQ(destroyed.StartElement(L"c"), 0);
+    ASSERT_EQ(destroyed.StartElement(L"d"), 0);
+  }
+  EXPECT_TRUE(Holds("</c>"));
+  ASSERT_EQ(writer_.StartElement(L"e"), 0);
+  EXPECT_EQ(writer_.Close(), 0);
+  EXPECT_EQ(writer_.Close(), 0);
+  EXPECT_NE(second.Read().find("<e"), std::string::npos);
+  // A closed file can be taken away, and the writer used again.
+  EXPECT_TRUE(std::filesystem::remove(second.path()));
+  ASSERT_EQ(writer_.OpenFile(second.Wide().c_str()), 0);
+  ASSERT_EQ(writer_.StartElement(L"f"), 0);
+  EXPECT_EQ(writer_.Close(), 0);
+}
+
+TEST_F(ManagerWriter, ReportsFaultsOfThePlatformsWriter) {
+  {
+    for (const int call : {0, 1}) {  // the output, the declaration
+      const WriterFault fault(call);
+      EXPECT_EQ(writer_.OpenFile(file_.Wide().c_str()), -101);
+      EXPECT_EQ(tolvaGetLastError(), kFault);
+      EXPECT_EQ(writer_.Close(), 0);  // nothing is open
+    }
+  }
+  Open();
+  ASSERT_EQ(writer_.StartElement(L"a"), 0);
+  {
+    const WriterFault fault(0);
+    EXPECT_EQ(writer_.WriteAttribute(L"b", L"x"), -101);
+    EXPECT_EQ(tolvaGetLastError(), kFault);
+  }
+  {
+    const WriterFault fault(0);
+    EXPECT_EQ(writer_.EndElement(nullptr), -101);
+  }
+  ASSERT_EQ(writer_.StartElement(L"c"), 0);
+  tolvaSetLastError(0);
+  {
+    const WriterFault fault(1);  // the line feed: not the element's
+    EXPECT_EQ(writer_.EndElement(nullptr), 0);
+    EXPECT_EQ(tolvaGetLastError(), kFault);
+  }
+  {
+    const WriterFault fault(0);
+    EXPECT_EQ(writer_.Close(), -101);
+  }
+  {
+    const WriterFault fault(1);  // the document ends, but is not flushed
+    EXPECT_EQ(writer_.Close(), -101);
+    EXPECT_EQ(tolvaGetLastError(), kFault);
+  }
+  EXPECT_EQ(writer_.StartElement(L"late"), -101);
+  EXPECT_EQ(writer_.Close(), 0);
+  EXPECT_TRUE(Holds("</a>"));
+  EXPECT_FALSE(Holds("late"));
+}
+
+#if !defined(_WIN32)
+TEST_F(ManagerWriter, ReportsAFullDisk) {
+  ASSERT_EQ(writer_.OpenFile(L"/dev/full"), 0);
+  ASSERT_EQ(writer_.StartElement(L"a"), 0);
+  for (int again = 0; again < 2; ++again) {
+    tolvaSetLastError(0);
+    EXPECT_EQ(writer_.Close(), -101);
+    EXPECT_EQ(tolvaGetLastError(), 0x80070070U);
+  }
+  Open();  // the writer can be used for another file
+  ASSERT_EQ(writer_.StartElement(L"b"), 0);
+  EXPECT_EQ(writer_.Close(), 0);
+  EXPECT_TRUE(Holds("<b/>"));
+}
+
+TEST_F(ManagerWriter, DoesNotWriteToPipes) {
+  const TempFile pipe;
+  ASSERT_EQ(std::system(("mkfifo " + pipe.path().string()).c_str()), 0);
+  EXPECT_EQ(writer_.OpenFile(pipe.Wide().c_str()), -101);
+}
+#endif
+
+TEST_F(ManagerWriter, WritesWhatTheReaderReadsBack) {
+  TOLVA_REQUIRE(WriterEscapes);
+  const std::wstring values[] = {L"<&>\"'",     L"\t\r\n",       L" ",      L"\r\n x \r", L"]]>",
+                                 L"\U0001F600", L"\u00E9\uFFFD", L"a\nb\tc"};
+  Open();
+  ASSERT_EQ(writer_.StartElement(L"all"), 0);
+  for (const std::wstring& value : values) {
+    ASSERT_EQ(writer_.StartElement(L"one"), 0);
+    ASSERT_EQ(writer_.WriteAttribute(L"v", value), 0);
+    ASSERT_EQ(writer_.EndElement(value), 0);
+  }
+  ASSERT_EQ(writer_.Close(), 0);
+  xml::CXMLLiteManagerReader reader;
+  ASSERT_EQ(reader.OpenFile(file_.Wide().c_str()), 0);
+  for (const std::wstring& value : values) {
+    ASSERT_EQ(reader.NextNode(), 1);
+    EXPECT_EQ(std::wstring(reader.GetAttribute(L"v")), value);
+    const wchar_t* const text = reader.GetText();
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(std::wstring(text), value);
+    reader.FinishElement();
+  }
+}
+
+}  // namespace
+}  // namespace tolva::test
