@@ -58,6 +58,7 @@ bool ShowDocument(const Folders& folders, const char* title, const char* file,
 bool ShowActiveDirectory(const Folders& folders);
 bool ShowPolicy(const Folders& folders);
 bool ShowModules(const Folders& folders);
+bool ShowRecords(const Folders& folders);
 
 /// What broken documents give.
 bool ShowBrokenDocuments(const Folders& folders);

@@ -17,6 +17,7 @@ constexpr Part kParts[] = {
     {"active-directory", &demo::ShowActiveDirectory},
     {"policy", &demo::ShowPolicy},
     {"modules", &demo::ShowModules},
+    {"records", &demo::ShowRecords},
     {"broken", &demo::ShowBrokenDocuments},
 };
 

@@ -193,17 +193,4 @@ inline Example RemoteFilteringExample() {
       {.texts = {kTelemetry}});
 }
 
-struct ModuleExample {
-  const char* name;
-  Example (*make)();
-};
-
-inline constexpr ModuleExample kModuleExamples[] = {
-    {"NG", &NgExample},
-    {"Global", &GlobalExample},
-    {"Proxy", &ProxyExample},
-    {"CI", &CiExample},
-    {"RemoteFiltering", &RemoteFilteringExample},
-};
-
 }  // namespace tolva::test

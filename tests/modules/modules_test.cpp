@@ -5,26 +5,10 @@
 #include <memory>
 #include <string>
 
-#include "modules/examples.h"
-#include "support/capabilities.h"
 #include "support/fragments.h"
 
 namespace tolva::test {
 namespace {
-
-class ModuleDocument : public testing::TestWithParam<ModuleExample> {};
-
-TEST_P(ModuleDocument, IsReadAndWritten) { GetParam().make().ExpectRoundTrip(); }
-
-TEST_P(ModuleDocument, HasItsFaultsReported) { GetParam().make().ExpectReadFaults(); }
-
-TEST_P(ModuleDocument, EndsWhereTheInputEnds) {
-  TOLVA_REQUIRE(ReaderEndsTruncatedInput);
-  GetParam().make().ExpectTruncation();
-}
-
-INSTANTIATE_TEST_SUITE_P(Modules, ModuleDocument, testing::ValuesIn(kModuleExamples),
-                         [](const auto& module) { return std::string(module.param.name); });
 
 TEST(Modules, StartEmpty) {
   using namespace NGConfInterface;

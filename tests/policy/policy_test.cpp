@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "policy/example.h"
-#include "support/capabilities.h"
 #include "support/fragments.h"
 #include "support/nodes.h"
 
@@ -15,15 +14,6 @@ namespace tolva::test {
 namespace {
 
 using namespace TolvaInterface;
-
-TEST(Policy, ReadsAndWritesTheExample) { PolicyExample().ExpectRoundTrip(); }
-
-TEST(Policy, ReportsFaultsOfDocuments) { PolicyExample().ExpectReadFaults(); }
-
-TEST(Policy, EndsWhereTheDocumentEnds) {
-  TOLVA_REQUIRE(ReaderEndsTruncatedInput);
-  PolicyExample().ExpectTruncation();
-}
 
 TEST(Policy, StartsEmpty) {
   const std::unique_ptr<IILPClientConfiguration> root(ILPClientConfiguration_CreateNewInstance());

@@ -29,7 +29,9 @@ std::vector<std::wstring> Words(const wchar_t* text) {
 }
 
 /// "Name*" or "Name:T!" without what follows the name.
-std::wstring NameOf(const std::wstring& word) { return word.substr(0, word.find_first_of(L":!*")); }
+std::wstring NameOf(const std::wstring& word) {
+  return word.substr(0, word.find_first_of(L":!?*"));
+}
 
 std::wstring Without(const std::wstring& text, std::size_t start, std::size_t end) {
   return text.substr(0, start) + text.substr(end);
@@ -59,6 +61,7 @@ void Example::Parse() {
     const std::size_t close = text_.find(L'>', at);
     ASSERT_NE(close, std::wstring::npos);
     if (text_[at + 1] == L'/') {
+      elements_[open.back()].close = at;
       elements_[open.back()].end = close + 1;
       open.pop_back();
       at = close;
@@ -70,7 +73,7 @@ void Example::Parse() {
     element.name = text_.substr(at + 1, name_end - at - 1);
     element.rule = element.name;
     element.start = at;
-    element.end = close + 1;
+    element.inside = element.close = element.end = close + 1;
     element.parent = open.empty() ? index : open.back();
     if (!open.empty()) {
       const std::wstring path = elements_[open.back()].name + L"/" + element.name;
@@ -110,12 +113,12 @@ std::vector<Example::AttributeRule> Example::AttributesOf(const Element& element
   return rules;
 }
 
-/// How often the element occurs in its parent: '!', '*' or 0.
+/// How often the element occurs in its parent: '!', '?', '*' or 0.
 wchar_t Example::MarkOf(const Element& child) const {
   const ElementRule* const parent = FindRule(elements_[child.parent].rule);
   for (const std::wstring& word : Words(parent == nullptr ? L"" : parent->children)) {
     if (NameOf(word) != child.name) continue;
-    return word.back() == L'!' || word.back() == L'*' ? word.back() : L'\0';
+    return word.size() > child.name.size() ? word.back() : L'\0';
   }
   ADD_FAILURE() << "no rule for the child " << testing::PrintToString(child.name);
   return 0;
@@ -142,9 +145,9 @@ Texts Example::WithParents(Texts texts, std::size_t element, bool reading) const
     if (reading) {
       text += mark == L'*' ? L"read  multiple" : L"read require";
     } else {
-      text += mark == L'*'   ? L"write none to multiple"
-              : mark == L'!' ? L"write require"
-                             : L"write optional";
+      text += mark == L'*'    ? L"write none to multiple"
+              : mark != L'\0' ? L"write require"
+                              : L"write optional";
     }
     texts.push_back(text + L" element failed. element:" + elements_[i].rule);
   }
@@ -174,15 +177,39 @@ void Example::ExpectRoundTrip() const {
   EXPECT_EQ(WriteFile(*again), first);
 }
 
-/// Reads a document that has one fault: the reports are these, and the root is at its defaults.
-void Example::ExpectRead(const std::wstring& document, const Texts& reports) const {
+/// Reads a document that has one fault. After a failure the root is at its defaults.
+void Example::ExpectRead(const std::wstring& document, const Texts& reports,
+                         ConfigResult result) const {
   const Node root = make_root_();
   Diagnostics diagnostics;
-  const ConfigResult result = ReadText(*root, document);
+  EXPECT_EQ(ReadText(*root, document), result);
   EXPECT_EQ(diagnostics.Take(), reports);
-  EXPECT_EQ(result, reports.empty() ? 0 : -101);
   if (result != 0) {
     EXPECT_EQ(WriteText(*root), fresh_);
+  }
+}
+
+void Example::ExpectTextFaults(std::size_t index, const AttributeRule& rule) const {
+  const Element& element = elements_[index];
+  SCOPED_TRACE(testing::PrintToString(element.name));
+  const std::wstring beginning = rule.type == L'N'
+                                     ? L"XMLManager: read required dword/bool content failed."
+                                     : L"XMLManager: read required string content failed.";
+  const std::wstring without = Without(text_, element.inside, element.close);
+  if (rule.Has(L'!')) {
+    ExpectRead(without, WithParents({beginning + L" element:Content"}, index, true), -101);
+  } else if (rule.Has(L'?')) {
+    ExpectRead(without, {beginning + L" element:" + element.name}, 0);
+  } else {
+    ExpectRead(without, {}, 0);
+  }
+  if (rule.type != L'N') return;
+  std::wstring spoilt = text_;
+  spoilt.insert(element.inside, L"x");
+  if (rule.Has(L'~')) {
+    ExpectRead(spoilt, {}, 0);
+  } else {
+    ExpectRead(spoilt, WithParents({beginning + L" element:" + element.name}, index, true), -101);
   }
 }
 
@@ -207,7 +234,7 @@ void Example::ExpectReadFaults() const {
                              : L"XMLLITEManager: read required ENUM Attribute failed." + names);
         absent = WithParents(absent, i, true);
       }
-      ExpectRead(Without(text_, attribute.start, attribute.end), absent);
+      ExpectRead(Without(text_, attribute.start, attribute.end), absent, absent.empty() ? 0 : -101);
 
       if (rule.type == L'S') continue;
       const std::wstring unknown =
@@ -217,13 +244,15 @@ void Example::ExpectReadFaults() const {
           names;
       std::wstring spoilt = text_;
       spoilt.insert(attribute.end - 1, L"x");
-      ExpectRead(spoilt, WithParents({rule.type == L'N' ? number : unknown}, i, true));
+      ExpectRead(spoilt, WithParents({rule.type == L'N' ? number : unknown}, i, true), -101);
     }
+    if (!rules.empty() && rules[0].name == L"#") ExpectTextFaults(i, rules[0]);
     if (element.parent != i && MarkOf(element) == L'!') {
       SCOPED_TRACE(testing::PrintToString(element.name));
       ExpectRead(Without(text_, element.start, element.end),
                  WithParents({L"XMLManager: sub-element " + element.name + L" is missing"},
-                             element.parent, true));
+                             element.parent, true),
+                 -101);
     }
   }
 }
@@ -248,12 +277,22 @@ void Example::CollectWriteFaults(std::size_t index, std::vector<Texts>& faults,
   const auto fails = [&](const std::wstring& text) {
     faults.push_back(WithParents({text}, index, false));
   };
+  const std::vector<AttributeRule> rules = AttributesOf(element);
+  if (!rules.empty() && rules[0].name == L"#") {  // one call writes it all
+    if (!rules[0].Has(L'!') && !rules[0].Has(L'?')) {
+      faults.emplace_back();
+    } else if (rules[0].type == L'N') {
+      fails(L"XMLManager: write required content DWORD/BOOL failed. element:" + element.name);
+    } else {
+      fails(L"XMLManager: write required content string failed. element:" + element.name);
+    }
+    return;
+  }
   const auto announced = departures_.announced.find(element.name);
   if (announced != departures_.announced.end()) {
     announcements.push_back({faults.size(), announced->second.first});
   }
   fails(L"XMLManager: fail to add element: " + element.rule);
-  const std::vector<AttributeRule> rules = AttributesOf(element);
   for (const Attribute& attribute : element.attributes) {
     const auto rule = std::find_if(rules.begin(), rules.end(), [&](const AttributeRule& candidate) {
       return candidate.name == attribute.name;

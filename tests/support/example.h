@@ -22,10 +22,13 @@ struct ElementRule {
   const wchar_t* name;
 
   /// "Name:type" and marks, in write order. Types: N number, S string, E ENUM. Marks: ! required,
-  /// ? always written but dispensable, ~ not checked when written, 1 reads as present when absent.
+  /// ? always written but dispensable, ~ not checked when written.
+  ///
+  /// "#:type" and marks: the element's text. Marks: ! required, ? its absence is reported and no
+  /// fault, ~ anything is a number.
   const wchar_t* attributes;
 
-  /// Names and marks, in write order: ! required, * repeated.
+  /// Names and marks, in write order: ! required, ? always written but dispensable, * repeated.
   const wchar_t* children;
 };
 
@@ -50,7 +53,7 @@ class Example {
   /// Reading, writing and reading again changes nothing, and the file is written as it stands.
   void ExpectRoundTrip() const;
 
-  /// Attributes taken away and spoilt, children taken away, the end cut off.
+  /// Attributes, texts and children taken away and spoilt, the end cut off.
   void ExpectReadFaults() const;
   void ExpectTruncation() const;
 
@@ -73,6 +76,8 @@ class Example {
     std::wstring name;
     std::wstring rule;  ///< the name of its account
     std::size_t start;
+    std::size_t inside;  ///< behind its start tag
+    std::size_t close;   ///< its end tag; an empty tag: its end
     std::size_t end;     ///< behind its end tag
     std::size_t parent;  ///< itself: the root
     std::vector<Attribute> attributes;
@@ -97,7 +102,8 @@ class Example {
   wchar_t MarkOf(const Element& child) const;
   Texts Depart(const Texts& texts) const;
   Texts WithParents(Texts texts, std::size_t element, bool reading) const;
-  void ExpectRead(const std::wstring& document, const Texts& reports) const;
+  void ExpectTextFaults(std::size_t element, const AttributeRule& rule) const;
+  void ExpectRead(const std::wstring& document, const Texts& reports, ConfigResult result) const;
   void CollectWriteFaults(std::size_t index, std::vector<Texts>& faults,
                           std::vector<Announcement>& announcements) const;
 

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <filesystem>
 #include <functional>
 #include <iterator>
@@ -293,9 +294,21 @@ TEST(Manager, LetsFilesGo) {
 #endif
 
 TEST(Manager, HasALastErrorForEachThread) {
+  // No system call of this thread's may come between: it could change the value itself.
+  std::atomic<int> turn = 0;
+  std::thread other([&] {
+    while (turn != 1) {
+    }
+    tolvaSetLastError(2);
+    turn = 2;
+  });
   tolvaSetLastError(1);
-  std::thread([] { tolvaSetLastError(2); }).join();
-  EXPECT_EQ(tolvaGetLastError(), 1U);
+  turn = 1;
+  while (turn != 2) {
+  }
+  const DWORD error = tolvaGetLastError();
+  other.join();
+  EXPECT_EQ(error, 1U);
 }
 
 TEST(Manager, IsReaderOrWriterByTheArgument) {
