@@ -3,13 +3,11 @@
 #include <cwchar>
 
 #include "xml/reader.h"
-#include "xml/writer.h"
 
 namespace CpsAnalysisDetailsConf {
 namespace {
 
 constexpr const wchar_t* kAddressTypes[] = {L"EmailAddress", L"Other"};
-constexpr const wchar_t* kCustomDisplayText = L"customDisplayText";
 constexpr const wchar_t* kContentTypes[] = {L"Subject", L"Attachment", L"Other"};
 
 }  // namespace
@@ -88,6 +86,12 @@ constinit const Schema CdetectedValues::kSchema = {
     .element = L"detectedValues",
     .dialect = kDialect,
     .children = kChildren,
+};
+
+constinit const Schema CcustomDisplayText::kSchema = {
+    .element = L"customDisplayText",
+    .dialect = kDialect,
+    .content = TextOf<&CcustomDisplayText::content_>(),
 };
 
 constinit const Child Cviolation::kChildren[] = {
@@ -208,17 +212,7 @@ ConfigResult Cviolation::SetCustomDisplayText(const IcustomDisplayText* child) {
 
 ConfigResult CcustomDisplayText::WriteToXMLMgr(IXMLLiteManager* manager, int /*reserved*/,
                                                int /*position*/) const {
-  if (manager == nullptr) {
-    Report(kDialect.null_writer);
-    return tolva::kFailed;
-  }
-  auto* const writer = tolva::xml::AsWriter(manager);
-  if (writer == nullptr) return tolva::kFailed;
-  if (writer->WriteElementString(kCustomDisplayText, content_) == tolva::kSuccess) {
-    return tolva::kSuccess;
-  }
-  ReportElement(kWriteStringContent, kCustomDisplayText);
-  return tolva::kFailed;
+  return WriteNode(kSchema, *this, manager);
 }
 
 ConfigResult CcustomDisplayText::ReadFromXMLMgr(IXMLLiteManager* manager, int /*reserved*/) {
@@ -229,14 +223,14 @@ ConfigResult CcustomDisplayText::ReadFromXMLMgr(IXMLLiteManager* manager, int /*
   auto* const reader = tolva::xml::AsReader(manager);
   if (reader == nullptr) return tolva::kFailed;
   const wchar_t* const name = reader->GetLocalName();
-  if (name == nullptr || std::wcscmp(name, kCustomDisplayText) != 0) {
+  if (name == nullptr || std::wcscmp(name, kSchema.element) != 0) {
     return tolva::kInvalidArgument;
   }
   const wchar_t* const text = reader->GetText();
   if (text != nullptr) {
     content_ = text;
   } else {
-    ReportElement(kReadStringContent, kCustomDisplayText);
+    ReportElement(kReadStringContent, kSchema.element);
   }
   reader->FinishElement();
   return tolva::kSuccess;

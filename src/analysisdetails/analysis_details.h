@@ -106,9 +106,11 @@ class CdetectedValues final : public Node<CdetectedValues, IdetectedValues> {
   ChildList<CdetectedValue> detectedValues_;
 };
 
-/// Not an INode, and so not driven by a table.
+/// No INode: it is written by its table, but reads in its own way.
 class CcustomDisplayText final : public IcustomDisplayText {
  public:
+  static const Schema kSchema;
+
   ConfigResult WriteToXMLMgr(IXMLLiteManager* manager, int reserved, int position) const override;
   ConfigResult ReadFromXMLMgr(IXMLLiteManager* manager, int reserved) override;
   const std::wstring& GetContent() const override { return content_; }

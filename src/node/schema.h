@@ -112,10 +112,13 @@ struct ChildRef {
   ItemList* items;    ///< for a repeated one
 };
 
+struct Schema;
+
 /// One child of an element, or one kind of children.
 struct Child {
   const wchar_t* name;
   Occurrence occurrence;
+  const Schema* schema;  ///< the child's own table
   ChildRef (*locate)(IElement& node);
   void (*clear)(IElement& node);
 
@@ -256,6 +259,7 @@ FieldRef LocateField(IElement& node) {
 
 template <class C>
 struct ChildTraits {
+  using Element = C;
   static constexpr Occurrence kOccurrence = Occurrence::kRequired;
   static ChildRef Locate(C& child) { return {&child, nullptr, nullptr}; }
   static void Clear(C& child) { child.Clear(); }
@@ -263,6 +267,7 @@ struct ChildTraits {
 
 template <class C>
 struct ChildTraits<OptionalChild<C>> {
+  using Element = C;
   static constexpr Occurrence kOccurrence = Occurrence::kOptional;
   static ChildRef Locate(OptionalChild<C>& field) {
     return {&field.child, &field.present, nullptr};
@@ -275,6 +280,7 @@ struct ChildTraits<OptionalChild<C>> {
 
 template <class C, class I>
 struct ChildTraits<ChildList<C, I>> {
+  using Element = C;
   static constexpr Occurrence kOccurrence = Occurrence::kRepeated;
   static ChildRef Locate(ChildList<C, I>& items) { return {nullptr, nullptr, &items}; }
   static void Clear(ChildList<C, I>& items) { items.RemoveAll(); }
@@ -313,7 +319,8 @@ constexpr Attribute Attr(const wchar_t* name, EnumTexts texts) {
 template <auto Member>
 constexpr Child Elem(const wchar_t* name) {
   using Traits = internal::ChildTraits<typename internal::MemberOf<decltype(Member)>::Field>;
-  return {name, Traits::kOccurrence, &internal::LocateChild<Member>, &internal::ClearChild<Member>};
+  return {name, Traits::kOccurrence, &Traits::Element::kSchema, &internal::LocateChild<Member>,
+          &internal::ClearChild<Member>};
 }
 
 /// The value of an element that consists of text.

@@ -274,7 +274,8 @@ TEST(Engine, ReportsFailedWritesLevelByLevel) {
       {L"XMLManager: fail to close element: Book",
        L"XMLManager: write none to multiple element failed. element:Book"},
       none,  // the line feed
-      {L"XMLManager: write require element failed. element:Stamp"},
+      {L"XMLManager: write required content string failed. element:Stamp",
+       L"XMLManager: write require element failed. element:Stamp"},
       {L"XMLManager: fail to close element: Shelf"},
       none,  // the line feed
       none,  // there is no further call
@@ -447,12 +448,12 @@ class CNotes final : public NodeOf<CNotes> {
 };
 
 constinit const node::Child CNotes::kChildren[] = {
-    {L"Note", node::Occurrence::kRepeated,
+    {L"Note", node::Occurrence::kRepeated, nullptr,
      [](node::IElement& node) {
        return tolva::node::ChildRef{nullptr, nullptr, &static_cast<CNotes&>(node).notes};
      },
      [](node::IElement&) {}},
-    {L"Last", node::Occurrence::kRequired,
+    {L"Last", node::Occurrence::kRequired, nullptr,
      [](node::IElement& node) {
        return tolva::node::ChildRef{&static_cast<CNotes&>(node).last, nullptr, nullptr};
      },

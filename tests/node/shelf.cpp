@@ -1,7 +1,6 @@
 #include "node/shelf.h"
 
 #include "xml/reader.h"
-#include "xml/writer.h"
 
 namespace shelf {
 namespace {
@@ -70,9 +69,12 @@ constinit const Schema CLabels::kSchema = {
     .null_reader = OwnText(L"no reader for labels"),
 };
 
+constinit const Schema CStamp::kSchema = {
+    .element = L"Stamp", .dialect = kSigned, .content = TextOf<&CStamp::text>()};
+
 ConfigResult CStamp::WriteToXMLMgr(IXMLLiteManager* manager, int /*reserved*/,
                                    int /*position*/) const {
-  return tolva::xml::AsWriter(manager)->WriteElementString(L"Stamp", text);
+  return WriteNode(kSchema, *this, manager);
 }
 
 ConfigResult CStamp::ReadFromXMLMgr(IXMLLiteManager* manager, int /*reserved*/) {

@@ -82,6 +82,7 @@ class CLabels final : public NodeOf<CLabels> {
 /// Not an INode: it has no `Clear` and no `CopyFrom`.
 class CStamp final : public tolva::node::IElement {
  public:
+  static const tolva::node::Schema kSchema;
   ConfigResult WriteToXMLMgr(IXMLLiteManager* manager, int reserved, int position) const override;
   ConfigResult ReadFromXMLMgr(IXMLLiteManager* manager, int reserved) override;
   /// For the element's parent.

@@ -1,0 +1,147 @@
+#include "tables/random_content.h"
+
+#include <cstdint>
+#include <iterator>
+
+#include "support/capabilities.h"
+
+namespace tolva::test {
+
+using namespace node;
+
+std::wstring RandomContent::String() {
+  static const wchar_t* const pieces[] = {
+      L"a", L"Z9", L" ", L"  ", L"\u00E9", L"\u20AC", L"\uFFFD", L"\U0001F600", L"<",
+      L"&", L"\"", L"'", L">",  L"]]>",    L"\t",     L"\n",     L"\r",         L"\r\n",
+  };
+  constexpr unsigned kPlain = 8;  // the first ones need no escaping
+  const unsigned limit = WriterEscapes() ? static_cast<unsigned>(std::size(pieces)) : kPlain;
+  std::wstring text;
+  for (unsigned count = Below(6); count != 0; --count) text += pieces[Below(limit)];
+  if (Below(200) == 0) text.append(3000, L'x');
+  return text;
+}
+
+void RandomContent::FillValue(ValueType type, const EnumTexts& texts, Numbers numbers,
+                              const FieldRef& field) {
+  switch (type) {
+    case ValueType::kNumber: {
+      const auto value = static_cast<DWORD>(Below(2) == 0 ? Below(10) : random_());
+      // A signed one beyond this is written with a sign, and cannot be read.
+      *static_cast<DWORD*>(field.value) = numbers == Numbers::kSigned ? value & 0x7FFFFFFF : value;
+      break;
+    }
+    case ValueType::kEnum:
+      *static_cast<DWORD*>(field.value) = Below(static_cast<unsigned>(texts.texts.size()));
+      break;
+    case ValueType::kLongNumber:
+      *static_cast<std::uint64_t*>(field.value) =
+          (static_cast<std::uint64_t>(random_()) << 32) | random_();
+      break;
+    case ValueType::kString:
+      *static_cast<std::wstring*>(field.value) = String();
+      break;
+  }
+}
+
+void RandomContent::Fill(const Schema& table, IElement& node) {
+  ++depth_;
+  for (const Attribute& row : table.attributes) {
+    const FieldRef field = row.locate(node);
+    FillValue(row.type, row.enum_texts, table.dialect.numbers, field);
+    if (field.present == nullptr) continue;
+    // What reads as present when it is absent cannot be absent.
+    const bool must_be = row.is_one_when_absent || row.is_present_when_clear;
+    *field.present = must_be || Below(2) == 0 ? 1 : 0;
+  }
+  if (table.content.locate != nullptr) {
+    const FieldRef field = table.content.locate(node);
+    FillValue(table.content.type, {}, table.dialect.numbers, field);
+    if (field.present != nullptr) {
+      *field.present = !table.content.is_always_written || Below(2) == 0 ? 1 : 0;
+    }
+    // A text that is empty is none.
+    if (table.content.type == ValueType::kString)
+      static_cast<std::wstring*>(field.value)->insert(0, L"t");
+  }
+  for (const Child& row : table.children) {
+    const ChildRef child = row.locate(node);
+    if (child.items != nullptr) {
+      child.items->RemoveAll();
+      for (unsigned count = depth_ > 6 ? 0 : Below(3); count != 0; --count) {
+        Fill(*row.schema, child.items->Append());
+      }
+      continue;
+    }
+    Fill(*row.schema, *child.element);
+    if (child.present != nullptr) *child.present = Below(4) == 0 ? 0 : 1;
+  }
+  --depth_;
+}
+
+namespace {
+
+bool AreEqual(ValueType type, const FieldRef& left, const FieldRef& right) {
+  const auto is_present = [](const FieldRef& field) {
+    return field.present == nullptr || *field.present != 0;
+  };
+  if (is_present(left) != is_present(right)) return false;
+  if (!is_present(left)) return true;
+  switch (type) {
+    case ValueType::kLongNumber:
+      return *static_cast<std::uint64_t*>(left.value) == *static_cast<std::uint64_t*>(right.value);
+    case ValueType::kString:
+      return *static_cast<std::wstring*>(left.value) == *static_cast<std::wstring*>(right.value);
+    default:
+      return *static_cast<DWORD*>(left.value) == *static_cast<DWORD*>(right.value);
+  }
+}
+
+bool AreEqual(const Child& row, const ChildRef& left, const ChildRef& right) {
+  if (left.items != nullptr) {
+    if (left.items->Size() != right.items->Size()) return false;
+    for (std::size_t i = 0; i < left.items->Size(); ++i) {
+      if (!test::AreEqual(*row.schema, left.items->Item(i), right.items->Item(i))) return false;
+    }
+    return true;
+  }
+  if (left.present != nullptr) {
+    if ((*left.present != 0) != (*right.present != 0)) return false;
+    if (*left.present == 0) return true;
+  }
+  return test::AreEqual(*row.schema, *left.element, *right.element);
+}
+
+}  // namespace
+
+bool AreEqual(const Schema& table, const IElement& left, const IElement& right) {
+  auto& a = const_cast<IElement&>(left);  // located, not changed
+  auto& b = const_cast<IElement&>(right);
+  for (const Attribute& row : table.attributes) {
+    if (!AreEqual(row.type, row.locate(a), row.locate(b))) return false;
+  }
+  if (table.content.locate != nullptr &&
+      !AreEqual(table.content.type, table.content.locate(a), table.content.locate(b))) {
+    return false;
+  }
+  for (const Child& row : table.children) {
+    if (!AreEqual(row, row.locate(a), row.locate(b))) return false;
+  }
+  return true;
+}
+
+void Reveal(const Schema& table, IElement& node) {
+  for (const Attribute& row : table.attributes) {
+    const FieldRef field = row.locate(node);
+    if (field.present != nullptr) *field.present = 1;
+  }
+  if (table.content.is_optional) *table.content.locate(node).present = 1;
+  for (const Child& row : table.children) {
+    const ChildRef child = row.locate(node);
+    if (child.items != nullptr) continue;
+    if (child.present != nullptr) *child.present = 1;
+    Reveal(*row.schema, *child.element);
+  }
+}
+
+}  // namespace tolva::test
