@@ -1,6 +1,6 @@
 # Everything that this repository can do, by name: `make help`.
 .DEFAULT_GOAL := help
-.PHONY: help demo demo-windows build test abi format tidy bench clean
+.PHONY: help demo demo-windows build test abi documents format tidy bench clean
 
 help: ## This list
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-14s %s\n", $$1, $$2 }' Makefile
@@ -36,6 +36,12 @@ test: ## All tests and checks, on Linux and Windows
 abi: ## Compare the binary interface with the lists in abi/
 	@tools/packages.sh test
 	@tools/abi.sh
+
+documents: ## Make docs/documents.md anew from the tables
+	@tools/packages.sh build
+	@cmake --preset linux-release -DTOLVA_TESTS=OFF > /dev/null
+	@cmake --build --preset linux-release --target documents
+	@cp build/linux-release/documents.md docs/documents.md
 
 format: ## Format the sources
 	@tools/packages.sh test

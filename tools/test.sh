@@ -122,6 +122,7 @@ part_linux() {
   build linux-release || return
   programs linux-release
   check 'linux-release: exported symbols' tools/abi.sh linux
+  check 'linux-release: docs/documents.md' diff -u docs/documents.md build/linux-release/documents.md
   demo linux-release
   local lib
   lib=$(sed -n 's/^CMAKE_INSTALL_LIBDIR:PATH=//p' build/linux-release/CMakeCache.txt)
@@ -150,10 +151,20 @@ part_windows() {
   build windows || return
   programs windows tools/run-windows.sh
   check 'windows: exported symbols' tools/abi.sh windows
+  check 'windows: an export for each factory' count_exports
   demo windows tools/run-windows.sh active-directory broken  # Wine's XmlLite does not escape
   package windows "$(printf '%s\n' bin/tolva.dll lib/libtolva.dll.a lib/pkgconfig/tolva.pc
     cmake_files lib release)" "env TOLVA_WINEPATH=$PWD/build/windows/installed/bin tools/run-windows.sh" \
     -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake"
+}
+
+# The entry points of the library itself are five.
+count_exports() {
+  local factories exports
+  factories=$(grep -c '^TOLVA_FACTORY(' src/exports/factories.def)
+  exports=$(wc -l < abi/exports-windows-mingw.txt)
+  echo "$factories factories, $exports exports"
+  [ "$exports" = $((factories + 5)) ]
 }
 
 part_windows-own() {
