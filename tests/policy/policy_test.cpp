@@ -117,6 +117,45 @@ TEST(Policy, JudgesFragments) {
   });
 }
 
+/// The texts of an ENUM attribute, from 0 up.
+template <class I>
+void ExpectEnum(const char* name, I* (*make)(), ConfigResult (I::*set)(const DWORD*),
+                const std::vector<std::string>& texts) {
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    const std::unique_ptr<I> node(make());
+    const auto value = static_cast<DWORD>(i);
+    (node.get()->*set)(&value);
+    const std::string written = " " + (name + ("=\"" + texts[i] + "\""));
+    EXPECT_NE(WriteText(*node).find(written), std::string::npos) << written;
+  }
+}
+
+TEST(Policy, NumbersItsEnumTexts) {
+  ExpectEnum("Mode", &UserInterface_CreateNewInstance, &IUserInterface::SetMode,
+             {"NORMAL", "SILENT", "UNATTENDED", ""});
+  ExpectEnum("DefaultActionOnUserPromptTimeout", &UserInterface_CreateNewInstance,
+             &IUserInterface::SetDefaultActionOnUserPromptTimeout,
+             {"ALLOW", "BLOCK", "BLOCK_REVIEW", ""});
+  ExpectEnum("BrowserName", &BrowserExtension_CreateNewInstance, &IBrowserExtension::SetBrowserName,
+             {"CHROME", "FIREFOX", "EDGE", ""});
+  ExpectEnum("RecurType", &Schedule_CreateNewInstance, &ISchedule::SetRecurType,
+             {"ONCE", "DAILY", "WEEKLY", "MONTHLY", "CONTINUOUSLY", ""});
+  ExpectEnum("TimeType", &Schedule_CreateNewInstance, &ISchedule::SetTimeType,
+             {"LOCAL", "UTC", ""});
+  ExpectEnum("Type", &InitialRecur_CreateNewInstance, &IInitialRecur::SetType, {"NOW", "TIME", ""});
+  ExpectEnum("ScanMode", &DiscoverySettings_CreateNewInstance, &IDiscoverySettings::SetScanMode,
+             {"FULL", "DIFFERENTIAL", "ALTERNATIVE", ""});
+  const std::vector<std::string> actions = {"USE_CONTENT_POLICY_ACTION", "ALLOW", "BLOCK"};
+  EXPECT_EQ(kUseContentPolicyAction, 0U);
+  EXPECT_EQ(kAllow, 1U);
+  EXPECT_EQ(kBlock, 2U);
+  ExpectEnum("Action", &AppRule_CreateNewInstance, &IAppRule::SetAction, actions);
+  ExpectEnum("Action", &OnlineApps_CreateNewInstance, &IOnlineApps::SetAction, actions);
+  ExpectEnum("Action", &DeviceRule_CreateNewInstance, &IDeviceRule::SetAction, actions);
+  ExpectEnum("Action", &RemoteDriveRule_CreateNewInstance, &IRemoteDriveRule::SetAction, actions);
+  ExpectEnum("Action", &WebAccessRule_CreateNewInstance, &IWebAccessRule::SetAction, actions);
+}
+
 TEST(Policy, KeepsNumbersBeyondItsTables) {
   const DWORD seven = 7;
   const std::unique_ptr<IUserInterface> ui(UserInterface_CreateNewInstance());

@@ -1,4 +1,4 @@
-// What holds for the node of every exported factory, by its table.
+// What holds for every element, by its table.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -7,7 +7,7 @@
 
 #include "node/diagnostics.h"
 #include "support/nodes.h"
-#include "tables/factories.h"
+#include "tables/elements.h"
 #include "tables/random_content.h"
 
 namespace tolva::test {
@@ -16,10 +16,35 @@ namespace {
 using namespace node;
 using NodePtr = std::unique_ptr<INode>;
 
-class EveryFactory : public testing::TestWithParam<Factory> {
+/// Whether accessors of that name belong to the row: their names begin with a capital, and three
+/// have a name of their own.
+bool IsNamed(std::wstring row, const std::wstring& accessors) {
+  if (row == L"ExcludeJSInjectionDomains") row = L"ExcludeJSInjectDomains";
+  if (row == L"ILPInlineProxy") row = L"ILPInLineProxy";
+  if (row == L"ExcludeDomain" && accessors == L"ExcludeJSInjectDomain") return true;
+  row[0] = static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(row[0])));
+  return row == accessors;
+}
+
+class EveryElement : public testing::TestWithParam<Element> {
  protected:
   static NodePtr Make() { return NodePtr(GetParam().make()); }
   static const Schema& Table() { return *GetParam().schema; }
+
+  /// Whether two nodes hold the same in the row of the accessors of that name, if there is one.
+  static bool RowIsEqual(const std::wstring& name, const IElement& left, const IElement& right) {
+    std::vector<Attribute> attributes;
+    std::vector<Child> children;
+    for (const Attribute& row : Table().attributes) {
+      if (IsNamed(row.name, name)) attributes.push_back(row);
+    }
+    for (const Child& row : Table().children) {
+      if (IsNamed(row.name, name)) children.push_back(row);
+    }
+    const Schema one = {
+        .element = L"", .dialect = Table().dialect, .attributes = attributes, .children = children};
+    return AreEqual(one, left, right);
+  }
 
   /// An optional text that is absent writes nothing: no document.
   static bool CanBeWrittenFresh() {
@@ -27,7 +52,7 @@ class EveryFactory : public testing::TestWithParam<Factory> {
   }
 };
 
-TEST_P(EveryFactory, HasATableThatIsSound) {
+TEST_P(EveryElement, HasATableThatIsSound) {
   std::set<std::wstring> names;
   for (const Attribute& row : Table().attributes) {
     EXPECT_TRUE(names.insert(row.name).second) << testing::PrintToString(row.name);
@@ -44,7 +69,7 @@ TEST_P(EveryFactory, HasATableThatIsSound) {
   }
 }
 
-TEST_P(EveryFactory, MakesANodeThatIsClear) {
+TEST_P(EveryElement, MakesANodeThatIsClear) {
   const NodePtr fresh = Make();
   const NodePtr cleared = Make();
   cleared->Clear();
@@ -57,7 +82,7 @@ TEST_P(EveryFactory, MakesANodeThatIsClear) {
 }
 
 /// Nothing is left of what was there, not even where it cannot be seen for now.
-TEST_P(EveryFactory, ForgetsEverythingWhenItIsCleared) {
+TEST_P(EveryElement, ForgetsEverythingWhenItIsCleared) {
   // Elements that keep a value on purpose, and those that consist of one.
   const std::set<std::wstring_view> keeping = {L"Setting",      L"Schedule", L"DiscoveryAction",
                                                L"DiscoveryJob", L"address",  L"extractedContent"};
@@ -72,7 +97,7 @@ TEST_P(EveryFactory, ForgetsEverythingWhenItIsCleared) {
   EXPECT_TRUE(AreEqual(Table(), *node, *fresh));
 }
 
-TEST_P(EveryFactory, IsToldOfNullManagers) {
+TEST_P(EveryElement, IsToldOfNullManagers) {
   const NodePtr node = Make();
   RandomContent(1).Fill(Table(), *node);
   const NodePtr before(GetParam().copy(*node));
@@ -90,29 +115,26 @@ TEST_P(EveryFactory, IsToldOfNullManagers) {
   EXPECT_TRUE(AreEqual(Table(), *node, *before));
 }
 
-/// What a null value has to give, by the row of what is set; null: no row has the setter's name.
+/// What a null value has to give, by the row of what is set.
 struct NullResult {
-  bool is_known = false;
+  bool is_known = false;  ///< there is such a row, and it does not depart
   ConfigResult result = 0;
   Texts reports = {};
 };
 
 NullResult ExpectedOfNull(const Schema& table, const std::wstring& name) {
-  const auto is_named = [&](std::wstring row) {
-    row[0] = static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(row[0])));
-    return row == name;
-  };
   const auto required = [&](const std::wstring& row) {
     return NullResult{true,
                       -101,
                       {std::wstring(table.dialect.null_value) + L" element:" +
                        std::wstring(table.ReportedName()) + L", attr:" + row}};
   };
+  if (name == L"ActiveDirectory") return {};
   for (const Attribute& row : table.attributes) {
-    if (is_named(row.name)) return row.is_optional ? NullResult{true} : required(row.name);
+    if (IsNamed(row.name, name)) return row.is_optional ? NullResult{true} : required(row.name);
   }
   for (const Child& row : table.children) {
-    if (!is_named(row.name)) continue;
+    if (!IsNamed(row.name, name)) continue;
     if (row.occurrence == Occurrence::kOptional) return {true};
     if (row.is_dispensable) return {true, -101};  // silent
     return {true, -101, {std::wstring(kSetElement) + L" element:" + row.name}};
@@ -123,39 +145,51 @@ NullResult ExpectedOfNull(const Schema& table, const std::wstring& name) {
   return {};
 }
 
-TEST_P(EveryFactory, TakesNullForWhatIsOptionalAlone) {
-  const std::set<std::wstring> departing = {L"ActiveDirectory"};  // the proxy's, tested with it
-  std::size_t known = 0;
-  for (const NullSetter& setter : GetParam().null_setters) {
-    SCOPED_TRACE(testing::PrintToString(setter.name));
+TEST_P(EveryElement, TakesNullForWhatIsOptionalAlone) {
+  for (const ValueAccessors& accessors : GetParam().values) {
+    SCOPED_TRACE(testing::PrintToString(accessors.name));
+    const NullResult expected = ExpectedOfNull(Table(), accessors.name);
+    if (!expected.is_known) continue;
     const NodePtr node = Make();
     RandomContent(1).Fill(Table(), *node);
     const NodePtr before(GetParam().copy(*node));
     Diagnostics diagnostics;
-    const ConfigResult result = setter.call(*node);
-    const Texts reports = diagnostics.Take();
-    if (result != 0) {
-      EXPECT_EQ(result, -101);
-      EXPECT_TRUE(departing.contains(setter.name) || AreEqual(Table(), *node, *before));
+    EXPECT_EQ(accessors.set_null(*node), expected.result);
+    EXPECT_EQ(diagnostics.Take(), expected.reports);
+    EXPECT_TRUE(expected.result == 0 || AreEqual(Table(), *node, *before));
+  }
+}
+
+/// What is got from one node and set in another, one thing after the other, comes to the same.
+TEST_P(EveryElement, HasAccessorsForEverything) {
+  for (unsigned seed = 0; seed < 8; ++seed) {
+    const NodePtr from = Make();
+    const NodePtr to = Make();
+    RandomContent(seed).Fill(Table(), *from);
+    for (const Child& row : Table().children) {
+      // Absent, it cannot be told of by the accessors that some parents have.
+      if (row.name == std::wstring_view(L"ActiveDirectory")) *row.locate(*from).present = 1;
     }
-    const NullResult expected = ExpectedOfNull(Table(), setter.name);
-    if (!expected.is_known || departing.contains(setter.name)) continue;
-    ++known;
-    EXPECT_EQ(result, expected.result);
-    EXPECT_EQ(reports, expected.reports);
+    for (const ValueAccessors& accessors : GetParam().values) {
+      SCOPED_TRACE(testing::PrintToString(accessors.name));
+      EXPECT_EQ(accessors.transfer(*from, *to), 0);
+      EXPECT_TRUE(RowIsEqual(accessors.name, *from, *to));
+    }
+    for (const ListAccessors& accessors : GetParam().lists) {
+      SCOPED_TRACE(testing::PrintToString(accessors.name));
+      accessors.transfer(*from, *to);
+      EXPECT_TRUE(RowIsEqual(accessors.name, *from, *to));
+    }
+    // One list has accessors that read it, and none that fill it.
+    const bool is_filled_by_reading =
+        Table().element == std::wstring_view(L"ExcludeJSInjectionDomains");
+    EXPECT_TRUE(is_filled_by_reading || AreEqual(Table(), *from, *to));
+    for (const ListAccessors& accessors : GetParam().lists) accessors.check(*to);
   }
-  // Every attribute, text and single child has its setter, but for children of other names.
-  const std::set<std::wstring_view> renamed = {L"ActiveDirectory", L"ExcludeJSInjectionDomains",
-                                               L"ILPInlineProxy"};
-  std::size_t rows = Table().attributes.size() + (Table().content.locate != nullptr ? 1 : 0);
-  for (const Child& row : Table().children) {
-    if (row.occurrence != Occurrence::kRepeated && !renamed.contains(row.name)) ++rows;
-  }
-  EXPECT_EQ(known, rows);
 }
 
 /// Random content goes into a document and comes back; a copy is whole, and its own.
-TEST_P(EveryFactory, KeepsWhateverItHolds) {
+TEST_P(EveryElement, KeepsWhateverItHolds) {
   for (unsigned seed = 0; seed < 30; ++seed) {
     SCOPED_TRACE(seed);
     const NodePtr node = Make();
@@ -179,17 +213,17 @@ TEST_P(EveryFactory, KeepsWhateverItHolds) {
   }
 }
 
-std::string NameOfFactory(const testing::TestParamInfo<Factory>& info) {
+std::string NameOfElement(const testing::TestParamInfo<Element>& info) {
   std::string name = info.param.name;
   name.replace(name.find("::"), 2, "_");
   return name;
 }
 
-INSTANTIATE_TEST_SUITE_P(All, EveryFactory, testing::ValuesIn(AllFactories()), NameOfFactory);
+INSTANTIATE_TEST_SUITE_P(All, EveryElement, testing::ValuesIn(AllElements()), NameOfElement);
 
 }  // namespace
 
 /// For GoogleTest, which finds it by its argument.
-void PrintTo(const Factory& factory, std::ostream* stream) { *stream << factory.name; }
+void PrintTo(const Element& element, std::ostream* stream) { *stream << element.name; }
 
 }  // namespace tolva::test
