@@ -11,7 +11,6 @@ namespace tolva::test {
 namespace {
 
 TEST(Modules, StartEmpty) {
-  using namespace NGConfInterface;
   struct Fresh {
     node::IElement* (*make)();
     std::string_view written;
@@ -73,6 +72,8 @@ TEST(Modules, JudgeFragments) {
       "DisplayFTPBlockMsg=\"0\" FTPBlockMsgInterval=\"0\" UITimeout=\"0\"/>";
   const std::string fresh_ng = WriteText(*std::unique_ptr<node::IElement>(
       NGConfInterface::INGClientConfiguration_CreateNewInstance()));
+  const std::string fresh_rf = WriteText(*std::unique_ptr<node::IElement>(
+      RFConfInterface::IRFClientConfiguration_CreateNewInstance()));
   const std::string ci_setting =
       "<ClientSetting EnableTelemetry=\"0\">" + std::string(kFreshUi) + "</ClientSetting>";
   ExpectAll({
@@ -87,6 +88,11 @@ TEST(Modules, JudgeFragments) {
        "UISilentMode=\"0\" DisplayHTTPSBlockMsg=\"0\" HTTPSBlockMsgInterval=\"0\" "
        "DisplayFTPBlockMsg=\"0\" FTPBlockMsgInterval=\"0\" UITimeout=\"0\"/></ClientSetting>"
        "</ICIClientConfiguration>"},
+      {Make<RFConfInterface::IRFClientConfiguration_CreateNewInstance>,
+       L"<IRFClientConfiguration SchemaVersion='1' SN='' Name=''/>",
+       -101,
+       {L"XMLManager: sub-element ClientSetting is missing"},
+       fresh_rf},
       {Make<RFConfInterface::Connection_CreateNewInstance>,
        L"<Connection/>",
        -101,
@@ -179,6 +185,12 @@ TEST(Modules, KeepTheNameOfAnApplication) {
   EXPECT_EQ(WriteText(*setting), "<Setting AppName=\"FIREFOX\" AppVersionMajor=\"0\"/>");
   EXPECT_EQ(ReadText(*setting, L"<Setting/>"), -101);
   EXPECT_EQ(setting->GetAppName(), 7U);
+  EXPECT_EQ(ReadText(*setting, L"<Setting AppName='CHROME'/>"), -101);
+  EXPECT_EQ(setting->GetAppName(), 1U) << "stored before the read failed";
+  const std::unique_ptr<GlobalConfInterface::ISetting> copy(
+      GlobalConfInterface::Setting_CreateNewInstance());
+  copy->CopyFrom(*setting);
+  EXPECT_EQ(copy->GetAppName(), 1U);
 }
 
 TEST(Modules, BringTelemetryBack) {
@@ -207,6 +219,7 @@ TEST(Modules, ReachTheActiveDirectoryByForwarding) {
   const std::wstring name = L"corp";
   DWORD number = 7;
   std::wstring text = L"kept";
+  EXPECT_EQ(management->GetActiveDirectoryPresent(nullptr), 0);
   EXPECT_EQ(management->GetActiveDirectoryPresent(&number), 0);
   EXPECT_EQ(number, 0U);
   EXPECT_EQ(management->GetDefaultDomainName(&text), 1);
@@ -218,6 +231,7 @@ TEST(Modules, ReachTheActiveDirectoryByForwarding) {
   EXPECT_EQ(number, 1U);
   EXPECT_EQ(written(), "");
   EXPECT_EQ(management->SetDefaultDomainName(&name), 0);
+  EXPECT_EQ(management->GetDefaultDomainName(nullptr), 0);
   EXPECT_EQ(management->GetDefaultDomainName(&text), 0);
   EXPECT_EQ(text, name);
   EXPECT_EQ(written(), "<ActiveDirectory><DefaultDomain Enabled=\"1\" Name=\"corp\"/>");
@@ -230,6 +244,8 @@ TEST(Modules, ReachTheActiveDirectoryByForwarding) {
       NGConfInterface::ClientManagement_CreateNewInstance());
   copy->CopyFrom(*management);
   EXPECT_EQ(WriteText(*copy), WriteText(*management));
+  EXPECT_EQ(management->SetActiveDirectoryPresent(nullptr), 0);
+  EXPECT_EQ(written(), "");
   EXPECT_EQ(diagnostics.Take(), Texts{});
 }
 
@@ -242,7 +258,7 @@ TEST(Modules, KeepTheReservedSettingToThemselves) {
   EXPECT_EQ(management->GetReservedSetting(&found), 1);
   EXPECT_EQ(management->SetReservedSetting(&value), 0);
   EXPECT_EQ(WriteText(*management), fresh);
-  management->Clear();
+  EXPECT_EQ(ReadText(*management, L"<ClientManagement ReservedSetting='1'/>"), -101);
   EXPECT_EQ(management->GetReservedSetting(&found), 0);
   EXPECT_EQ(found, 42U);
   const std::unique_ptr<NGConfInterface::IClientManagement> copy(
@@ -260,6 +276,7 @@ TEST(Modules, HandTheActiveDirectoryOut) {
   const DWORD one = 1;
   DWORD present = 7;
   ClientConfig::IActiveDirectory* directory = nullptr;
+  EXPECT_EQ(proxy->GetActiveDirectory(nullptr), 0);
   EXPECT_EQ(proxy->GetActiveDirectory(&directory), 0);  // absent or not
   ASSERT_NE(directory, nullptr);
   const std::wstring name = L"corp";

@@ -44,7 +44,14 @@ TEST(Policy, StartsEmpty) {
 }
 
 TEST(Policy, JudgesFragments) {
+  const std::string fresh_job =
+      WriteText(*std::unique_ptr<node::IElement>(DiscoveryJob_CreateNewInstance()));
   ExpectAll({
+      {Make<DiscoveryJob_CreateNewInstance>,
+       L"<DiscoveryJob Id='' Sid=''/>",
+       -101,
+       {L"XMLManager: sub-element Schedule is missing"},
+       fresh_job},
       {Make<ILPClientConfiguration_CreateNewInstance>,
        L"<ILPClientConfiguration SchemaVersion='' SN='' Name=''/>",
        -101,
@@ -187,8 +194,10 @@ TEST(Policy, KeepsWhatClearLeavesAlone) {
   const DWORD monthly = 3;
   const std::unique_ptr<IDiscoveryJob> job(DiscoveryJob_CreateNewInstance());
   job->GetSchedule()->SetRecurType(&monthly);
+  job->GetDiscoveryAction()->SetAction(&monthly);
   job->Clear();
   EXPECT_EQ(job->GetSchedule()->GetRecurType(), 3U);
+  EXPECT_EQ(job->GetDiscoveryAction()->GetAction(), 3U);
   const std::unique_ptr<IDiscoveryJob> copy(DiscoveryJob_CreateNewInstance());
   copy->CopyFrom(*job);
   EXPECT_EQ(copy->GetSchedule()->GetRecurType(), 3U);
@@ -223,12 +232,15 @@ class InlineProxy : public testing::Test {
 };
 
 TEST_F(InlineProxy, IsOnUnlessTheDocumentSaysOtherwise) {
-  EXPECT_EQ(Written(),
-            "<ILPInlineProxy Enable=\"1\" EnableDriverWebTraffic=\"1\" SystemPAC=\"1\">");
+  EXPECT_EQ(WriteText(*proxy_),
+            "<ILPInlineProxy Enable=\"1\" EnableDriverWebTraffic=\"1\" SystemPAC=\"1\">"
+            "</ILPInlineProxy>");
   EXPECT_EQ(ReadText(*proxy_, L"<ILPInlineProxy SystemPAC='' Enable='7'/>"), 0);
   EXPECT_EQ(Written(),
             "<ILPInlineProxy Enable=\"7\" EnableDriverWebTraffic=\"1\" SystemPAC=\"0\">");
   EXPECT_EQ(ReadText(*proxy_, L"<ILPInLineProxy/>"), -102);
+  EXPECT_EQ(Written(),
+            "<ILPInlineProxy Enable=\"0\" EnableDriverWebTraffic=\"0\" SystemPAC=\"0\">");
 }
 
 TEST_F(InlineProxy, KeepsItsFlagsWhenItIsCleared) {
@@ -246,13 +258,18 @@ TEST_F(InlineProxy, KeepsItsFlagsWhenItIsCleared) {
                                       L"element:ILPInLineProxy, attr:EnableDriverWebTraffic"});
   EXPECT_EQ(Written(), "<ILPInlineProxy Enable=\"0\" EnableDriverWebTraffic=\"0\">");
 
-  // So does the flag of a child, over an empty list, even through its protection's Clear.
+  // A child that a document had is there ever after, if empty.
   EXPECT_EQ(ReadText(*proxy_,
-                     L"<ILPInlineProxy><IncludeApps><ArCondition/></IncludeApps>"
-                     L"</ILPInlineProxy>"),
+                     L"<ILPInlineProxy><IncludeApps><ArCondition/></IncludeApps><ExcludeDomains>"
+                     L"<ExcludeDomain URL='1'/></ExcludeDomains><LocalProxies/>"
+                     L"<ExcludeJSInjectionDomains/></ILPInlineProxy>"),
             0);
   EXPECT_EQ(ReadText(*proxy_, L"<ILPInlineProxy/>"), 0);
-  EXPECT_NE(WriteText(*proxy_).find("<IncludeApps></IncludeApps>"), std::string::npos);
+  const std::string empty = WriteText(*proxy_);
+  EXPECT_EQ(empty.substr(empty.find('>') + 1),
+            "<IncludeApps></IncludeApps><ExcludeDomains></ExcludeDomains><LocalProxies>"
+            "</LocalProxies><ExcludeJSInjectionDomains></ExcludeJSInjectionDomains>"
+            "</ILPInlineProxy>");
   protection_->Clear();
   EXPECT_EQ(protection_->GetILPInLineProxy(nullptr), 1);
   EXPECT_EQ(proxy_->GetIncludeApps(nullptr), 0);
@@ -346,6 +363,10 @@ TEST(Policy, EmbedsTheActiveDirectory) {
   EXPECT_EQ(root->SetActiveDirectory(nullptr), 0);
   root->GetActiveDirectoryPresent(&present);
   EXPECT_EQ(present, 0U);
+  EXPECT_FALSE(is_written(*root));
+  const DWORD here = 1;
+  root->SetActiveDirectoryPresent(&here);
+  EXPECT_TRUE(is_written(*root)) << "absent, it keeps what it holds";
   EXPECT_EQ(diagnostics.Take(), Texts{});
 }
 
