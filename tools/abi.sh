@@ -60,7 +60,12 @@ case $what in
       {
         sub(/ \[pure\]$/, "", $2)
         sub(/ \[scalar deleting\]$/, "", $2)
-        sub(/ \[Self = .*\]$/, "", $2)
+        if (match($2, / \[Self = .*\]$/)) {
+          self = substr($2, RSTART + 9, RLENGTH - 10)
+          sub(/^.*::/, "", self)
+          $2 = substr($2, 1, RSTART - 1)
+          gsub(/Self/, self, $2)
+        }
         text = text sprintf("%4d %s\n", $1 - 1, $2)
       }
     ' "$work/layouts" |

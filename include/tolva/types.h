@@ -25,10 +25,11 @@ inline constexpr ConfigResult kSuccess = 0;
 inline constexpr ConfigResult kAbsent = 1;
 
 /// The operation failed. Where the platform supplied a failure code, `tolvaGetLastError` has it;
-/// where a node failed, the diagnostic callback was told why.
+/// where a node failed, the diagnostic callback was told why, unless the function says otherwise.
 inline constexpr ConfigResult kFailed = -101;
 
-/// A null argument, or a node was asked to read an element of another name.
+/// A manager was given a null argument; a node was asked to read an element of another name; or a
+/// text element had no text where it needs one.
 inline constexpr ConfigResult kInvalidArgument = -102;
 
 /// Never returned: the thread's last-error value after an absent attribute was asked for.

@@ -64,7 +64,7 @@ class CDiscoveryAction final : public Node<CDiscoveryAction, IDiscoveryAction> {
   DWORD GetAction() const override { return action_; }
   ConfigResult SetAction(const DWORD* value) override { return SetRequired(action_, value); }
 
-  /// Does nothing: there is but one action, and it stays.
+  /// Does nothing: the action stays.
   void Clear() override {}
 
  private:

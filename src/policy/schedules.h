@@ -156,8 +156,7 @@ class CSchedule final : public Node<CSchedule, ISchedule> {
     return initialRecur_.Set(child);
   }
 
-  /// All but `RecurType` and the value of `TimeType`: a failed read leaves a schedule of the kind
-  /// it was.
+  /// All but `RecurType` and the value of `TimeType`.
   void Clear() override;
 
  private:

@@ -29,13 +29,14 @@ class InumOfMatches : public tolva::node::INumberLeaf<InumOfMatches> {};
 /// Element `value`: what matched.
 class Ivalue : public tolva::node::IStringLeaf<Ivalue> {};
 
-/// Element `count`: how often it did. Only the digits at the front of its text count.
+/// Element `count`: how often it did. Only the digits at the front of its text count, none of them
+/// is 0, and whatever else stands there is no fault.
 class Icount : public tolva::node::INumberLeaf<Icount> {};
 
-/// Element `location`: where.
+/// Element `location`.
 class Ilocation : public tolva::node::IOptionalLeaf<Ilocation> {};
 
-/// Element `context`: amid what.
+/// Element `context`.
 class Icontext : public tolva::node::IOptionalLeaf<Icontext> {};
 
 /// Element `classifierType`.
@@ -81,10 +82,10 @@ class IdetectedValues : public tolva::node::INode {
   virtual void RemoveAllDetectedValue() = 0;
 };
 
-/// Element `customDisplayText`: a text to show instead of the violation's own. It exists only
-/// within a `violation`, and has neither `Clear` nor `CopyFrom`. Without a text it reads all the
-/// same, with a diagnostic, and keeps the text that it had: none within a violation that is being
-/// read.
+/// Element `customDisplayText`: a text to show. It exists only within a `violation`, and has
+/// neither `Clear` nor `CopyFrom`. Without a text it reads all the same, with a diagnostic, and
+/// keeps the text that it had, as it does when the element has another name. A violation that is
+/// read empties it first.
 class IcustomDisplayText : public tolva::node::IElement {
  public:
   /// The text. Setting it returns 0.
@@ -128,7 +129,7 @@ class Iviolations : public tolva::node::INode {
  public:
   virtual Iviolations& CopyFrom(const Iviolations& other) = 0;
 
-  /// `maxMatches`: how many matches are listed at most. Required.
+  /// `maxMatches`: carried unchanged. Required.
   virtual DWORD GetMaxMatches() const = 0;
   virtual ConfigResult SetMaxMatches(const DWORD* value) = 0;
 
@@ -141,7 +142,7 @@ class Iviolations : public tolva::node::INode {
   virtual void RemoveAllViolation() = 0;
 };
 
-/// Element `address`: a destination. `Clear`, and with it every read, leaves `type` as it was.
+/// Element `address`: a destination. `Clear` leaves `type` as it was, 0 at first.
 class Iaddress : public tolva::node::INode {
  public:
   virtual Iaddress& CopyFrom(const Iaddress& other) = 0;
@@ -183,8 +184,8 @@ class Idestinations : public tolva::node::INode {
   virtual void RemoveAllAddresses() = 0;
 };
 
-/// Element `extractedContent`: a part of what was analysed. `Clear`, and with it every read, leaves
-/// `type` as it was.
+/// Element `extractedContent`: a part of what was analysed. `Clear` leaves `type` as it was, 0 at
+/// first.
 class IextractedContent : public tolva::node::INode {
  public:
   virtual IextractedContent& CopyFrom(const IextractedContent& other) = 0;

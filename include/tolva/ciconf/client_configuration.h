@@ -1,7 +1,7 @@
 // The CI client configuration: the servers that the client connects to, and what its user sees of
 // it.
 //
-// Units are the agent's; numbers are carried as they stand.
+// Units are the agent's; numbers are signed.
 #pragma once
 
 #include <string>
@@ -108,8 +108,8 @@ class IClientSetting : public tolva::node::INode {
   virtual ConfigResult GetEnableTamperProtection(DWORD* out) const = 0;
   virtual ConfigResult SetEnableTamperProtection(const DWORD* value) = 0;
 
-  /// `EnableTelemetry`: whether telemetry is collected. Optional; `Clear`, and with it every read,
-  /// makes it present and 0.
+  /// `EnableTelemetry`: whether telemetry is collected. Optional; after `Clear`, and when a
+  /// document does not mention it, it is present and 0.
   virtual ConfigResult GetEnableTelemetry(DWORD* out) const = 0;
   virtual ConfigResult SetEnableTelemetry(const DWORD* value) = 0;
 

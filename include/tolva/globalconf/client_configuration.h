@@ -1,6 +1,6 @@
 // The global client configuration: what all installations of the agent share.
 //
-// Units are the agent's; numbers are carried as they stand.
+// Units are the agent's; numbers are unsigned.
 #pragma once
 
 #include <string>
@@ -63,7 +63,7 @@ class IAutoUpdate : public tolva::node::INode {
   virtual ConfigResult SetUpdateServer(const IUpdateServer* child) = 0;
 };
 
-/// Element `Setting`: an application. `Clear`, and with it every read, leaves `AppName` as it was.
+/// Element `Setting`: an application. `Clear` leaves `AppName` as it was.
 class ISetting : public tolva::node::INode {
  public:
   virtual ISetting& CopyFrom(const ISetting& other) = 0;

@@ -1,5 +1,7 @@
 // The message catalogue: what the agent tells its user, in several languages. A catalogue may hold
-// catalogues, to any depth that the reader allows.
+// catalogues. A reader goes 256 elements deep; what lies deeper is cut off, with result 0 and a
+// last-error value of 0xC00CExxx. Accessors can make a deeper one: it is written, but not read
+// back, and copying, writing or destroying it takes stack in proportion to its depth.
 #pragma once
 
 #include <string>

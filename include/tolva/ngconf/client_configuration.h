@@ -1,7 +1,7 @@
 // The NG client configuration: how the agent is managed, where it reports, which users see it, and
 // what it adds to its requests.
 //
-// Units are the agent's; numbers are carried as they stand.
+// Units are the agent's; numbers are unsigned.
 #pragma once
 
 #include <string>
@@ -97,17 +97,18 @@ class IClientManagement : public tolva::node::INode {
   virtual ConfigResult GetReservedSetting(DWORD* out) const = 0;
   virtual ConfigResult SetReservedSetting(const DWORD* value) = 0;
 
-  /// Whether the child `ActiveDirectory` is present: 0 when not. Both return 0; null stores 0.
+  /// Whether the child `ActiveDirectory` is present: 0 when not, any other number, kept as given,
+  /// when it is. Absent, it keeps what it holds. Both return 0; setting null stores 0.
   virtual ConfigResult GetActiveDirectoryPresent(DWORD* out) const = 0;
   virtual ConfigResult SetActiveDirectoryPresent(const DWORD* value) = 0;
 
-  /// `Enabled` of the child's `DefaultDomain`, whether the child is present or not. Both return 0;
-  /// null sets nothing.
+  /// `Enabled` of the child's `DefaultDomain`, whether the child is present or not: an absent one
+  /// stays so. Both return 0; null sets nothing.
   virtual ConfigResult GetDefaultDomainEnabled(DWORD* out) const = 0;
   virtual ConfigResult SetDefaultDomainEnabled(const DWORD* value) = 0;
 
   /// `Name` of the child's `DefaultDomain`. The getter returns 1 when the child is absent. Setting
-  /// a name makes the child present, null makes it absent.
+  /// a name makes the child present, null makes it absent; both return 0.
   virtual ConfigResult GetDefaultDomainName(std::wstring* out) const = 0;
   virtual ConfigResult SetDefaultDomainName(const std::wstring* value) = 0;
 

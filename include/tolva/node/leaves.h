@@ -1,8 +1,10 @@
 // Elements whose value is their text. Accessors and reports call the text `Content`.
 //
 // A read takes the one node behind the start tag, when it is text, a CDATA section, a comment or a
-// processing instruction; blanks alone are no text. Without a text the read of a required one fails
-// with -102, and a diagnostic.
+// processing instruction, and drops the rest; blanks alone are no text unless a CDATA section holds
+// them. Without a text the read of a required one fails with -102, and a diagnostic: what is
+// written of an empty one cannot be read back. An element with content of its own within a text
+// ends what is read of the element around it too early: what follows may be missed.
 #pragma once
 
 #include <string>
@@ -23,7 +25,9 @@ class IStringLeaf : public INode {
   virtual ConfigResult SetContent(const std::wstring* value) = 0;
 };
 
-/// An element that is a string or has none; without one it reads all the same.
+/// An element that is a string or has none; without one it reads all the same. An absent text is
+/// not written, nor is the element, even where a parent has it as present, unless the interface
+/// says otherwise; a failed write is not told. An empty text reads back as absent.
 template <class Self>
 class IOptionalLeaf : public INode {
  public:
@@ -34,7 +38,7 @@ class IOptionalLeaf : public INode {
   virtual ConfigResult SetContent(const std::wstring* value) = 0;
 };
 
-/// An element that is a number.
+/// An element that is a number; other characters than digits fail the read with -101.
 template <class Self>
 class INumberLeaf : public INode {
  public:

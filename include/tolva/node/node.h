@@ -25,8 +25,14 @@
 //
 // The setter of a required value answers a null pointer with a diagnostic and -101; AddY and
 // InsertYAt answer it with -101 alone. Getters accept null out-pointers, so GetX(nullptr) asks
-// whether X is present. Numbers are stored as given, without a range check; a number outside an
-// ENUM's table is kept, and written as an empty value.
+// whether X is present. A child that is made absent keeps what it holds until the node is cleared.
+//
+// Numbers are stored as given, without a range check, and written in decimal. A document may hold
+// the digits 0 to 9 alone, any number of them (none: 0). Unsigned ones keep the low 32 bits of what
+// they read. Signed ones read as 2147483647 at most; from 2147483648 up they are written with a
+// minus sign, and cannot be read back then. Signed are the numbers of the Active Directory, CI,
+// remote filtering, installation and patch history documents. A number outside an ENUM's table is
+// kept, and written as an empty value unless the interface says otherwise.
 //
 // Nodes passed in have to be nodes of this library: another implementation of an interface is a
 // caller's error that is not noticed.
@@ -51,17 +57,18 @@ class IElement {
 
   /// Writes the element with all it holds. `manager` is an open writer; the other two arguments are
   /// those that a parent passes and do not influence the output. -101 with a diagnostic when
-  /// something could not be written: the document is then incomplete, the node unchanged. A manager
-  /// that is a reader gives -101 without a diagnostic.
+  /// something required could not be written: the document is then incomplete, the node unchanged.
+  /// What is optional and could not be written, a text with a forbidden character say, is left out
+  /// without a word. A null manager gives a diagnostic and -101, one that is a reader -101 alone.
   virtual ConfigResult WriteToXMLMgr(IXMLLiteManager* manager, int reserved = 0,
                                      int position = 1) const = 0;
 
   /// Fills the node from the element on whose start tag `manager`, an open reader, stands, and
   /// leaves the reader on that element's end. Attributes and children that the node does not know
-  /// are ignored; children may come in any order. The node starts from its defaults, and is at its
-  /// defaults again when the read failed: -101 with a diagnostic, or -102 without one when the
-  /// element has another name (or the reader holds no element). A null manager, and one that is a
-  /// writer, give -101 and leave the node as it was.
+  /// are ignored; children may come in any order. The node is cleared first, and again when the
+  /// read fails: -101 with a diagnostic, or -102 without one when the element has another name (or
+  /// the reader holds no element). A null manager gives a diagnostic and -101, one that is a writer
+  /// -101 alone, and both leave the node as it was.
   virtual ConfigResult ReadFromXMLMgr(IXMLLiteManager* manager, int reserved = 0) = 0;
 
  protected:
@@ -74,7 +81,9 @@ class IElement {
 /// node of this library (one's own descendants and the node itself included).
 class INode : public IElement {
  public:
-  /// Resets every field to its default: empty, 0, absent.
+  /// Resets every field to its default: empty, 0, absent. Fields of which their interface says that
+  /// `Clear` leaves them as they were hold what was assigned to them last, be it by a read that
+  /// failed later, and survive the `Clear` of the nodes above as well.
   virtual void Clear() = 0;
 };
 

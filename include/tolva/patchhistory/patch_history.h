@@ -63,7 +63,7 @@ class IPatchFileInfo : public tolva::node::INode {
   virtual const std::wstring& GetName() const = 0;
   virtual ConfigResult SetName(const std::wstring* value) = 0;
 
-  /// `UpdateDate`: when it was applied. Required.
+  /// `UpdateDate`: its date. Required.
   virtual const std::wstring& GetUpdateDate() const = 0;
   virtual ConfigResult SetUpdateDate(const std::wstring* value) = 0;
 
@@ -101,7 +101,7 @@ class IEndpointFilePatches : public tolva::node::INode {
   virtual ConfigResult GetLastAppliedPatchVersion(std::wstring* out) const = 0;
   virtual ConfigResult SetLastAppliedPatchVersion(const std::wstring* value) = 0;
 
-  /// `UpdateDate`: when the history was changed last. Required.
+  /// `UpdateDate`: the date of the history. Required.
   virtual const std::wstring& GetUpdateDate() const = 0;
   virtual ConfigResult SetUpdateDate(const std::wstring* value) = 0;
 

@@ -67,7 +67,7 @@ class IPrinter : public tolva::node::INode {
 
 #pragma push_macro("AddPrinter")
 #undef AddPrinter
-/// Element `TrustedPrinters`: printers to which everything may be sent.
+/// Element `TrustedPrinters`: printers that are trusted.
 class ITrustedPrinters : public tolva::node::INode {
  public:
   virtual ITrustedPrinters& CopyFrom(const ITrustedPrinters& other) = 0;

@@ -12,8 +12,8 @@
 
 namespace TolvaInterface {
 
-/// What is done with an operation: the values of `Action` attributes, and how a document spells
-/// them.
+/// What is done with an operation: the values of the rules' `Action`, to be held in a DWORD, and
+/// how a document spells them.
 enum RuleAction : DWORD {
   kUseContentPolicyAction = 0,  ///< "USE_CONTENT_POLICY_ACTION"
   kAllow = 1,                   ///< "ALLOW"

@@ -23,7 +23,7 @@ class IPrimaryKey : public tolva::node::INode {
   virtual const std::wstring& GetKey() const = 0;
   virtual ConfigResult SetKey(const std::wstring* value) = 0;
 
-  /// `FileHeader`: the header of files encrypted with it. Required.
+  /// `FileHeader`: the text of file headers that belongs to it. Required.
   virtual const std::wstring& GetFileHeader() const = 0;
   virtual ConfigResult SetFileHeader(const std::wstring* value) = 0;
 };

@@ -335,11 +335,13 @@ class IILPClientConfiguration : public tolva::node::IConfigurationRoot<IILPClien
   virtual ConfigResult GetTelemetryCollection(ITelemetryCollection** out) = 0;
   virtual ConfigResult SetTelemetryCollection(const ITelemetryCollection* child) = 0;
 
-  /// Whether the child `ActiveDirectory` is present: 0 when not. Both return 0; null stores 0.
+  /// Whether the child `ActiveDirectory` is present: 0 when not, any other number, kept as given,
+  /// when it is. Both return 0; setting null stores 0.
   virtual ConfigResult GetActiveDirectoryPresent(DWORD* out) const = 0;
   virtual ConfigResult SetActiveDirectoryPresent(const DWORD* value) = 0;
 
-  /// The child `ActiveDirectory`. Optional. It is copied through its `DefaultDomain`.
+  /// The child `ActiveDirectory`. Optional. It is copied through its `DefaultDomain`; null makes it
+  /// absent and returns 0.
   virtual ConfigResult GetActiveDirectory(ClientConfig::IActiveDirectory** out) = 0;
   virtual ConfigResult SetActiveDirectory(const ClientConfig::IActiveDirectory* child) = 0;
 };

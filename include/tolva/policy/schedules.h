@@ -116,8 +116,8 @@ class IInitialRecur : public tolva::node::INode {
   virtual ConfigResult SetDate(const std::wstring* value) = 0;
 };
 
-/// Element `Schedule`. `Clear`, and with it every read, leaves `RecurType` and the value of
-/// `TimeType` as they were; `TimeType` becomes absent.
+/// Element `Schedule`. `Clear` leaves `RecurType` and the value of `TimeType` as they were;
+/// `TimeType` becomes absent.
 class ISchedule : public tolva::node::INode {
  public:
   virtual ISchedule& CopyFrom(const ISchedule& other) = 0;

@@ -42,7 +42,7 @@ class IBrowserExtension : public tolva::node::INode {
   virtual DWORD GetEnableExtension() const = 0;
   virtual ConfigResult SetEnableExtension(const DWORD* value) = 0;
 
-  /// `EnableMonitorMode`: whether it only watches. Optional.
+  /// `EnableMonitorMode`: its monitoring mode, a switch. Optional.
   virtual ConfigResult GetEnableMonitorMode(DWORD* out) const = 0;
   virtual ConfigResult SetEnableMonitorMode(const DWORD* value) = 0;
 };
@@ -143,8 +143,8 @@ class IExcludeJSInjectDomain : public tolva::node::INode {
   virtual ConfigResult SetURL(const std::wstring* value) = 0;
 };
 
-/// Element `ExcludeJSInjectionDomains`. Its list is filled by reading alone. A write that fails is
-/// reported by no text of its own.
+/// Element `ExcludeJSInjectionDomains`. Its list is filled by reading and by copying a whole one. A
+/// write that fails gives -101 without a text of its own.
 class IExcludeJSInjectDomains : public tolva::node::INode {
  public:
   virtual IExcludeJSInjectDomains& CopyFrom(const IExcludeJSInjectDomains& other) = 0;
@@ -194,8 +194,9 @@ class ILocalProxies : public tolva::node::INode {
 /// an `ILPProtection` and has no factory.
 ///
 /// Its `Clear` sets the three switches to 0 and clears the four children, but leaves all of them as
-/// present or absent as they were. A switch that a document does not mention reads as 1, and is
-/// present from then on.
+/// present or absent as they were, and so does a read: a child that one document had is there, and
+/// empty, after the next one that has none. A switch that a document does not mention reads as 1,
+/// and is present from then on.
 class IILPInLineProxy : public tolva::node::INode {
  public:
   virtual IILPInLineProxy& CopyFrom(const IILPInLineProxy& other) = 0;

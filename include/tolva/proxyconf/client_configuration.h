@@ -1,7 +1,7 @@
 // The proxy client configuration: the PAC file, the applications exempt from it, the client's own
 // settings, the proxy settings of the machine and its users, and log upload.
 //
-// Units are the agent's; numbers are carried as they stand.
+// Units are the agent's; numbers are unsigned.
 #pragma once
 
 #include <string>
@@ -48,13 +48,14 @@ class IProxySetting : public tolva::node::INode {
   virtual ConfigResult GetAppWhiteList(IAppWhiteList** out) = 0;
   virtual ConfigResult SetAppWhiteList(const IAppWhiteList* child) = 0;
 
-  /// Whether the child `ActiveDirectory` is present: 0 when not. Both return 0; null stores 0.
+  /// Whether the child `ActiveDirectory` is present: 0 when not, any other number, kept as given,
+  /// when it is. Absent, it keeps what it holds. Both return 0; setting null stores 0.
   virtual ConfigResult SetActiveDirectoryPresent(const DWORD* value) = 0;
   virtual ConfigResult GetActiveDirectoryPresent(DWORD* out) const = 0;
 
   /// The child `ActiveDirectory`. Optional; the getter hands it out, with 0, even when it is
-  /// absent. It is copied through its `DefaultDomain`. Null makes it absent, with a diagnostic and
-  /// -101.
+  /// absent, and to fill it does not make it present. It is copied through its `DefaultDomain`.
+  /// Null makes it absent, with a diagnostic and -101.
   virtual ConfigResult GetActiveDirectory(ClientConfig::IActiveDirectory** out) = 0;
   virtual ConfigResult SetActiveDirectory(const ClientConfig::IActiveDirectory* child) = 0;
 };
@@ -105,8 +106,8 @@ class IClientSetting : public tolva::node::INode {
   virtual ConfigResult GetEnableTamperProtection(DWORD* out) const = 0;
   virtual ConfigResult SetEnableTamperProtection(const DWORD* value) = 0;
 
-  /// `EnableTelemetry`: whether telemetry is collected. Optional; `Clear`, and with it every read,
-  /// makes it present and 0.
+  /// `EnableTelemetry`: whether telemetry is collected. Optional; after `Clear`, and when a
+  /// document does not mention it, it is present and 0.
   virtual ConfigResult GetEnableTelemetry(DWORD* out) const = 0;
   virtual ConfigResult SetEnableTelemetry(const DWORD* value) = 0;
 

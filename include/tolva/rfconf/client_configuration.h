@@ -1,7 +1,7 @@
 // The remote filtering client configuration: the filtering servers, and what the client's user
 // sees of it.
 //
-// Units are the agent's; numbers are carried as they stand.
+// Units are the agent's; numbers are signed.
 #pragma once
 
 #include <string>
