@@ -1,48 +1,29 @@
-// The documents that the benchmarks read: made up, but shaped like an agent's.
+// The documents that the benchmarks read and write: the example policy and the example catalogue,
+// grown to a size by repeating what they hold.
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <filesystem>
 #include <string>
 
 namespace tolva::bench {
 
-/// Short attributes, two-blank indentation, little text: a policy of about `size` bytes.
-inline std::string MakeAttributeDense(std::size_t size) {
-  std::string xml =
-      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-      "<Policy SchemaVersion=\"3\" SN=\"20240611-17\" Name=\"Head office\">\n";
-  for (unsigned i = 0; xml.size() < size; ++i) {
-    const std::string n = std::to_string(i);
-    xml += "  <Location Name=\"Branch " + n + "\" Desc=\"Laptops &amp; desktops\">\n";
-    xml += "    <Protection CloseActionOnAnalysisFailed=\"1\" DisableBlockingCapabilities=\"0\">\n";
-    for (unsigned rule = 0; rule < 4; ++rule) {
-      xml += "      <DeviceRule Action=\"BLOCK\" DeviceName=\"Stick " + n + "\" SerialNumber=\"0" +
-             std::to_string(i * 7919 + rule) + "\" VendorID=\"090c\"/>\n";
-    }
-    xml += "      <WebAccessRule Action=\"ALLOW\" DestinationHost=\"https://intranet-" + n +
-           ".example/upload\"/>\n";
-    xml += "      <Channel Sid=\"" + std::to_string(i % 97) + "\" Cid=\"12\">\n";
-    xml += "        <Condition AppName=\"writer.exe\" OS=\"10\"/>\n";
-    xml += "      </Channel>\n    </Protection>\n  </Location>\n";
-  }
-  xml += "</Policy>\n";
-  return xml;
-}
+enum Kind : std::int64_t {
+  kPolicy = 0,     ///< attribute-dense: short attributes, no text
+  kCatalogue = 1,  ///< text-dense: sentences in elements, one attribute each
+};
 
-/// Sentences in elements, one attribute each: a message catalogue of about `size` bytes.
-inline std::string MakeTextDense(std::size_t size) {
-  std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Catalogue Language=\"en\">\n";
-  for (unsigned i = 0; xml.size() < size; ++i) {
-    xml += "  <Message ID=\"" + std::to_string(i) + "\">\n    <Content>";
-    for (unsigned sentence = 0; sentence < 6; ++sentence) {
-      xml += "The file that you are about to copy holds data that must not leave this computer. ";
-      if (sentence % 3 == 2) xml += "Ask your administrator &amp; try again. ";
-    }
-    xml +=
-        "</Content>\n    <Description>Shown when a copy is blocked.</Description>\n  </Message>\n";
-  }
-  xml += "</Catalogue>\n";
-  return xml;
-}
+/// A document of about `size` bytes, in memory and in a file. Made once.
+struct Document {
+  std::string text;
+  std::filesystem::path path;
+  std::size_t elements;
+};
+
+const Document& GetDocument(Kind kind, std::size_t size);
+
+/// A file to write to.
+std::filesystem::path OutputPath();
 
 }  // namespace tolva::bench

@@ -10,7 +10,9 @@ case ${1:-} in
   build) wanted=$build ;;
   windows) wanted="$build $windows" ;;
   test) wanted=$test ;;
-  bench) wanted="$build libbenchmark-dev libpugixml-dev libexpat1-dev" ;;
+  bench)
+    wanted="$build libbenchmark-dev libpugixml-dev libexpat1-dev libxml2-dev libxerces-c-dev xsdcxx"
+    ;;
   *) echo 'usage: packages.sh build|windows|test|bench' >&2; exit 2 ;;
 esac
 

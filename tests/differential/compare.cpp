@@ -1,0 +1,354 @@
+#include "differential/compare.h"
+
+#include <expat.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+#include "platform/utf.h"
+#include "platform/xml/characters.h"
+#include "platform/xml/parser.h"
+#include "support/streams.h"
+
+namespace tolva::test {
+namespace {
+
+using namespace std::string_view_literals;
+using own_xml::ValueKind;
+
+/// No document contains these.
+constexpr char kNode = '\1';
+constexpr char kPart = '\2';
+
+/// The nodes of a document as a text that can be compared.
+class Nodes {
+ public:
+  void Clear() {
+    text_.clear();
+    in_text_ = false;
+  }
+
+  void Begin(char kind, std::string_view first = {}) {
+    text_ += kNode;
+    text_ += kind;
+    text_ += first;
+    in_text_ = false;
+  }
+
+  void Add(std::string_view part) {
+    text_ += kPart;
+    text_ += part;
+  }
+
+  /// Adds to the text before it, or to a CDATA section that has been begun.
+  void AddText(std::string_view piece) {
+    if (!in_text_) Begin('T');
+    in_text_ = true;
+    text_ += piece;
+  }
+
+  void BeginCData() {
+    Begin('C');
+    in_text_ = true;
+  }
+
+  void EndText() { in_text_ = false; }
+
+  const std::string& text() const { return text_; }
+
+ private:
+  std::string text_;
+  bool in_text_ = false;
+};
+
+// ---- the own parser ----------------------------------------------------------------------------
+
+class OwnReader {
+ public:
+  /// What is wrong with the document, or S_FALSE.
+  HRESULT Read(std::string_view document, std::size_t block) {
+    nodes_.Clear();
+    depth_ = 0;
+    TextStream stream(document, block);
+    parser_.SetInput(&stream, false);
+    HRESULT result = S_OK;
+    while ((result = parser_.Read()) == S_OK) AddNode();
+    parser_.SetInput(nullptr, false);
+    return result;
+  }
+
+  const std::string& nodes() const { return nodes_.text(); }
+
+ private:
+  void AddNode() {
+    const std::string_view name = parser_.name().text;
+    switch (parser_.type()) {
+      case XmlNodeType_Element:
+        nodes_.Begin('<', name);
+        ++depth_;
+        for (const own_xml::Attribute& attribute : parser_.attributes()) {
+          nodes_.Add(attribute.name.text);
+          nodes_.Add(Value(attribute.value, attribute.plain, ValueKind::kAttribute));
+        }
+        if (!parser_.is_empty_element()) break;
+        [[fallthrough]];
+      case XmlNodeType_EndElement:
+        nodes_.Begin('>', name);
+        --depth_;
+        break;
+      case XmlNodeType_Text:
+        nodes_.Begin('T', NodeValue(ValueKind::kText));
+        break;
+      case XmlNodeType_Whitespace:
+        // Between the nodes outside the root expat reports none.
+        if (depth_ != 0) nodes_.Begin('T', NodeValue(ValueKind::kLiteral));
+        break;
+      case XmlNodeType_CDATA:
+        nodes_.Begin('C', NodeValue(ValueKind::kLiteral));
+        break;
+      case XmlNodeType_Comment:
+        nodes_.Begin('!', NodeValue(ValueKind::kLiteral));
+        break;
+      case XmlNodeType_ProcessingInstruction:
+        nodes_.Begin('?', name);
+        nodes_.Add(NodeValue(ValueKind::kLiteral));
+        break;
+      case XmlNodeType_XmlDeclaration:
+        nodes_.Begin('D');
+        break;
+      default:
+        nodes_.Begin('-');
+    }
+  }
+
+  std::string_view NodeValue(ValueKind kind) {
+    return Value(parser_.value(), parser_.value_is_plain(), kind);
+  }
+
+  std::string_view Value(std::string_view raw, bool plain, ValueKind kind) {
+    if (plain) return raw;
+    value_.Clear();
+    own_xml::AppendValue(raw, kind, value_);
+    return {value_.data(), value_.size()};
+  }
+
+  own_xml::Parser parser_;
+  Nodes nodes_;
+  Buffer<char> value_;
+  std::size_t depth_ = 0;
+};
+
+// ---- expat -------------------------------------------------------------------------------------
+
+class ExpatReader {
+ public:
+  /// Without namespaces, names are delivered as they stand in the document.
+  explicit ExpatReader(bool namespaces)
+      : parser_(namespaces ? XML_ParserCreateNS(nullptr, kPart) : XML_ParserCreate(nullptr)) {}
+
+  bool Read(std::string_view document, bool with_nodes) {
+    XML_Parser parser = parser_.get();
+    XML_ParserReset(parser, nullptr);
+    XML_SetHashSalt(parser, 1);  // otherwise each document asks the system for a random number
+    XML_SetUserData(parser, this);
+    nodes_.Clear();
+    has_mark_ = document.starts_with("\xEF\xBB\xBF");
+    XML_SetXmlDeclHandler(parser, OnDeclaration);
+    XML_SetStartDoctypeDeclHandler(parser, [](void* self, const char*, const char*, const char*,
+                                              int) { static_cast<ExpatReader*>(self)->Refuse(); });
+    if (with_nodes) SetNodeHandlers();
+    return XML_Parse(parser, document.data(), static_cast<int>(document.size()), XML_TRUE) ==
+           XML_STATUS_OK;
+  }
+
+  XML_Error error() const { return XML_GetErrorCode(parser_.get()); }
+  std::size_t error_at() const {
+    return static_cast<std::size_t>(XML_GetCurrentByteIndex(parser_.get()));
+  }
+  const std::string& nodes() const { return nodes_.text(); }
+
+ private:
+  struct Deleter {
+    void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
+  };
+
+  static Nodes& NodesOf(void* self) { return static_cast<ExpatReader*>(self)->nodes_; }
+
+  /// Expat does not look at the number of the version, and follows a declared encoding even when a
+  /// byte-order mark has said another. XML 1.0 calls both an error.
+  static void OnDeclaration(void* self, const char* version, const char* encoding, int) {
+    auto* const reader = static_cast<ExpatReader*>(self);
+    const std::string_view number = version == nullptr ? "" : version;
+    const bool is_version_1 = number.size() > 2 && number.starts_with("1.") &&
+                              number.find_first_not_of("0123456789", 2) == std::string_view::npos;
+    const bool contradicts_mark =
+        reader->has_mark_ && encoding != nullptr && strcasecmp(encoding, "UTF-8") != 0;
+    if (!is_version_1 || contradicts_mark) reader->Refuse();
+    reader->nodes_.Begin('D');
+  }
+
+  void Refuse() { XML_StopParser(parser_.get(), XML_FALSE); }
+
+  void SetNodeHandlers() {
+    XML_Parser parser = parser_.get();
+    XML_SetElementHandler(
+        parser,
+        [](void* self, const char* name, const char** attributes) {
+          NodesOf(self).Begin('<', name);
+          for (; *attributes != nullptr; ++attributes) NodesOf(self).Add(*attributes);
+        },
+        [](void* self, const char* name) { NodesOf(self).Begin('>', name); });
+    XML_SetCharacterDataHandler(parser, [](void* self, const char* text, int size) {
+      NodesOf(self).AddText({text, static_cast<std::size_t>(size)});
+    });
+    XML_SetCdataSectionHandler(
+        parser, [](void* self) { NodesOf(self).BeginCData(); },
+        [](void* self) { NodesOf(self).EndText(); });
+    XML_SetCommentHandler(parser,
+                          [](void* self, const char* text) { NodesOf(self).Begin('!', text); });
+    XML_SetProcessingInstructionHandler(parser,
+                                        [](void* self, const char* target, const char* data) {
+                                          NodesOf(self).Begin('?', target);
+                                          NodesOf(self).Add(data);
+                                        });
+  }
+
+  std::unique_ptr<XML_ParserStruct, Deleter> parser_;
+  Nodes nodes_;
+  bool has_mark_ = false;  ///< the document starts with UTF-8's byte-order mark
+};
+
+// ---- the comparison ----------------------------------------------------------------------------
+
+ExpatReader& ReaderWithNamespaces() {
+  static ExpatReader reader(true);
+  return reader;
+}
+
+enum class Encoding : std::uint8_t { kBytes, kUtf16LittleEndian, kUtf16BigEndian };
+
+Encoding EncodingOf(std::string_view document) {
+  if (document.starts_with("\xFF\xFE")) return Encoding::kUtf16LittleEndian;
+  if (document.starts_with("\xFE\xFF")) return Encoding::kUtf16BigEndian;
+  const std::size_t zero = document.substr(0, 2).find('\0');
+  if (zero == std::string_view::npos) return Encoding::kBytes;
+  return zero == 0 ? Encoding::kUtf16BigEndian : Encoding::kUtf16LittleEndian;
+}
+
+/// The unit of UTF-16 at a byte of the document; behind its end zero.
+char32_t UnitAt(std::string_view document, Encoding encoding, std::size_t at) {
+  if (at + 2 > document.size()) return 0;
+  const auto first = static_cast<unsigned char>(document[at]);
+  const auto second = static_cast<unsigned char>(document[at + 1]);
+  return encoding == Encoding::kUtf16BigEndian ? first << 8 | second : second << 8 | first;
+}
+
+bool HasLoneSurrogate(std::string_view document, Encoding encoding) {
+  for (std::size_t at = 0; at < document.size(); at += 2) {
+    const char32_t unit = UnitAt(document, encoding, at);
+    if (!IsSurrogate(unit)) continue;
+    at += 2;
+    const char32_t next = UnitAt(document, encoding, at);
+    if (unit > 0xDBFF || next < 0xDC00 || next > 0xDFFF) return true;
+  }
+  return false;
+}
+
+/// The character at a byte of a well-formed document.
+char32_t CharacterAt(std::string_view document, std::size_t at) {
+  const Encoding encoding = EncodingOf(document);
+  if (encoding == Encoding::kBytes) {
+    const char* character = document.data() + at;
+    return TakeCodePoint(character);
+  }
+  const char32_t unit = UnitAt(document, encoding, at);
+  if (!IsSurrogate(unit)) return unit;
+  return 0x10000 + ((unit - 0xD800) << 10) + (UnitAt(document, encoding, at + 2) - 0xDC00);
+}
+
+/// Whether it is known of expat why only the own parser accepts the document.
+bool IsKnownRefusal(std::string_view document, const ExpatReader& expat) {
+  // Expat allows in names what the fourth edition of XML 1.0 did.
+  if (expat.error() == XML_ERROR_INVALID_TOKEN && expat.error_at() < document.size()) {
+    const char32_t c = CharacterAt(document, expat.error_at());
+    return c >= 0x80 && own_xml::IsNameCharacter(c);
+  }
+  return false;
+}
+
+/// Whether it is known of expat why it accepts a document that the own parser refuses.
+bool IsKnownAcceptance(std::string_view document, HRESULT own) {
+  // Expat sets no limit.
+  if (own == SC_E_MAXELEMENTDEPTH) return true;
+  const Encoding encoding = EncodingOf(document);
+  if (encoding == Encoding::kBytes) return false;
+  // Expat takes whatever follows the first half of a surrogate pair for the second.
+  if (own == WC_E_XMLCHARACTER) return HasLoneSurrogate(document, encoding);
+  // A zero byte tells expat that it is UTF-16. XML 1.0 wants a byte-order mark for that, and can do
+  // without it where the document starts with a declaration.
+  const char32_t first = UnitAt(document, encoding, 0);
+  return own == WC_E_SYNTAX && first != 0xFEFF && first != '<';
+}
+
+/// Text with its control characters and what is not ASCII as hexadecimal numbers.
+std::string Show(std::string_view text) {
+  std::string shown;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte >= 0x20 && byte < 0x7F && c != '\\') {
+      shown += c;
+      continue;
+    }
+    char number[8];
+    std::snprintf(number, sizeof number, "\\x%02X", byte);
+    shown += number;
+  }
+  return shown;
+}
+
+std::string Report(std::string_view document, std::string_view what) {
+  return Show(document) + "\n  " + std::string(what);
+}
+
+std::string Code(HRESULT result) {
+  char number[16];
+  std::snprintf(number, sizeof number, "0x%08X", static_cast<unsigned>(result));
+  return number;
+}
+
+}  // namespace
+
+bool ExpatAccepts(std::string_view document) {
+  return ReaderWithNamespaces().Read(document, false);
+}
+
+std::optional<std::string> Difference(std::string_view document) {
+  static OwnReader own;
+  static OwnReader own_by_bytes;
+  static ExpatReader plain_expat(false);
+  ExpatReader& expat = ReaderWithNamespaces();
+
+  const HRESULT result = own.Read(document, document.size() + 1);
+  if (own_by_bytes.Read(document, 1) != result || own_by_bytes.nodes() != own.nodes())
+    return Report(document, "the own parser reads it differently byte by byte");
+
+  const bool accepted = result == S_FALSE;
+  const bool expat_accepts = expat.Read(document, false);
+  if (!accepted) {
+    if (!expat_accepts || IsKnownAcceptance(document, result)) return std::nullopt;
+    return Report(document, "only the own parser refuses it: " + Code(result));
+  }
+  if (!expat_accepts) {
+    if (IsKnownRefusal(document, expat)) return std::nullopt;
+    return Report(document, std::string("only expat refuses it: ") +
+                                XML_ErrorString(expat.error()) + " at byte " +
+                                std::to_string(expat.error_at()));
+  }
+  plain_expat.Read(document, true);
+  if (plain_expat.nodes() == own.nodes()) return std::nullopt;
+  return Report(document,
+                "nodes: " + Show(own.nodes()) + "\n  expat: " + Show(plain_expat.nodes()));
+}
+
+}  // namespace tolva::test

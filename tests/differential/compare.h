@@ -1,0 +1,18 @@
+// The own XML parser against expat: an implementation that shares nothing with it.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tolva::test {
+
+/// Whether expat, minding namespaces, accepts the document; a document type declaration is refused.
+bool ExpatAccepts(std::string_view document);
+
+/// Reads the document with the own parser, at once and a byte at a time, and with expat: what they
+/// do not agree in, or nothing. Both have to accept or to refuse, and to deliver the same nodes.
+/// What is known of expat and cannot be helped is no difference.
+std::optional<std::string> Difference(std::string_view document);
+
+}  // namespace tolva::test
