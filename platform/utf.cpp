@@ -1,5 +1,7 @@
 #include "platform/utf.h"
 
+#include <algorithm>
+
 #include "platform/vector.h"
 
 namespace tolva::platform {
@@ -98,21 +100,22 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
 
 void AppendWide(std::string_view utf8, Buffer<wchar_t>& out) {
   // No character takes more units than it has bytes.
-  wchar_t* const start = out.Room(utf8.size());
+  wchar_t* const start = out.Room(utf8.size() + kReadAhead);
   wchar_t* to = start;
   const char* at = utf8.data();
   const char* const end = at + utf8.size();
   while (at != end) {
 #if TOLVA_HAS_VECTORS
-    if (static_cast<std::size_t>(end - at) >= Bytes::kCount) {
-      const Bytes block = Bytes::Load(at);
-      if (block.IsAscii()) {
-        Widen(block, to);
-        at += Bytes::kCount;
-        to += Bytes::kCount;
-        continue;
-      }
-    }
+    // Sixteen are widened whatever they are; the ASCII characters at the front are kept.
+    static_assert(kReadAhead >= Bytes::kCount);
+    const Bytes block = Bytes::Load(at);
+    Widen(block, to);
+    const Mask others = block.ToMask();
+    const std::size_t ascii = std::min<std::size_t>(others == 0 ? Bytes::kCount : FirstOf(others),
+                                                    static_cast<std::size_t>(end - at));
+    at += ascii;
+    to += ascii;
+    if (ascii == Bytes::kCount || at == end) continue;
 #endif
     if (static_cast<unsigned char>(*at) < 0x80) {
       *to++ = static_cast<wchar_t>(*at++);

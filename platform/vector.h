@@ -27,6 +27,20 @@ class Bytes {
     return Bytes(_mm_loadu_si128(reinterpret_cast<const __m128i*>(at)));
   }
 
+  /// Sixteen wide characters; those beyond ASCII become something that is no printable ASCII.
+  static Bytes LoadNarrowed(const wchar_t* at) {
+    const auto* const parts = reinterpret_cast<const __m128i*>(at);
+    const auto part = [parts](int i) { return _mm_loadu_si128(parts + i); };
+    if constexpr (sizeof(wchar_t) == 2) {
+      return Bytes(_mm_packus_epi16(part(0), part(1)));
+    } else {
+      return Bytes(
+          _mm_packus_epi16(_mm_packs_epi32(part(0), part(1)), _mm_packs_epi32(part(2), part(3))));
+    }
+  }
+
+  void Store(char* at) const { _mm_storeu_si128(reinterpret_cast<__m128i*>(at), bytes_); }
+
   Bytes Is(char c) const { return Bytes(_mm_cmpeq_epi8(bytes_, _mm_set1_epi8(c))); }
 
   /// Control characters and all bytes outside ASCII: as signed numbers, those below a blank.

@@ -43,10 +43,24 @@ Reference ReadCharacterReference(const char* at) {
   return {S_OK, at + 1, c};
 }
 
-bool IsSpecial(char c, ValueKind kind) {
-  if (c == '\r') return true;
-  if (c == '&') return kind != ValueKind::kLiteral;
-  return (c == '\n' || c == '\t') && kind == ValueKind::kAttribute;
+/// The first character of a text that does not stand for itself.
+const char* FindSpecial(const char* at, const char* end, ValueKind kind) {
+  const char reference = kind == ValueKind::kLiteral ? '\r' : '&';
+  const char line_feed = kind == ValueKind::kAttribute ? '\n' : '\r';
+  const char tab = kind == ValueKind::kAttribute ? '\t' : '\r';
+#if TOLVA_HAS_VECTORS
+  static_assert(kReadAhead >= Bytes::kCount);
+  for (; at < end; at += Bytes::kCount) {
+    const Bytes block = Bytes::Load(at);
+    const Mask found =
+        (block.Is('\r') | block.Is(reference) | block.Is(line_feed) | block.Is(tab)).ToMask();
+    if (found != 0) return std::min(at + FirstOf(found), end);
+  }
+  return end;
+#else
+  return std::find_if(
+      at, end, [=](char c) { return c == '\r' || c == reference || c == line_feed || c == tab; });
+#endif
 }
 
 }  // namespace
@@ -69,8 +83,7 @@ void AppendValue(std::string_view raw, ValueKind kind, Buffer<char>& out) {
   const char* at = raw.data();
   const char* const end = at + raw.size();
   while (at != end) {
-    const char* const special =
-        std::find_if(at, end, [kind](char c) { return IsSpecial(c, kind); });
+    const char* const special = FindSpecial(at, end, kind);
     out.Append(at, static_cast<std::size_t>(special - at));
     at = special;
     if (at == end) return;

@@ -29,7 +29,8 @@ enum class ValueKind : std::uint8_t {
   kAttribute,  ///< line ends, TAB and LF become blanks; references
 };
 
-/// Appends the value of `raw`, which has been found well-formed.
+/// Appends the value of `raw`, which has been found well-formed and has `kReadAhead` readable bytes
+/// behind it, as everything in an Input's window has.
 void AppendValue(std::string_view raw, ValueKind kind, Buffer<char>& out);
 
 }  // namespace tolva::platform::own_xml

@@ -83,6 +83,7 @@ void Parser::Forget() {
   value_ = {};
   is_empty_element_ = false;
   attributes_.Clear();
+  attribute_initials_ = 0;
   if (sorted_names_.capacity() > kAttributesKept) sorted_names_ = std::vector<std::string_view>();
 }
 
@@ -248,6 +249,7 @@ HRESULT Parser::ParseStartTag(const char* at) {
 /// Leaves `at` on the '>' or '/' that ends the tag.
 HRESULT Parser::ParseAttributes(const char*& at) {
   attributes_.Clear();
+  attribute_initials_ = 0;
   may_have_twins_ = false;
   twin_names_.Clear();
   for (;;) {
@@ -276,6 +278,7 @@ HRESULT Parser::ParseAttribute(const char*& at) {
   if (*at != '"') at = SkipSpace(at);
   has_namespaces_ = has_namespaces_ || attribute.name.prefix != 0 || attribute.name.text == "xmlns";
   may_have_twins_ = twin_names_.MayHaveTwin(attribute.name.text) || may_have_twins_;
+  attribute_initials_ |= InitialOf(static_cast<unsigned char>(attribute.name.text.front()));
 
   if (*at == '"') return ParseAttributeValue<'"'>(at, attribute);
   if (*at == '\'') return ParseAttributeValue<'\''>(at, attribute);

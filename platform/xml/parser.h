@@ -65,6 +65,11 @@ class Parser {
   /// The attributes of an Element, in the document's order.
   std::span<const Attribute> attributes() const { return {attributes_.data(), attributes_.size()}; }
 
+  /// False: no attribute's name begins with this character.
+  bool MayHaveAttribute(wchar_t initial) const {
+    return (attribute_initials_ & InitialOf(static_cast<unsigned>(initial))) != 0;
+  }
+
   /// The Element was written as an empty tag. It has no EndElement then.
   bool is_empty_element() const { return is_empty_element_; }
 
@@ -96,6 +101,11 @@ class Parser {
 
   HRESULT Deliver(XmlNodeType type, const char* end);
   HRESULT FaultAtLimit() const;
+  /// One bit for what a name begins with; characters beyond ASCII share one.
+  static std::uint64_t InitialOf(unsigned character) {
+    return std::uint64_t{1} << (character < 0x80 ? character % 64 : 0);
+  }
+
   bool IsOutsideRoot() const { return open_elements_.size() == 0; }
   std::string_view InnermostName() const;
 
@@ -115,6 +125,7 @@ class Parser {
 
   // Of the start tag being parsed.
   bool has_namespaces_ = false;  ///< a colon or a declaration
+  std::uint64_t attribute_initials_ = 0;
   bool may_have_twins_ = false;  ///< two attributes may have the same name
   TwinNames twin_names_;
   std::vector<std::string_view> sorted_names_;

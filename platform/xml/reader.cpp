@@ -11,19 +11,20 @@ namespace {
 bool Equals(const wchar_t* wide, std::string_view utf8) {
   const char* at = utf8.data();
   const char* const end = at + utf8.size();
-  while (at != end) {
-    if (static_cast<unsigned char>(*at) < 0x80) {
-      if (*wide++ != static_cast<wchar_t>(*at++)) return false;
-      continue;
+  for (;;) {
+    while (at != end && *wide == static_cast<wchar_t>(*at) && *wide < 0x80) {
+      ++wide;
+      ++at;
     }
-    if (*wide == 0) return false;
+    if (at == end) return *wide == 0;
+    if (static_cast<unsigned char>(*at) < 0x80 || *wide == 0) return false;
     // Behind a unit that is not zero there is another.
     if (TakeCodePoint(wide, wide + 2) != TakeCodePoint(at)) return false;
   }
-  return *wide == 0;
 }
 
-/// Fills an empty buffer; whoever runs out of memory leaves it empty.
+/// Fills an empty buffer; whoever runs out of memory leaves it empty. What the parser hands out has
+/// the padding of its window behind it.
 void Fill(std::string_view utf8, Buffer<wchar_t>& text) {
   text.Room(utf8.size() + 1);
   AppendWide(utf8, text);
@@ -89,6 +90,7 @@ HRESULT XmlReader::GetValue(const wchar_t** value, UINT* length) {
       own_xml::AppendValue(current.value,
                            on_node ? KindOf(parser_.type()) : own_xml::ValueKind::kAttribute,
                            decoded_);
+      decoded_.Room(kReadAhead);
       Fill({decoded_.data(), decoded_.size()}, value_);
     }
   }
@@ -103,6 +105,7 @@ BOOL XmlReader::IsEmptyElement() const {
 HRESULT XmlReader::MoveToAttributeByName(const wchar_t* local_name, const wchar_t* namespace_uri) {
   if (local_name == nullptr) return E_INVALIDARG;
   if (namespace_uri != nullptr && *namespace_uri != 0) return E_NOTIMPL;
+  if (!parser_.MayHaveAttribute(*local_name)) return S_FALSE;
   const auto attributes = parser_.attributes();
   for (std::size_t tried = 0; tried < attributes.size(); ++tried) {
     std::size_t i = next_attribute_ + tried;

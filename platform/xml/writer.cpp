@@ -65,6 +65,20 @@ HRESULT AppendEscaped(const wchar_t* text, Escaped place, Buffer<char>& out) {
     char* const start = out.Room(6 * kStretch);
     char* to = start;
     while (text < stretch) {
+#if TOLVA_HAS_VECTORS
+      constexpr auto kCount = static_cast<std::ptrdiff_t>(Bytes::kCount);
+      if (stretch - text >= kCount) {
+        const Bytes block = Bytes::LoadNarrowed(text);
+        const Mask others = (block.IsBelowBlankOrNonAscii() | block.Is('<') | block.Is('>') |
+                             block.Is('&') | block.Is('"'))
+                                .ToMask();
+        const auto plain = others == 0 ? kCount : static_cast<std::ptrdiff_t>(FirstOf(others));
+        block.Store(to);
+        to += plain;
+        text += plain;
+        if (plain == kCount) continue;
+      }
+#endif
       const auto unit = static_cast<char32_t>(*text);
       if (unit < 0x80) {
         ++text;
@@ -77,10 +91,12 @@ HRESULT AppendEscaped(const wchar_t* text, Escaped place, Buffer<char>& out) {
         to = std::copy(escape.begin(), escape.end(), to);
         continue;
       }
-      const char32_t c = TakeCodePoint(text, end);
-      if (IsSurrogate(c)) return WR_E_INVALIDSURROGATEPAIR;
-      if (!IsXmlCharacter(c)) return WC_E_XMLCHARACTER;
-      to = EncodeUtf8(c, to);
+      do {
+        const char32_t c = TakeCodePoint(text, end);
+        if (IsSurrogate(c)) return WR_E_INVALIDSURROGATEPAIR;
+        if (!IsXmlCharacter(c)) return WC_E_XMLCHARACTER;
+        to = EncodeUtf8(c, to);
+      } while (text < stretch && static_cast<char32_t>(*text) >= 0x80);
     }
     out.Commit(static_cast<std::size_t>(to - start));
   }
@@ -348,15 +364,21 @@ HRESULT XmlWriter::WriteElementString(const wchar_t* prefix, const wchar_t* name
 // ---- pieces ------------------------------------------------------------------------------------
 
 HRESULT XmlWriter::PutName(const wchar_t* name) {
-  const wchar_t* const end = name + std::wcslen(name);
+  const std::size_t size = std::wcslen(name);
+  const wchar_t* const end = name + size;
+  char* const room = out_.Room(4 * size);
+  char* to = room;
   for (const wchar_t* at = name; at != end;) {
     const bool first = at == name;
     const char32_t c = TakeCodePoint(at, end);
-    const bool legal = first ? own_xml::IsNameStartCharacter(c) : own_xml::IsNameCharacter(c);
+    const bool legal =
+        c < 0x80
+            ? own_xml::IsClass(static_cast<char>(c), first ? own_xml::kNameStart : own_xml::kName)
+            : (first ? own_xml::IsNameStartCharacter(c) : own_xml::IsNameCharacter(c));
     if (!legal) return WC_E_NAMECHARACTER;
-    char* const room = out_.Room(4);
-    out_.Commit(static_cast<std::size_t>(EncodeUtf8(c, room) - room));
+    to = EncodeUtf8(c, to);
   }
+  out_.Commit(static_cast<std::size_t>(to - room));
   return S_OK;
 }
 

@@ -190,6 +190,11 @@ class ClearOnFailure {
   INode* node_;
 };
 
+/// Most names differ in their first character already.
+bool AreEqual(const wchar_t* left, const wchar_t* right) {
+  return *left == *right && std::wcscmp(left, right) == 0;
+}
+
 std::wstring_view AbsentFaultOf(const Attribute& row, const Dialect& dialect) {
   switch (row.type) {
     case ValueType::kString:
@@ -208,7 +213,7 @@ std::wstring_view MalformedFaultOf(const Attribute& row) {
 
 bool ParseEnum(const wchar_t* text, const EnumTexts& table, DWORD* value) {
   for (std::size_t i = 0; i < table.texts.size(); ++i) {
-    if (std::wcscmp(text, table.texts[i]) != 0) continue;
+    if (!AreEqual(text, table.texts[i])) continue;
     *value = static_cast<DWORD>(i);
     return true;
   }
@@ -253,11 +258,15 @@ ConfigResult ReadAttributes(const Schema& schema, IElement& node, CXMLLiteManage
   return kSuccess;
 }
 
-/// The row of the child that the reader stands on; null: the element knows none of that name.
-const Child* FindChild(const Schema& schema, const wchar_t* name) {
-  for (const Child& row : schema.children) {
-    if (std::wcscmp(row.name, name) == 0) return &row;
-  }
+/// The row of the child that the reader stands on, sought from `last` on, the row of the one before
+/// it: writers keep to the order. Null: the element knows none of that name.
+const Child* FindChild(const Schema& schema, const wchar_t* name, const Child* last) {
+  const Child* const end = schema.children.data() + schema.children.size();
+  const Child* row = last;
+  do {
+    if (AreEqual(row->name, name)) return row;
+    if (++row == end) row = schema.children.data();
+  } while (row != last);
   return nullptr;
 }
 
@@ -307,10 +316,11 @@ ConfigResult ReadChildren(const Schema& schema, INode& node, IXMLLiteManager* ma
   if (schema.children.empty()) return kSuccess;
   assert(schema.children.size() <= 32);
   std::uint32_t found = 0;
+  const Child* last = schema.children.data();
   int type = reader.is_empty_element() ? 0 : reader.NextNode();
   while (type != XmlNodeType_EndElement && type != XmlNodeType_None) {
     const wchar_t* const name = reader.GetLocalName();
-    const Child* const row = name == nullptr ? nullptr : FindChild(schema, name);
+    const Child* const row = name == nullptr ? nullptr : FindChild(schema, name, last);
     if (row == nullptr) {
       type = reader.SkipElement();
       continue;
@@ -318,6 +328,7 @@ ConfigResult ReadChildren(const Schema& schema, INode& node, IXMLLiteManager* ma
     const ConfigResult result = ReadChild(*row, node, manager);
     if (result != kSuccess) return result;
     found |= std::uint32_t{1} << (row - schema.children.data());
+    last = row;
     type = reader.NextNode();
   }
   return CheckRequiredChildren(schema, found);
@@ -408,7 +419,7 @@ ConfigResult ReadNode(const Schema& schema, INode& node, IXMLLiteManager* manage
 
   node.Clear();
   const wchar_t* const name = reader->GetLocalName();
-  if (name == nullptr || std::wcscmp(name, schema.element) != 0) return kInvalidArgument;
+  if (name == nullptr || !AreEqual(name, schema.element)) return kInvalidArgument;
 
   ClearOnFailure cleaner(node);
   ConfigResult result = ReadAttributes(schema, node, *reader);

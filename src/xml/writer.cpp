@@ -127,6 +127,10 @@ ConfigResult CXMLLiteManagerWriter::WriteElementString(const wchar_t* name, Text
 /// Only characters that XML allows: a zero within the text is none, and would hide what follows it.
 ConfigResult CXMLLiteManagerWriter::CheckCharacters(Text text) {
   for (const wchar_t* at = text.begin(); at != text.end();) {
+    if (*at >= L' ' && *at < 0xD800) {  // almost always
+      ++at;
+      continue;
+    }
     const char32_t c = TakeCodePoint(at, text.end());
     if (IsXmlCharacter(c)) continue;
     SetLastResult(

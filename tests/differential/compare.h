@@ -10,9 +10,9 @@ namespace tolva::test {
 /// Whether expat, minding namespaces, accepts the document; a document type declaration is refused.
 bool ExpatAccepts(std::string_view document);
 
-/// Reads the document with the own parser, at once and a byte at a time, and with expat: what they
-/// do not agree in, or nothing. Both have to accept or to refuse, and to deliver the same nodes.
-/// What is known of expat and cannot be helped is no difference.
+/// Reads the document with the own parser, in blocks of several sizes, and with expat: what they do
+/// not agree in, or nothing. Both have to accept or to refuse it; if they accept it, their nodes
+/// have to be the same. What is known of expat and cannot be helped is no difference.
 std::optional<std::string> Difference(std::string_view document);
 
 }  // namespace tolva::test
