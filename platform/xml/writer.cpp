@@ -251,7 +251,7 @@ HRESULT XmlWriter::WriteAttributeString(const wchar_t* prefix, const wchar_t* na
                                         const wchar_t* uri, const wchar_t* value) {
   if (!IsSet(name)) return E_INVALIDARG;
   if (IsSet(prefix) || IsSet(uri)) return E_NOTIMPL;
-  if (std::wcscmp(name, L"xmlns") == 0) return WR_E_XMLNSPREFIXDECLARATION;
+  if (*name == L'x' && std::wcscmp(name, L"xmlns") == 0) return WR_E_XMLNSPREFIXDECLARATION;
   const HRESULT ready = Begin();
   if (FAILED(ready)) return ready;
   if (state_ != State::kStartTag) return Refuse();
@@ -368,13 +368,17 @@ HRESULT XmlWriter::PutName(const wchar_t* name) {
   const wchar_t* const end = name + size;
   char* const room = out_.Room(4 * size);
   char* to = room;
-  for (const wchar_t* at = name; at != end;) {
-    const bool first = at == name;
+  auto wanted = own_xml::kNameStart;
+  for (const wchar_t* at = name; at != end; wanted = own_xml::kName) {
+    if (*at < 0x80) {
+      const auto c = static_cast<char>(*at++);
+      if (!own_xml::IsClass(c, wanted)) return WC_E_NAMECHARACTER;
+      *to++ = c;
+      continue;
+    }
     const char32_t c = TakeCodePoint(at, end);
-    const bool legal =
-        c < 0x80
-            ? own_xml::IsClass(static_cast<char>(c), first ? own_xml::kNameStart : own_xml::kName)
-            : (first ? own_xml::IsNameStartCharacter(c) : own_xml::IsNameCharacter(c));
+    const bool legal = wanted == own_xml::kNameStart ? own_xml::IsNameStartCharacter(c)
+                                                     : own_xml::IsNameCharacter(c);
     if (!legal) return WC_E_NAMECHARACTER;
     to = EncodeUtf8(c, to);
   }
@@ -399,7 +403,8 @@ HRESULT XmlWriter::PutText(const wchar_t* text) {
 /// Goes to the start of a new line, indented for an element at this depth.
 void XmlWriter::PutLineBreak(std::size_t depth) {
   if (!at_line_start_) Put("\n");
-  for (std::size_t i = 0; i < depth; ++i) Put("  ");
+  std::memset(out_.Room(2 * depth), ' ', 2 * depth);
+  out_.Commit(2 * depth);
   at_line_start_ = false;
 }
 
