@@ -128,9 +128,9 @@ Element MakeElement(const char* name, const node::Schema& schema) {
   Element element = ElementOf<I>(name, schema);
   element.make = [] { return static_cast<node::INode*>(Create()); };
   element.copy = [](const node::IElement& node) {
-    I* const copy = Create();
+    std::unique_ptr<I> copy(Create());
     Copy(*copy, static_cast<const I&>(node));
-    return static_cast<node::INode*>(copy);
+    return static_cast<node::INode*>(copy.release());
   };
   return element;
 }

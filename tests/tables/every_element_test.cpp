@@ -6,6 +6,9 @@
 #include <string>
 
 #include "node/diagnostics.h"
+#include "support/allocations.h"
+#include "support/files.h"
+#include "support/managers.h"
 #include "support/nodes.h"
 #include "tables/elements.h"
 #include "tables/random_content.h"
@@ -15,6 +18,10 @@ namespace {
 
 using namespace node;
 using NodePtr = std::unique_ptr<INode>;
+
+/// Elements that keep a value on purpose when they are cleared, and those that consist of one.
+const std::set<std::wstring_view> keeping = {L"Setting",      L"Schedule", L"DiscoveryAction",
+                                             L"DiscoveryJob", L"address",  L"extractedContent"};
 
 /// Whether accessors of that name belong to the row: their names begin with a capital, and three
 /// have a name of their own.
@@ -83,9 +90,6 @@ TEST_P(EveryElement, MakesANodeThatIsClear) {
 
 /// Nothing is left of what was there, not even where it cannot be seen for now.
 TEST_P(EveryElement, ForgetsEverythingWhenItIsCleared) {
-  // Elements that keep a value on purpose, and those that consist of one.
-  const std::set<std::wstring_view> keeping = {L"Setting",      L"Schedule", L"DiscoveryAction",
-                                               L"DiscoveryJob", L"address",  L"extractedContent"};
   if (keeping.contains(Table().element)) return;
   const NodePtr node = Make();
   const NodePtr fresh = Make();
@@ -212,6 +216,63 @@ TEST_P(EveryElement, KeepsWhateverItHolds) {
     ASSERT_EQ(WriteFile(*copy), written);
   }
 }
+
+#if !defined(_WIN32)
+/// Whichever allocation fails, alone or with all that follow: std::bad_alloc is all that comes out,
+/// nothing is half done, nothing is lost, and everything can be used again.
+TEST_P(EveryElement, SurvivesARunOutOfMemory) {
+  const NodePtr whole = Make();
+  RandomContent(3).Fill(Table(), *whole);
+  const TempFile file(WriteFile(*whole));
+  const std::string written = file.Read();
+  const std::wstring path = file.Wide();
+  const NodePtr fresh = Make();
+  const auto fails = [](std::size_t n, auto operation) {
+    try {
+      const FailingAllocations failing(n, n % 2 == 1);
+      operation();
+    } catch (const std::bad_alloc&) {
+      return true;
+    }
+    return false;
+  };
+  const std::size_t held = CountAllocations().bytes;
+  bool reading_fails = true;
+  bool writing_fails = true;
+  bool copying_fails = true;
+  for (std::size_t n = 0; reading_fails || writing_fails || copying_fails; ++n) {
+    ASSERT_LT(n, 10000U);
+    const NodePtr node = Make();
+    reading_fails = fails(n, [&] {
+      const ManagerPtr reader = MakeReader();
+      if (reader->OpenFile(path.c_str()) != 0) throw std::bad_alloc();
+      EXPECT_EQ(node->ReadFromXMLMgr(reader.get()), 0);
+    });
+    if (!reading_fails) {
+      EXPECT_TRUE(AreEqual(Table(), *node, *whole)) << n;
+    } else if (!keeping.contains(Table().element) &&
+               Table().element != std::wstring_view(L"ILPInlineProxy")) {  // it keeps its flags
+      EXPECT_TRUE(AreEqual(Table(), *node, *fresh)) << n;
+    }
+
+    const TempFile output;
+    const std::wstring output_path = output.Wide();
+    writing_fails = fails(n, [&] {
+      const ManagerPtr writer = MakeWriter();
+      if (writer->OpenFile(output_path.c_str()) != 0) throw std::bad_alloc();
+      EXPECT_EQ(whole->WriteToXMLMgr(writer.get()), 0);
+      EXPECT_EQ(writer->Close(), 0);
+    });
+    EXPECT_TRUE(writing_fails || output.Read() == written) << n;
+
+    NodePtr copy;
+    copying_fails = fails(n, [&] { copy.reset(GetParam().copy(*whole)); });
+    EXPECT_EQ(copy == nullptr, copying_fails) << n;
+    EXPECT_TRUE(copying_fails || AreEqual(Table(), *copy, *whole)) << n;
+  }
+  EXPECT_EQ(CountAllocations().bytes, held);
+}
+#endif
 
 std::string NameOfElement(const testing::TestParamInfo<Element>& info) {
   std::string name = info.param.name;
