@@ -403,7 +403,7 @@ HRESULT XmlWriter::PutText(const wchar_t* text) {
 /// Goes to the start of a new line, indented for an element at this depth.
 void XmlWriter::PutLineBreak(std::size_t depth) {
   if (!at_line_start_) Put("\n");
-  std::memset(out_.Room(2 * depth), ' ', 2 * depth);
+  std::fill_n(out_.Room(2 * depth), 2 * depth, ' ');
   out_.Commit(2 * depth);
   at_line_start_ = false;
 }

@@ -2,13 +2,16 @@
 // thinks of.
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "differential/compare.h"
+#include "platform/utf.h"
 
 namespace tolva::test {
 namespace {
@@ -36,7 +39,7 @@ const Context kContexts[] = {
     {"BehindRoot",
      "<a/>",
      "",
-     {"<", ">", "/", "a", " ", "?", "!--", "--", "&", "[CDATA[", "]]>", "!DOCTYPE"}},
+     {"<", ">", "/", "a", " ", "?", "!--", "--", "&", "![CDATA[", "]]>", "!DOCTYPE"}},
     {"StartTag", "<a", "/>", {" ", "\n", "a", ":", "=", "''", "'", "\"", "/", ">", "<", "xmlns"}},
     {"EndTag",
      "<a><b:c xmlns:b='a'",
@@ -81,6 +84,11 @@ const Context kContexts[] = {
      "</a>",
      {" xmlns:a='u'", " xmlns:b='u'", " xmlns:b='&#x75;'", " xmlns:b='v'", " xmlns='u'",
       " xmlns:a=''", " a:x=''", " b:x=''", " x=''", ">", "/>", "<b:x", "</b:x>"}},
+    {"ScopesOfNamespaces",
+     "<a xmlns:p='u'><b",
+     "</a>",
+     {">", "/>", "</b>", "<b", "<p:c", "<q:c", " xmlns:p='v'", " xmlns:q='u'", " p:x=''",
+      " q:x=''"}},
     {"ReservedNamespaces",
      "<",
      "/>",
@@ -90,12 +98,11 @@ const Context kContexts[] = {
     {"ManyAttributes",
      "<a xmlns:a='u' b='' c='' d='' e='' f='' g='' h='' i='' j='' k='' l='' m='' n='' o='' p=''",
      "/>",
-     {" b=''", " p=''", " q=''", " r=''", " a:b=''", " xmlns:c='u'", " c:b=''", " c:q=''"}},
+     {" b=''", " p=''", "q=''", " q=''", " r=''", " a:b=''", " xmlns:c='u'", " c:b=''", " c:q=''"}},
     {"Bytes",
      "<a>",
      "</a>",
-     {"\x80", "\xA9", "\xBE", "\xBF", "\xC0", "\xC3", "\xE0", "\xE2", "\xED", "\xEF", "\xF0",
-      "\xF4", "\xF5", "a"}},
+     {"\x80", "\xA9", "\xBE", "\xBF", "\xC0", "\xC3", "\xE0", "\xED", "\xEF", "\xF0", "\xF4", "a"}},
     {"Start",
      "",
      "<a/>",
@@ -120,7 +127,7 @@ int Length() {
   return wanted == nullptr ? kDefault : std::atoi(wanted);
 }
 
-class Differential : public testing::TestWithParam<Context> {
+class DifferentialContexts : public testing::TestWithParam<Context> {
  protected:
   /// Tries what there is between head and tail, and all that is made of it with `more` pieces.
   void Try(std::string& middle, int more) {
@@ -152,14 +159,29 @@ class Differential : public testing::TestWithParam<Context> {
   int failures_ = 0;
 };
 
-TEST_P(Differential, AgreesOnAllShortSequences) {
+TEST_P(DifferentialContexts, AgreesOnAllShortSequences) {
   std::string middle;
   Try(middle, Length());
   RecordProperty("documents", std::to_string(documents_));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Differential, testing::ValuesIn(kContexts),
+INSTANTIATE_TEST_SUITE_P(All, DifferentialContexts, testing::ValuesIn(kContexts),
                          [](const auto& test) { return std::string(test.param.name); });
+
+TEST(Differential, AgreesOnEveryCharacter) {
+  for (char32_t c = 0; c <= 0x110000; ++c) {
+    // Beyond the first plane only the ends of the others have anything to say.
+    if (c > 0x10000 && (c & 0xFFFF) > 1 && (c & 0xFFFF) < 0xFFFE) continue;
+    char bytes[4];
+    const std::string character(bytes, platform::EncodeUtf8(c, bytes));
+    for (const auto& [head, tail] :
+         {std::pair{"<", "/>"}, std::pair{"<a", "/>"}, std::pair{"<a ", "=''/>"},
+          std::pair{"<a a='", "'/>"}, std::pair{"<a>", "</a>"}, std::pair{"<?", " ?><a/>"}}) {
+      const auto difference = Difference(head + character + tail);
+      ASSERT_FALSE(difference) << *difference;
+    }
+  }
+}
 
 }  // namespace
 }  // namespace tolva::test

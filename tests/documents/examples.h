@@ -8,10 +8,10 @@
 namespace tolva::test {
 
 inline Example ActiveDirectoryExample() {
-  return Example(
-      "active-directory.xml",
-      [] { return Example::Node(ClientConfig::ActiveDir_CreateNewInstance()); },
-      WithActiveDirectory(std::vector<ElementRule>()), WithActiveDirectory(Departures()));
+  const std::vector<ElementRule> no_more_rules;
+  return {"active-directory.xml",
+          [] { return Example::Node(ClientConfig::ActiveDir_CreateNewInstance()); },
+          WithActiveDirectory(no_more_rules), WithActiveDirectory(Departures())};
 }
 
 inline Example AnalysisDetailsExample() {

@@ -102,7 +102,7 @@ class Example {
   wchar_t MarkOf(const Element& child) const;
   Texts Depart(const Texts& texts) const;
   Texts WithParents(Texts texts, std::size_t element, bool reading) const;
-  void ExpectTextFaults(std::size_t element, const AttributeRule& rule) const;
+  void ExpectTextFaults(std::size_t index, const AttributeRule& rule) const;
   void ExpectRead(const std::wstring& document, const Texts& reports, ConfigResult result) const;
   void CollectWriteFaults(std::size_t index, std::vector<Texts>& faults,
                           std::vector<Announcement>& announcements) const;

@@ -61,8 +61,9 @@ void RandomContent::Fill(const Schema& table, IElement& node) {
       *field.present = !table.content.is_always_written || Below(2) == 0 ? 1 : 0;
     }
     // A text that is empty is none.
-    if (table.content.type == ValueType::kString)
+    if (table.content.type == ValueType::kString) {
       static_cast<std::wstring*>(field.value)->insert(0, L"t");
+    }
   }
   for (const Child& row : table.children) {
     const ChildRef child = row.locate(node);
