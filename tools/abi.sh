@@ -22,6 +22,10 @@ done
 
 # compare <list> <made just now>
 compare() {
+  if [ ! -s "$2" ]; then
+    echo "abi.sh: found nothing to compare with abi/$1; is everything built?" >&2
+    exit 1
+  fi
   if [ "$update" = yes ]; then
     cp "$2" "abi/$1"
     echo "abi/$1: $(wc -l < "abi/$1") lines"

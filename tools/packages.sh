@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages that a target needs, if any of them is missing:
-#   packages.sh build|test|bench
+#   packages.sh build|windows|test|bench
 set -eu
 
 build='g++ cmake ninja-build'

@@ -8,7 +8,7 @@ threads=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libwinpthread
 build=$(cd "$(dirname "$1")/.." && pwd)
 
 # shellcheck disable=SC2086  # TOLVA_WINEPATH may be several folders
-WINEPATH="$(printf 'Z:%s;' "$runtime" "$threads" "$build" "$build/installed/bin" ${TOLVA_WINEPATH:-})"
+WINEPATH="$(printf 'Z:%s;' ${TOLVA_WINEPATH:-} "$runtime" "$threads" "$build")"
 export WINEPATH
 export WINEDEBUG="${WINEDEBUG:--all}"
 export WINEPREFIX="${WINEPREFIX:-${XDG_CACHE_HOME:-$HOME/.cache}/tolva-wine}"

@@ -56,8 +56,8 @@ bool Load(tolva::node::IElement& root, const std::filesystem::path& file) {
   if (result == 0) result = root.ReadFromXMLMgr(reader.get());
   Say("read", file, result);
   const DWORD error = tolvaGetLastError();
-  // After a success, only a parser's code means something: that the document broke off.
-  const bool broke_off = error >= 0xC00CE000 && error <= 0xC00CEFFF;
+  // After a success, these mean something: the document broke off, or the file could not be read.
+  const bool broke_off = (error & 0xFFFFF000) == 0xC00CE000 || (error & 0xFFFF0000) == 0x80070000;
   if (result == 0 && !broke_off) return true;
   std::cout << "  last error: 0x" << std::hex << error << std::dec << "\n";
   return false;

@@ -28,8 +28,8 @@ inline constexpr ConfigResult kAbsent = 1;
 /// where a node failed, the diagnostic callback was told why, unless the function says otherwise.
 inline constexpr ConfigResult kFailed = -101;
 
-/// A manager was given a null argument; a node was asked to read an element of another name; or a
-/// text element had no text where it needs one.
+/// A manager was given a null argument, or an empty text to read; a node was asked to read an
+/// element of another name; or a text element had no text where it needs one.
 inline constexpr ConfigResult kInvalidArgument = -102;
 
 /// Never returned: the thread's last-error value after an absent attribute was asked for.

@@ -43,6 +43,7 @@ class FileStream final : public RefCounted<IStream> {
           write(file_, static_cast<const char*>(buffer) + *written, size - *written);
       if (count < 0 && errno == EINTR) continue;
       if (count < 0) return ResultOfErrno();
+      if (count == 0) return HRESULT_FROM_WIN32(ERROR_DISK_FULL);
       *written += static_cast<ULONG>(count);
     }
     return S_OK;

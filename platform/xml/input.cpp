@@ -190,7 +190,7 @@ void Input::AddUtf8Block() {
   window_.Truncate(limit_);
   window_.Room(raw_.size() + kBlock + kPadding);
   window_.Append(raw_.data(), raw_.size());
-  raw_.Truncate(0);
+  raw_.Clear();
   ReadRaw(window_, kBlock);
   Admit(window_.size() - limit_);
   raw_.Append(window_.data() + limit_, reason_ == S_OK ? window_.size() - limit_ : 0);
@@ -207,7 +207,7 @@ void Input::AddTranscodedBlock() {
       encoding_ == Encoding::kUtf16LittleEndian || encoding_ == Encoding::kUtf16BigEndian;
   const auto* const bytes = reinterpret_cast<const unsigned char*>(raw_.data());
   const std::size_t size = raw_.size();
-  const bool last = stream_result_ != S_OK;
+  const bool last = stream_result_ == S_FALSE;
 
   window_.Truncate(limit_);
   // Two bytes at most for each of a single-byte encoding, three for two of UTF-16, one for what is

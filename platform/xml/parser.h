@@ -110,11 +110,11 @@ class Parser {
   std::string_view InnermostName() const;
 
   Input input_;
-  const char* at_ = nullptr;  ///< behind the current node
-  bool started_ = false;      ///< something has been delivered
-  bool has_root_ = false;     ///< the root's start tag has been delivered
-  bool at_limit_ = false;     ///< the input has nothing to add to its window
-  HRESULT result_ = S_OK;     ///< what Read answers without looking, unless S_OK
+  const char* at_ = nullptr;       ///< behind the current node
+  bool started_ = false;           ///< something has been delivered
+  bool has_root_ = false;          ///< the root's start tag has been delivered
+  bool at_limit_ = false;          ///< the input has nothing to add to its window
+  HRESULT result_ = E_UNEXPECTED;  ///< what Read answers without looking, unless S_OK
 
   XmlNodeType type_ = XmlNodeType_None;
   Name name_;

@@ -12,7 +12,8 @@ bool Equals(const wchar_t* wide, std::string_view utf8) {
   const char* at = utf8.data();
   const char* const end = at + utf8.size();
   for (;;) {
-    while (at != end && *wide == static_cast<wchar_t>(*at) && *wide < 0x80) {
+    while (at != end && static_cast<unsigned char>(*at) < 0x80 &&
+           *wide == static_cast<wchar_t>(*at)) {
       ++wide;
       ++at;
     }
@@ -26,8 +27,7 @@ bool Equals(const wchar_t* wide, std::string_view utf8) {
 /// Fills an empty buffer; whoever runs out of memory leaves it empty. What the parser hands out has
 /// the padding of its window behind it.
 void Fill(std::string_view utf8, Buffer<wchar_t>& text) {
-  text.Room(utf8.size() + 1);
-  AppendWide(utf8, text);
+  AppendWide(utf8, text);  // with room for the zero
   text.Append(L'\0');
 }
 
@@ -87,6 +87,7 @@ HRESULT XmlReader::GetValue(const wchar_t** value, UINT* length) {
     if (current.plain) {
       Fill(current.value, value_);
     } else {
+      decoded_.Clear();
       own_xml::AppendValue(current.value,
                            on_node ? KindOf(parser_.type()) : own_xml::ValueKind::kAttribute,
                            decoded_);

@@ -370,7 +370,7 @@ HRESULT XmlWriter::PutName(const wchar_t* name) {
   char* to = room;
   auto wanted = own_xml::kNameStart;
   for (const wchar_t* at = name; at != end; wanted = own_xml::kName) {
-    if (*at < 0x80) {
+    if (static_cast<char32_t>(*at) < 0x80) {
       const auto c = static_cast<char>(*at++);
       if (!own_xml::IsClass(c, wanted)) return WC_E_NAMECHARACTER;
       *to++ = c;

@@ -7,6 +7,11 @@
 
 namespace tolva::test {
 
+/// Whether XML 1.0, fifth edition, has the character, which is not in ASCII, in its NameStartChar
+/// or NameChar. Expat knows the fourth. Written down a second time, so that a slip in the own
+/// parser's ranges shows.
+bool IsNameCharacter(char32_t c, bool starts_name);
+
 /// Whether expat, minding namespaces, accepts the document; a document type declaration is refused.
 bool ExpatAccepts(std::string_view document);
 

@@ -210,10 +210,28 @@ TEST_F(ManagerWriter, DoesNotWriteToPipes) {
 }
 #endif
 
+/// The characters that XML allows, but for most of the planes beyond the first.
+std::wstring EveryCharacter() {
+  std::wstring text = L"\U00010000\U0001FFFF\U000FFFFF\U0010FFFF";
+  for (std::uint32_t c = 0x20; c < 0xFFFE; ++c) {
+    if (c < 0xD800 || c > 0xDFFF) text += static_cast<wchar_t>(c);
+  }
+  return text;
+}
+
+TEST_F(ManagerWriter, NeedsARootAgainInTheNextDocument) {
+  Open();
+  ASSERT_EQ(writer_.StartElement(L"a"), 0);
+  ASSERT_EQ(writer_.Close(), 0);
+  Open();
+  EXPECT_EQ(writer_.Close(), -101);
+}
+
 TEST_F(ManagerWriter, WritesWhatTheReaderReadsBack) {
   TOLVA_REQUIRE(WriterEscapes);
-  const std::wstring values[] = {L"<&>\"'",     L"\t\r\n",       L" ",      L"\r\n x \r", L"]]>",
-                                 L"\U0001F600", L"\u00E9\uFFFD", L"a\nb\tc"};
+  const std::wstring values[] = {L"<&>\"'",       L"\t\r\n",  L" ",
+                                 L"\r\n x \r",    L"]]>",     L"\U0001F600",
+                                 L"\u00E9\uFFFD", L"a\nb\tc", EveryCharacter()};
   Open();
   ASSERT_EQ(writer_.StartElement(L"all"), 0);
   for (const std::wstring& value : values) {

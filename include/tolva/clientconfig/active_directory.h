@@ -24,7 +24,8 @@ class IDefaultDomain : public tolva::node::INode {
   virtual ConfigResult GetEnabled(DWORD* out) const = 0;
   virtual ConfigResult SetEnabled(const DWORD* value) = 0;
 
-  /// `Name`: the domain's name. Required.
+  /// `Name`: the domain's name. Required; but when it cannot be written it is left out without a
+  /// word, and the document cannot be read back.
   virtual const std::wstring& GetName() const = 0;
   virtual ConfigResult SetName(const std::wstring* value) = 0;
 };

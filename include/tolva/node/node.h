@@ -59,7 +59,8 @@ class IElement {
   /// those that a parent passes and do not influence the output. -101 with a diagnostic when
   /// something required could not be written: the document is then incomplete, the node unchanged.
   /// What is optional and could not be written, a text with a forbidden character say, is left out
-  /// without a word. A null manager gives a diagnostic and -101, one that is a reader -101 alone.
+  /// without a word, as are the two attributes of `DefaultDomain`. A null manager gives a
+  /// diagnostic and -101, one that is a reader -101 alone.
   virtual ConfigResult WriteToXMLMgr(IXMLLiteManager* manager, int reserved = 0,
                                      int position = 1) const = 0;
 

@@ -15,7 +15,11 @@
 ///
 /// Results are 0, -101 (failed; the thread's last-error value holds the platform's code where it
 /// gave one) or -102 (a null argument). A manager whose XML object could not be created answers
-/// -101 to everything.
+/// -101 to every opening. Making a manager, opening and closing may throw std::bad_alloc, and
+/// nothing else. Nodes take managers that `tolvaCreateXMLManager` made, and no others.
+///
+/// Off Windows a path is converted to UTF-8, and a new file has the mode that the process's mask
+/// leaves.
 class IXMLLiteManager {
  public:
   IXMLLiteManager() = default;
@@ -32,7 +36,8 @@ class IXMLLiteManager {
   ///
   /// Writer: creates the file or truncates it, and writes the XML declaration. A document that is
   /// still open on this manager is finished first. To keep an earlier file until the new one is
-  /// complete, write to a name beside it and rename after `Close` returned 0.
+  /// complete, write to a name beside it and rename after the root's write and `Close` both
+  /// returned 0: after a failed write `Close` still ends the document, well-formed and incomplete.
   virtual ConfigResult OpenFile(const wchar_t* path) = 0;
 
   /// Reader: lets the file go; 0.
@@ -59,13 +64,15 @@ TOLVA_API void tolvaDestroyXMLManager(IXMLLiteManager* manager);
 
 /// Installs the function that receives every diagnostic text of the process, replacing an earlier
 /// one; null removes it. It is called on the thread that failed, and the text is valid only during
-/// the call. Install it before other threads use the library.
+/// the call. It must neither throw nor call the library. Install it before other threads use the
+/// library.
 TOLVA_API void SetTolvaDebugDumpCallBack(void (*callback)(const wchar_t*));
 
 /// The calling thread's last-error value: the HRESULT of a failed platform call; -104 (attribute
 /// absent) and -102 as DWORDs; 1 where the reader found no suitable node; 0 after an attribute was
 /// read. What succeeds need not touch it: who sets it to 0 before opening a document, and finds a
-/// value 0xC00CExxx after the read of its root returned 0, knows that the document broke off. On
+/// value 0xC00CExxx after the read of its root returned 0, knows that the document broke off or is
+/// malformed behind what was read; 0x8007xxxx tells that the file could not be read to its end. On
 /// Windows it is the system's own cell.
 TOLVA_API DWORD tolvaGetLastError();
 
