@@ -1,6 +1,6 @@
 # Everything that this repository can do, by name: `make help`.
 .DEFAULT_GOAL := help
-.PHONY: help demo demo-windows build test abi documents format tidy bench clean
+.PHONY: help demo demo-windows build test abi documents format tidy conformance fuzz bench clean
 
 help: ## This list
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-14s %s\n", $$1, $$2 }' Makefile
@@ -43,6 +43,10 @@ documents: ## Make docs/documents.md anew from the tables
 	@cmake --build --preset linux-release --target documents
 	@cp build/linux-release/documents.md docs/documents.md
 
+conformance: ## The W3C conformance suite against the own XML layer
+	@tools/packages.sh test
+	@tools/test.sh conformance
+
 format: ## Format the sources
 	@tools/packages.sh test
 	@tools/format.sh
@@ -51,6 +55,13 @@ tidy: ## clang-tidy over the sources
 	@tools/packages.sh test
 	@cmake --preset linux-clang > /dev/null
 	@tools/tidy.sh
+
+fuzz: ## Run each fuzz target for a minute, after the inputs that are known
+	@tools/packages.sh test
+	@cmake --preset fuzz > /dev/null
+	@cmake --build --preset fuzz
+	@tools/fuzz.sh replay
+	@tools/fuzz.sh run 60
 
 bench: ## Build and run the benchmarks
 	@tools/packages.sh bench

@@ -4,17 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "analysisdetails/analysis_details.h"
-#include "ciconf/client_configuration.h"
-#include "clientconfig/active_directory.h"
-#include "globalconf/client_configuration.h"
-#include "installconf/install_config.h"
-#include "messageconf/message_catalogue.h"
-#include "ngconf/client_configuration.h"
-#include "patchhistory/patch_history.h"
-#include "policy/policy.h"
-#include "proxyconf/client_configuration.h"
-#include "rfconf/client_configuration.h"
+#include "exports/documents.h"
 #include "support.h"
 #include "xml/reader.h"
 #include "xml/writer.h"
@@ -37,9 +27,9 @@ INode* Copy(const INode& node) {
 }
 
 const Factory kFactories[] = {
-#define TOLVA_FACTORY(space, name, node, type)                                     \
-  {[]() -> INode* { return space::name##_CreateNewInstance(); },                   \
-   &Copy<space::node, space::type>, &space::node::kSchema},
+#define TOLVA_FACTORY(space, name, node, type)                                                    \
+  {[]() -> INode* { return space::name##_CreateNewInstance(); }, &Copy<space::node, space::type>, \
+   &space::node::kSchema},
 #include "exports/factories.def"
 #undef TOLVA_FACTORY
 };
@@ -68,8 +58,8 @@ ConfigResult Read(const MemoryFile& file, INode& node) {
 
 /// A text that is empty cannot be told from none when it is read.
 bool HasEmptyText(const std::string& document) {
-  for (const char* const name : {"name", "value", "location", "context", "classifierType", "policyID",
-                                 "severity", "Content", "Description"}) {
+  for (const char* const name : {"name", "value", "location", "context", "classifierType",
+                                 "policyID", "severity", "Content", "Description"}) {
     if (document.find(std::string("<") + name + "></") != std::string::npos) return true;
   }
   return false;

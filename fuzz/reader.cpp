@@ -1,10 +1,8 @@
 // Bytes through the XML reader: the same nodes whatever pieces they come in.
 #include <algorithm>
-#include <cstring>
 #include <string>
 
 #include "platform/platform.h"
-#include "platform/ref_counted.h"
 #include "platform/xml/parser.h"
 #include "support.h"
 
@@ -12,24 +10,6 @@ namespace {
 
 using namespace tolva::platform;
 using namespace tolva::fuzz;
-
-class PieceStream final : public RefCounted<IStream> {
- public:
-  PieceStream(std::string_view text, std::size_t piece) : text_(text), piece_(piece) {}
-
-  HRESULT Read(void* buffer, ULONG size, ULONG* count) noexcept override {
-    const std::size_t given = std::min({static_cast<std::size_t>(size), piece_, text_.size()});
-    std::memcpy(buffer, text_.data(), given);
-    text_.remove_prefix(given);
-    *count = static_cast<ULONG>(given);
-    return given == size ? S_OK : S_FALSE;
-  }
-  HRESULT Write(const void*, ULONG, ULONG*) noexcept override { return E_NOTIMPL; }
-
- private:
-  std::string_view text_;
-  std::size_t piece_;
-};
 
 void Add(std::string& account, std::string_view text) {
   account += text;

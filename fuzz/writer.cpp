@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "platform/ref_counted.h"
 #include "platform/utf.h"
 #include "platform/xml/parser.h"
 #include "support.h"
@@ -29,8 +28,9 @@ class Program {
     std::wstring text;
     for (std::uint8_t left = Take() % 12; left != 0; --left) {
       const std::uint8_t byte = Take();
-      static constexpr wchar_t kOthers[] = {0x09, 0x0A,   0x0D,   0x20,   0x85,    0xE9,    0x20AC,
-                                            0x00, 0x2028, 0xD800, 0xDFFF, 0xFFFE, 0x10FFFF, 0x1F600};
+      static constexpr wchar_t kOthers[] = {0x09,   0x0A,   0x0D,     0x20,   0x85,
+                                            0xE9,   0x20AC, 0x00,     0x2028, 0xD800,
+                                            0xDFFF, 0xFFFE, 0x10FFFF, 0x1F600};
       text += byte < 0x20 ? kOthers[byte % std::size(kOthers)] : static_cast<wchar_t>(byte);
     }
     return text;
@@ -82,25 +82,9 @@ bool AreEqual(const std::vector<std::string>& left, const std::vector<std::strin
   return true;
 }
 
-class FileStream final : public RefCounted<IStream> {
- public:
-  explicit FileStream(std::string_view text) : text_(text) {}
-  HRESULT Read(void* buffer, ULONG size, ULONG* count) noexcept override {
-    const std::size_t given = std::min(static_cast<std::size_t>(size), text_.size());
-    std::copy_n(text_.data(), given, static_cast<char*>(buffer));
-    text_.remove_prefix(given);
-    *count = static_cast<ULONG>(given);
-    return S_OK;
-  }
-  HRESULT Write(const void*, ULONG, ULONG*) noexcept override { return E_NOTIMPL; }
-
- private:
-  std::string_view text_;
-};
-
 Account ReadAccount(std::string_view document) {
   own_xml::Parser parser;
-  auto* const stream = new FileStream(document);
+  auto* const stream = new PieceStream(document, document.size());
   parser.SetInput(stream, false);
   stream->Release();
   Account account;

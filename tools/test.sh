@@ -1,7 +1,8 @@
 #!/bin/bash
 # Runs everything that can fail: each build with its tests, and the checks of the sources and of the
 # binary interface. Ends with one line of totals; fails when anything did.
-#   test.sh [part...]      only these parts: sources linux sanitizers windows windows-own abi tidy
+#   test.sh [part...]      only these parts: sources linux conformance sanitizers fuzz windows
+#                          windows-own abi tidy
 set -u
 cd "$(dirname "$0")/.." || exit
 
@@ -147,6 +148,12 @@ part_sanitizers() {
   demo linux-asan
 }
 
+part_fuzz() {
+  echo 'Fuzz targets, known inputs'
+  build fuzz || return
+  check 'fuzz: replay' tools/fuzz.sh replay
+}
+
 part_windows() {
   echo 'Windows, XmlLite, under Wine'
   build windows || return
@@ -187,7 +194,7 @@ part_tidy() {
 }
 
 parts=("$@")
-[ ${#parts[@]} != 0 ] || parts=(sources linux sanitizers windows windows-own abi tidy)
+[ ${#parts[@]} != 0 ] || parts=(sources linux conformance sanitizers fuzz windows windows-own abi tidy)
 for part in "${parts[@]}"; do
   if [ "$(type -t "part_$part")" = function ]; then
     "part_$part"

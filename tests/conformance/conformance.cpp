@@ -61,9 +61,9 @@ class Catalogue {
         },
         [](void* self, const char*) { static_cast<Catalogue*>(self)->bases_.pop_back(); });
     const std::string text = ReadFile(path);
-    if (XML_Parse(parser.get(), text.data(), static_cast<int>(text.size()), XML_TRUE) !=
-        XML_STATUS_OK)
-      throw std::runtime_error("cannot read the tests in " + path);
+    const XML_Status status =
+        XML_Parse(parser.get(), text.data(), static_cast<int>(text.size()), XML_TRUE);
+    if (status != XML_STATUS_OK) throw std::runtime_error("cannot read the tests in " + path);
   }
 
   std::vector<Test> tests;

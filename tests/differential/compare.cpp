@@ -249,9 +249,9 @@ std::size_t WidthOf(Encoding encoding) { return encoding == Encoding::kBytes ? 1
 /// The byte, or unit of UTF-16, at a place in the document; behind its end zero.
 char32_t UnitAt(std::string_view document, Encoding encoding, std::size_t at) {
   if (at + WidthOf(encoding) > document.size()) return 0;
-  const auto first = static_cast<unsigned char>(document[at]);
+  const char32_t first = static_cast<unsigned char>(document[at]);
   if (encoding == Encoding::kBytes) return first;
-  const auto second = static_cast<unsigned char>(document[at + 1]);
+  const char32_t second = static_cast<unsigned char>(document[at + 1]);
   return encoding == Encoding::kUtf16BigEndian ? first << 8 | second : second << 8 | first;
 }
 
@@ -308,9 +308,9 @@ bool IsKnownAcceptance(std::string_view document, HRESULT own, const ExpatReader
   // Three characters of Latin-1 may stand in expat's names unless the document is in UTF-8. No
   // edition of XML 1.0 allows them.
   const Encoding encoding = EncodingOf(document);
-  if ((encoding != Encoding::kBytes || expat.is_latin1()) && HasOrdinalOrMicro(document, encoding))
-    return true;
-  if (encoding == Encoding::kBytes) return false;
+  const bool is_utf16 = encoding != Encoding::kBytes;
+  if ((is_utf16 || expat.is_latin1()) && HasOrdinalOrMicro(document, encoding)) return true;
+  if (!is_utf16) return false;
   // Expat takes whatever follows the first half of a surrogate pair for the second.
   if (own == WC_E_XMLCHARACTER) return HasLoneSurrogate(document, encoding);
   // A zero byte tells expat that it is UTF-16. XML 1.0 wants a byte-order mark for that, and can do
@@ -371,9 +371,11 @@ std::optional<std::string> Difference(std::string_view document) {
 
   const HRESULT result = own.Read(document, document.size() + 1);
   for (const std::size_t block : {1U, 7U}) {
-    if (own_in_blocks.Read(document, block) == result && own_in_blocks.nodes() == own.nodes())
-      continue;
-    return Report(document, "the own parser differs in blocks of " + std::to_string(block));
+    const bool same =
+        own_in_blocks.Read(document, block) == result && own_in_blocks.nodes() == own.nodes();
+    if (!same)
+      return Report(document,
+                    "the own parser differs in blocks of this size: " + std::to_string(block));
   }
 
   const bool accepted = result == S_FALSE;
