@@ -67,6 +67,7 @@ bench: ## Build and run the benchmarks
 	@tools/packages.sh bench
 	@cmake --preset bench > /dev/null
 	@cmake --build --preset bench
+	@build/bench/bench/tolva_footprint
 	@build/bench/bench/tolva_bench
 
 clean: ## Remove everything that was built

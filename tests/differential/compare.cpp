@@ -1,8 +1,10 @@
 #include "differential/compare.h"
 
 #include <expat.h>
+#include <strings.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <iterator>
 #include <memory>
@@ -373,9 +375,7 @@ std::optional<std::string> Difference(std::string_view document) {
   for (const std::size_t block : {1U, 7U}) {
     const bool same =
         own_in_blocks.Read(document, block) == result && own_in_blocks.nodes() == own.nodes();
-    if (!same)
-      return Report(document,
-                    "the own parser differs in blocks of this size: " + std::to_string(block));
+    if (!same) return Report(document, "the own parser minds blocks of " + std::to_string(block));
   }
 
   const bool accepted = result == S_FALSE;

@@ -1,0 +1,179 @@
+// What reading takes: memory and allocations for nodes, time against size, and a walk through a
+// document of a gigabyte.
+#include <tolva/tolva.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <string>
+
+#include "documents.h"
+#include "platform/platform.h"
+#include "platform/ref_counted.h"
+#include "platform/xml/parser.h"
+
+namespace {
+
+struct Heap {
+  std::size_t calls;
+  std::size_t bytes;
+  std::size_t peak;
+};
+
+Heap heap = {};
+
+constexpr std::size_t kHeader = alignof(std::max_align_t);
+
+}  // namespace
+
+void* operator new(std::size_t size) {
+  auto* const block = static_cast<char*>(std::malloc(kHeader + size));
+  if (block == nullptr) throw std::bad_alloc();
+  std::memcpy(block, &size, sizeof size);
+  ++heap.calls;
+  heap.bytes += size;
+  heap.peak = std::max(heap.peak, heap.bytes);
+  return block + kHeader;
+}
+
+void operator delete(void* object) noexcept {
+  if (object == nullptr) return;
+  auto* const block = static_cast<char*>(object) - kHeader;
+  std::size_t size = 0;
+  std::memcpy(&size, block, sizeof size);
+  heap.bytes -= size;
+  std::free(block);
+}
+
+void operator delete(void* object, std::size_t) noexcept { operator delete(object); }
+
+namespace tolva::bench {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double Seconds(Clock::time_point start) {
+  return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+/// One read, and what it took: the best time of some.
+void MeasureRead(Kind kind, std::size_t size, node::INode* (*make)()) {
+  const Document& document = GetDocument(kind, size);
+  const std::wstring path = document.path.wstring();
+  double best = 1e9;
+  Heap before = {};
+  Heap after = {};
+  for (int i = 0; i < (size > 1'000'000 ? 5 : 50); ++i) {
+    const auto start = Clock::now();
+    before = heap;
+    heap.peak = heap.bytes;
+    const std::unique_ptr<node::INode> root(make());
+    const std::unique_ptr<IXMLLiteManager> reader(tolvaCreateXMLManager(0));
+    if (reader->OpenFile(path.c_str()) != 0 || root->ReadFromXMLMgr(reader.get()) != 0)
+      std::exit(1);
+    after = heap;
+    best = std::min(best, Seconds(start));
+  }
+  const auto elements = static_cast<double>(document.elements);
+  const auto bytes = static_cast<double>(document.text.size());
+  const auto peak = static_cast<double>(after.peak - before.bytes);
+  std::printf("| %s, %zu KB | %.2f | %.0f | %.1f | %.2f |\n",
+              kind == kPolicy ? "policy" : "catalogue", document.text.size() / 1000,
+              best * 1e9 / bytes, peak / elements, peak / bytes,
+              static_cast<double>(after.calls - before.calls) / elements);
+}
+
+/// The same piece again and again, between a head and a tail.
+class RepeatingStream final : public platform::RefCounted<platform::IStream> {
+ public:
+  RepeatingStream(std::string piece, std::size_t count) : piece_(std::move(piece)), left_(count) {}
+
+  platform::HRESULT Read(void* buffer, platform::ULONG size,
+                         platform::ULONG* count) noexcept override {
+    auto* to = static_cast<char*>(buffer);
+    std::size_t room = size;
+    while (room != 0 && at_.empty() && (left_ != 0 || !ended_)) Next();
+    while (room != 0 && !at_.empty()) {
+      const std::size_t given = std::min(room, at_.size());
+      std::memcpy(to, at_.data(), given);
+      to += given;
+      room -= given;
+      at_.remove_prefix(given);
+      if (at_.empty() && (left_ != 0 || !ended_)) Next();
+    }
+    *count = static_cast<platform::ULONG>(size - room);
+    return room == 0 ? platform::S_OK : platform::S_FALSE;
+  }
+  platform::HRESULT Write(const void*, platform::ULONG, platform::ULONG*) noexcept override {
+    return platform::E_NOTIMPL;
+  }
+
+ private:
+  void Next() {
+    if (!started_) {
+      started_ = true;
+      at_ = "<all>";
+    } else if (left_ != 0) {
+      --left_;
+      at_ = piece_;
+    } else {
+      ended_ = true;
+      at_ = "</all>";
+    }
+  }
+
+  const std::string piece_;
+  std::string_view at_;
+  std::size_t left_;
+  bool started_ = false;
+  bool ended_ = false;
+};
+
+void WalkGigabyte() {
+  std::string piece = GetDocument(kPolicy, 40'000).text;
+  piece.erase(0, piece.find("?>") + 2);
+  const std::size_t count = 1'000'000'000 / piece.size();
+  const double bytes = static_cast<double>(count) * static_cast<double>(piece.size());
+  const auto start = Clock::now();
+  const Heap before = heap;
+  heap.peak = heap.bytes;
+  {
+    platform::own_xml::Parser parser;
+    auto* const stream = new RepeatingStream(piece, count);
+    parser.SetInput(stream, false);
+    stream->Release();
+    platform::HRESULT result = platform::S_OK;
+    while ((result = parser.Read()) == platform::S_OK) {
+    }
+    if (result != platform::S_FALSE) std::exit(1);
+  }
+  std::printf("\n%.2f GB walked in %.2f s, %.0f KB of memory at most\n", bytes * 1e-9,
+              Seconds(start), static_cast<double>(heap.peak - before.bytes) / 1000);
+}
+
+}  // namespace
+}  // namespace tolva::bench
+
+int main() {
+  using namespace tolva::bench;
+  std::puts(
+      "| Document | ns a byte | peak bytes an element | peak bytes a byte | allocations an "
+      "element |\n| --- | --- | --- | --- | --- |");
+  for (const std::size_t size :
+       {std::size_t{100'000}, std::size_t{1'000'000}, std::size_t{10'000'000}}) {
+    MeasureRead(kPolicy, size, []() -> tolva::node::INode* {
+      return TolvaInterface::ILPClientConfiguration_CreateNewInstance();
+    });
+  }
+  for (const std::size_t size :
+       {std::size_t{100'000}, std::size_t{1'000'000}, std::size_t{10'000'000}}) {
+    MeasureRead(kCatalogue, size, []() -> tolva::node::INode* {
+      return MessageConf::EndPointMessage_CreateNewInstance();
+    });
+  }
+  WalkGigabyte();
+}
