@@ -44,7 +44,7 @@ documents: ## Make docs/documents.md anew from the tables
 	@cp build/linux-release/documents.md docs/documents.md
 
 conformance: ## The W3C conformance suite against the own XML layer
-	@tools/packages.sh test
+	@tools/packages.sh conformance
 	@tools/test.sh conformance
 
 format: ## Format the sources

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages that a target needs, if any of them is missing:
-#   packages.sh build|windows|test|bench
+#   packages.sh build|windows|test|conformance|bench
 set -eu
 
 build='g++ cmake ninja-build'
@@ -10,10 +10,14 @@ case ${1:-} in
   build) wanted=$build ;;
   windows) wanted="$build $windows" ;;
   test) wanted=$test ;;
+  conformance)
+    wanted=$test
+    command -v npm > /dev/null || wanted="$wanted npm"
+    ;;
   bench)
     wanted="$build libbenchmark-dev libpugixml-dev libexpat1-dev libxml2-dev libxerces-c-dev xsdcxx"
     ;;
-  *) echo 'usage: packages.sh build|windows|test|bench' >&2; exit 2 ;;
+  *) echo 'usage: packages.sh build|windows|test|conformance|bench' >&2; exit 2 ;;
 esac
 
 missing=

@@ -141,10 +141,23 @@ pkg_config_consumer() { # <library folder>
     build/linux-release/pc-consumer build/linux-release/pc-consumer.xml
 }
 
+part_conformance() {
+  echo 'W3C conformance suite'
+  build linux-release || return
+  local log=$results/conformance.log status=0
+  tools/conformance.sh build/linux-release/tests/tolva_conformance > "$log" 2>&1 || status=$?
+  sed 's/^/  /' "$log" | tail -n 20
+  case $status in
+    0) count_check yes 'conformance' ;;
+    77) skipped=$((skipped + 1)) ;;
+    *) count_check no 'conformance' ;;
+  esac
+}
+
 part_sanitizers() {
   echo 'Linux, Clang, sanitizers'
   build linux-asan || return
-  programs linux-asan
+  TOLVA_DIFFERENTIAL_LENGTH=4 programs linux-asan
   demo linux-asan
 }
 

@@ -187,9 +187,9 @@ class Suite {
     return result;
   }
 
-  /// Expat does not know the names that came with the fifth edition, which is what the documents
-  /// are about whose DTD it cannot read. From these the declarations are taken one by one, so that
-  /// the processing instructions between them stay; and the colons, since they stand where
+  /// Expat does not know the names that came with the fifth edition. The well-formed documents
+  /// whose DTD it cannot read are all about these, within the DTD too: so of that only the
+  /// declarations go, and the processing instructions stay. Colons go as well, as they stand where
   /// namespaces do not allow them.
   static std::string WithoutDeclarations(const std::string& document) {
     static const std::regex kDeclarations(
@@ -202,7 +202,7 @@ class Suite {
     if (is_accepted != accepted) Deviate(test, check, accepted ? "refused" : "accepted");
   }
 
-  /// What the suite and expat do not say of the document: its nodes, in whatever blocks it comes.
+  /// The document's nodes, of which the suite says nothing, and the blocks in which it comes.
   void Compare(const Test& test, std::string_view document) {
     if (const auto difference = Difference(document)) Deviate(test, "nodes", *difference);
   }
@@ -237,25 +237,25 @@ int Run(const std::string& folder, const std::string& list_path) {
   Suite suite(folder);
   for (const Test& test : catalogue.tests) suite.Run(test);
 
-  std::size_t wrong = 0;
+  std::size_t others = 0;
   for (const auto& [deviation, what] : suite.deviations) {
     if (listed.contains(deviation)) continue;
-    ++wrong;
+    ++others;
     std::cout << "not listed: " << deviation.first << ' ' << deviation.second << ": " << what
               << '\n';
   }
   for (const Deviation& deviation : listed) {
     if (suite.deviations.contains(deviation)) continue;
-    ++wrong;
+    ++others;
     std::cout << "listed, but no longer so: " << deviation.first << ' ' << deviation.second << '\n';
   }
   std::cout << "conformance: " << catalogue.tests.size() << " tests: " << suite.with_doctype
             << " documents with a DTD, " << suite.without_doctype << " of these also without it, "
             << catalogue.tests.size() - static_cast<std::size_t>(suite.with_doctype)
-            << " that have none; " << listed.size() << " listed deviations, " << wrong
-            << " wrong; left out: " << catalogue.left_out_xml11 << " for XML 1.1, "
+            << " that have none; " << listed.size() << " listed deviations, " << others
+            << " others; left out: " << catalogue.left_out_xml11 << " for XML 1.1, "
             << catalogue.left_out_editions << " for earlier editions\n";
-  return wrong == 0 ? 0 : 1;
+  return others == 0 ? 0 : 1;
 }
 
 }  // namespace
