@@ -2,6 +2,7 @@
 // rules.
 #pragma once
 
+#include "support/active_directory.h"
 #include "support/example.h"
 
 namespace tolva::test {
@@ -10,7 +11,7 @@ inline Example PolicyExample() {
   return Example(
       "policy.xml",
       [] { return Example::Node(TolvaInterface::ILPClientConfiguration_CreateNewInstance()); },
-      {
+      WithActiveDirectory({
           {L"ILPClientConfiguration",
            L"SchemaVersion:N! SN:S! Name:S! UpdateDate:S RefId:S BypassVersion:S",
            L"LocationArray! UserInterface! Log Discovery TamperProtection ExcludedApps "
@@ -69,7 +70,7 @@ inline Example PolicyExample() {
           {L"BrowserSettings", L"", L"BrowserExtension*"},
           {L"BrowserExtension", L"BrowserName:E! EnableExtension:N! EnableMonitorMode:N", L""},
           {L"ILPInlineProxy", L"Enable:N EnableDriverWebTraffic:N SystemPAC:N",
-           L"IncludeApps ExcludeDomains LocalProxies ExcludeJSInjectionDomains"},
+           L"IncludeApps ExcludeDomains LocalProxies ExcludeJSInjectionDomains", L"ILPInLineProxy"},
           {L"IncludeApps", L"", L"ArCondition*"},
           {L"ExcludeDomains", L"", L"ExcludeDomain*"},
           {L"ExcludeDomain", L"URL:S", L""},
@@ -104,64 +105,31 @@ inline Example PolicyExample() {
            L"FullScanInterval:N PauseOnNotIdle:N IdleTimeout:N PauseOnBattery:N ScanMode:E "
            L"PreserveFileAccessTime:N FullScanOnFingerprintUpdate:N",
            L""},
+      }),
+      WithActiveDirectory(Departures{
+          .texts =
+              {
+                  // The script-injection list: silent, and misattributed by its parent.
+                  {L"XMLManager: fail to add element: ExcludeJSInjectionDomains/ExcludeDomain",
+                   L"JSExcudeDomain: fail to add element"},
+                  {L"XMLManager: fail to close element: ExcludeJSInjectionDomains/ExcludeDomain",
+                   L"JSExcudeDomain: fail to close element"},
+                  {L"XMLManager: write none to multiple element failed. "
+                   L"element:ExcludeJSInjectionDomains/ExcludeDomain",
+                   L""},
+                  {L"XMLManager: fail to add element: ExcludeJSInjectionDomains", L""},
+                  {L"XMLManager: fail to close element: ExcludeJSInjectionDomains", L""},
+                  {L"XMLManager: write optional element failed. element:ExcludeJSInjectionDomains",
+                   L"XMLManager: write optional element failed. element:LocalProxies"},
 
-          {L"ActiveDirectory", L"", L"DefaultDomain!"},
-          {L"DefaultDomain", L"Enabled:N?~ Name:S!~", L""},
-      },
-      {.texts =
-           {
-               {L"XMLManager: fail to add element: ILPInlineProxy",
-                L"XMLManager: fail to add element: ILPInLineProxy"},
-               {L"XMLManager: fail to close element: ILPInlineProxy",
-                L"XMLManager: fail to close element: ILPInLineProxy"},
-               {L"XMLManager: write optional element failed. element:ILPInlineProxy",
-                L"XMLManager: write optional element failed. element:ILPInLineProxy"},
-               {L"XMLManager: read require element failed. element:ILPInlineProxy",
-                L"XMLManager: read require element failed. element:ILPInLineProxy"},
-               {L"XMLManager: read required dword/bool Attribute failed. element:ILPInlineProxy, "
-                L"attr:Enable",
-                L"XMLManager: read required dword/bool Attribute failed. element:ILPInLineProxy, "
-                L"attr:Enable"},
-               {L"XMLManager: read required dword/bool Attribute failed. element:ILPInlineProxy, "
-                L"attr:EnableDriverWebTraffic",
-                L"XMLManager: read required dword/bool Attribute failed. element:ILPInLineProxy, "
-                L"attr:EnableDriverWebTraffic"},
-               {L"XMLManager: read required dword/bool Attribute failed. element:ILPInlineProxy, "
-                L"attr:SystemPAC",
-                L"XMLManager: read required dword/bool Attribute failed. element:ILPInLineProxy, "
-                L"attr:SystemPAC"},
-
-               // The script-injection list: silent, and misattributed by its parent.
-               {L"XMLManager: fail to add element: ExcludeJSInjectionDomains/ExcludeDomain",
-                L"JSExcudeDomain: fail to add element"},
-               {L"XMLManager: fail to close element: ExcludeJSInjectionDomains/ExcludeDomain",
-                L"JSExcudeDomain: fail to close element"},
-               {L"XMLManager: write none to multiple element failed. "
-                L"element:ExcludeJSInjectionDomains/ExcludeDomain",
-                L""},
-               {L"XMLManager: fail to add element: ExcludeJSInjectionDomains", L""},
-               {L"XMLManager: fail to close element: ExcludeJSInjectionDomains", L""},
-               {L"XMLManager: write optional element failed. element:ExcludeJSInjectionDomains",
-                L"XMLManager: write optional element failed. element:LocalProxies"},
-
-               {L"XMLManager: write optional element failed. element:ActiveDirectory",
-                L"XMLManager: write element failed. element:ActiveDirectory"},
-               {L"XMLManager: read require element failed. element:ActiveDirectory",
-                L"XMLManager: read element failed. element:ActiveDirectory"},
-               {L"XMLManager: fail to add element: DefaultDomain",
-                L"XMLManager: failed to add element: DefaultDomain"},
-               {L"XMLManager: read require element failed. element:DefaultDomain",
-                L"XMLManager: read require element failed. element:DefDomain"},
-               {L"XMLManager: sub-element DefaultDomain is missing",
-                L"XMLManager: sub-element DefDomain is missing"},
-               {L"XMLManager: read required ENUM Attribute failed. element:DefaultDomain, "
-                L"attr:Name",
-                L"XMLManager: read required string Attribute failed. element:DefaultDomain, "
-                L"attr:Name"},
-           },
-       .announced = {{L"ILPInlineProxy",
-                      {L"XMLManager: writingelement:ILPInLineProxy",
-                       L"XMLManager: writingelement:ILPInLineProxy was sucessful"}}}});
+                  {L"XMLManager: write optional element failed. element:ActiveDirectory",
+                   L"XMLManager: write element failed. element:ActiveDirectory"},
+                  {L"XMLManager: read require element failed. element:ActiveDirectory",
+                   L"XMLManager: read element failed. element:ActiveDirectory"},
+              },
+          .announced = {{L"ILPInlineProxy",
+                         {L"XMLManager: writingelement:ILPInLineProxy",
+                          L"XMLManager: writingelement:ILPInLineProxy was sucessful"}}}}));
 }
 
 }  // namespace tolva::test

@@ -99,6 +99,11 @@ const ElementRule* Example::FindRule(const std::wstring& name) const {
   return found == rules_.end() ? nullptr : &*found;
 }
 
+std::wstring Example::ReportedName(const Element& element) const {
+  const ElementRule* const rule = FindRule(element.rule);
+  return rule == nullptr || rule->reported_as == nullptr ? element.rule : rule->reported_as;
+}
+
 std::vector<Example::AttributeRule> Example::AttributesOf(const Element& element) const {
   std::vector<AttributeRule> rules;
   const ElementRule* const rule = FindRule(element.rule);
@@ -149,7 +154,7 @@ Texts Example::WithParents(Texts texts, std::size_t element, bool reading) const
               : mark != L'\0' ? L"write require"
                               : L"write optional";
     }
-    texts.push_back(text + L" element failed. element:" + elements_[i].rule);
+    texts.push_back(text + L" element failed. element:" + ReportedName(elements_[i]));
   }
   return Depart(texts);
 }
@@ -223,7 +228,7 @@ void Example::ExpectReadFaults() const {
       ASSERT_LT(place, rules.size()) << "not in order: " << testing::PrintToString(attribute.name);
       const AttributeRule& rule = rules[place];
       SCOPED_TRACE(testing::PrintToString(element.name + L" " + attribute.name));
-      const std::wstring names = L" element:" + element.rule + L", attr:" + attribute.name;
+      const std::wstring names = L" element:" + ReportedName(element) + L", attr:" + attribute.name;
       const std::wstring number = L"XMLManager: read required dword/bool Attribute failed." + names;
 
       Texts absent;
@@ -292,7 +297,7 @@ void Example::CollectWriteFaults(std::size_t index, std::vector<Texts>& faults,
   if (announced != departures_.announced.end()) {
     announcements.push_back({faults.size(), announced->second.first});
   }
-  fails(L"XMLManager: fail to add element: " + element.rule);
+  fails(L"XMLManager: fail to add element: " + ReportedName(element));
   for (const Attribute& attribute : element.attributes) {
     const auto rule = std::find_if(rules.begin(), rules.end(), [&](const AttributeRule& candidate) {
       return candidate.name == attribute.name;
@@ -306,10 +311,10 @@ void Example::CollectWriteFaults(std::size_t index, std::vector<Texts>& faults,
         rule->type == L'N'   ? L"XMLManager: read required DWORD/BOOL Attribute failed."
         : rule->type == L'S' ? L"XMLManager: write required string Attribute failed."
                              : L"XMLLiteManager: write required ENUM Attribute failed.";
-    fails(beginning + (L" element:" + element.rule + L", attr:" + attribute.name));
+    fails(beginning + (L" element:" + ReportedName(element) + L", attr:" + attribute.name));
   }
   for (const std::size_t child : element.children) CollectWriteFaults(child, faults, announcements);
-  fails(L"XMLManager: fail to close element: " + element.rule);
+  fails(L"XMLManager: fail to close element: " + ReportedName(element));
   faults.emplace_back();  // the line feed
   if (announced != departures_.announced.end()) {
     announcements.push_back({faults.size(), announced->second.second});

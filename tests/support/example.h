@@ -30,6 +30,9 @@ struct ElementRule {
 
   /// Names and marks, in write order: ! required, ? always written but dispensable, * repeated.
   const wchar_t* children;
+
+  /// Its name in reports, where that is another.
+  const wchar_t* reported_as = nullptr;
 };
 
 /// How a document departs from the rules by which texts are derived.
@@ -98,6 +101,7 @@ class Example {
 
   void Parse();
   const ElementRule* FindRule(const std::wstring& name) const;
+  std::wstring ReportedName(const Element& element) const;
   std::vector<AttributeRule> AttributesOf(const Element& element) const;
   wchar_t MarkOf(const Element& child) const;
   Texts Depart(const Texts& texts) const;
