@@ -70,47 +70,33 @@ void CheckList(I& node, Count count, At at, Insert insert, Remove remove, Remove
   EXPECT_EQ((node.*count)(), 0U);
 }
 
-// For each name of accessors.def, which has all that there are: what adds those accessors to an
-// element if the interface has them.
-#define TOLVA_SETTER(name)                                                                \
-  template <class I>                                                                      \
-  void AddValue##name(Element& element) {                                                 \
-    if constexpr (requires(I & node) { node.Set##name(nullptr); }) {                      \
-      element.values.push_back(                                                           \
-          {L## #name,                                                                     \
-           [](node::IElement& node) { return static_cast<I&>(node).Set##name(nullptr); }, \
-           [](node::IElement& from, node::IElement& to) {                                 \
-             return Transfer(static_cast<I&>(from), static_cast<I&>(to), &I::Get##name,   \
-                             &I::Set##name);                                              \
-           }});                                                                           \
-    }                                                                                     \
-  }
-#define TOLVA_LIST(name)                                                                    \
-  template <class I>                                                                        \
-  void AddList##name(Element& element) {                                                    \
-    if constexpr (requires(I & node) { node.Add##name(nullptr); }) {                        \
-      element.lists.push_back(                                                              \
-          {L## #name,                                                                       \
-           [](node::IElement& from, node::IElement& to) {                                   \
-             TransferList(static_cast<I&>(from), static_cast<I&>(to), &I::Get##name##Count, \
-                          &I::Get##name##At, &I::Add##name);                                \
-           },                                                                               \
-           [](node::IElement& node) {                                                       \
-             CheckList(static_cast<I&>(node), &I::Get##name##Count, &I::Get##name##At,      \
-                       &I::Insert##name##At, &I::Remove##name##At, &I::RemoveAll##name);    \
-           }});                                                                             \
-    }                                                                                       \
-  }
-#include "tables/accessors.def"
-#undef TOLVA_SETTER
-#undef TOLVA_LIST
-
+/// The accessors that the interface has: accessors.def names all that there are.
 template <class I>
 Element ElementOf(const char* name, const node::Schema& schema) {
   Element element{
       .name = name, .make = {}, .copy = {}, .schema = &schema, .values = {}, .lists = {}};
-#define TOLVA_SETTER(name) AddValue##name<I>(element);
-#define TOLVA_LIST(name) AddList##name<I>(element);
+#define TOLVA_SETTER(name)                                                                         \
+  if constexpr (requires(I & node) { node.Set##name(nullptr); }) {                                 \
+    element.values.push_back(                                                                      \
+        {L## #name, [](node::IElement& node) { return static_cast<I&>(node).Set##name(nullptr); }, \
+         [](node::IElement& from, node::IElement& to) {                                            \
+           return Transfer(static_cast<I&>(from), static_cast<I&>(to), &I::Get##name,              \
+                           &I::Set##name);                                                         \
+         }});                                                                                      \
+  }
+#define TOLVA_LIST(name)                                                                  \
+  if constexpr (requires(I & node) { node.Add##name(nullptr); }) {                        \
+    element.lists.push_back(                                                              \
+        {L## #name,                                                                       \
+         [](node::IElement& from, node::IElement& to) {                                   \
+           TransferList(static_cast<I&>(from), static_cast<I&>(to), &I::Get##name##Count, \
+                        &I::Get##name##At, &I::Add##name);                                \
+         },                                                                               \
+         [](node::IElement& node) {                                                       \
+           CheckList(static_cast<I&>(node), &I::Get##name##Count, &I::Get##name##At,      \
+                     &I::Insert##name##At, &I::Remove##name##At, &I::RemoveAll##name);    \
+         }});                                                                             \
+  }
 #include "tables/accessors.def"
 #undef TOLVA_SETTER
 #undef TOLVA_LIST
