@@ -71,7 +71,11 @@ std::string MakePolicy(std::size_t size, const std::filesystem::path& path) {
   const std::unique_ptr<ILocationArray> some(LocationArray_CreateNewInstance());
   some->CopyFrom(locations);
   const std::size_t part = Save(*some, path).size();
-  if (size < whole) return Save(*some, path);
+  if (size < whole) {
+    while (locations.GetLocationCount() > 1) locations.RemoveLocationAt(1);
+    root->SetDiscovery(nullptr);
+    return Save(*root, path);
+  }
   for (std::size_t now = whole; now + part / 2 < size; now += part) {
     for (DWORD i = 0; i < count; ++i) locations.AddLocation(some->GetLocationAt(i));
   }
