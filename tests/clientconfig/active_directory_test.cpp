@@ -33,10 +33,6 @@ TEST(ActiveDirectory, ReadsWhatItWrites) {
     std::string_view written;
   };
   const std::vector<Case> cases = {
-      {L"<ActiveDirectory><DefaultDomain Enabled='1' Name='corp'/></ActiveDirectory>",
-       0,
-       {},
-       "<ActiveDirectory><DefaultDomain Enabled=\"1\" Name=\"corp\"/></ActiveDirectory>"},
       {L"<ActiveDirectory><!-- c --><x><DefaultDomain/></x><DefaultDomain Name='1st' Enabled='1'/>"
        L"<DefaultDomain Name='2nd'>text<y/></DefaultDomain></ActiveDirectory>",
        0,
@@ -46,17 +42,6 @@ TEST(ActiveDirectory, ReadsWhatItWrites) {
       {L"<ActiveDirectory><DefDomain Name='x'/></ActiveDirectory>",
        -101,
        {L"XMLManager: sub-element DefDomain is missing"},
-       kFresh},
-      {L"<ActiveDirectory><DefaultDomain Enabled='1'/></ActiveDirectory>",
-       -101,
-       {L"XMLManager: read required string Attribute failed. element:DefaultDomain, attr:Name",
-        L"XMLManager: read require element failed. element:DefDomain"},
-       kFresh},
-      {L"<ActiveDirectory><DefaultDomain Enabled='yes' Name='x'/></ActiveDirectory>",
-       -101,
-       {L"XMLManager: read required dword/bool Attribute failed. element:DefaultDomain, "
-        L"attr:Enabled",
-        L"XMLManager: read require element failed. element:DefDomain"},
        kFresh},
       {L"<activeDirectory><DefaultDomain Name='x'/></activeDirectory>", -102, {}, kFresh},
   };
@@ -138,18 +123,6 @@ TEST(ActiveDirectory, IsCopiedThroughItsDomain) {
   const auto domain = MakeDomain();
   EXPECT_EQ(&domain->CopyFrom(*other->GetDefaultDomain()), domain.get());
   EXPECT_EQ(domain->GetName(), name);
-}
-
-TEST(ActiveDirectory, ReadsTheExample) {
-  const RootPtr root = MakeRoot();
-  const ManagerPtr reader = MakeReader();
-  const std::string path = TOLVA_DOCUMENTS "/active-directory.xml";
-  ASSERT_EQ(reader->OpenFile(std::wstring(path.begin(), path.end()).c_str()), 0);
-  ASSERT_EQ(root->ReadFromXMLMgr(reader.get()), 0);
-  DWORD enabled = 0;
-  root->GetDefaultDomain()->GetEnabled(&enabled);
-  EXPECT_EQ(enabled, 1U);
-  EXPECT_EQ(root->GetDefaultDomain()->GetName(), L"corp.example");
 }
 
 }  // namespace

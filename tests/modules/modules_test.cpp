@@ -72,6 +72,8 @@ TEST(Modules, JudgeFragments) {
       "DisplayFTPBlockMsg=\"0\" FTPBlockMsgInterval=\"0\" UITimeout=\"0\"/>";
   const std::string fresh_ng = WriteText(*std::unique_ptr<node::IElement>(
       NGConfInterface::INGClientConfiguration_CreateNewInstance()));
+  const std::string fresh_ci = WriteText(*std::unique_ptr<node::IElement>(
+      CIConfInterface::ICIClientConfiguration_CreateNewInstance()));
   const std::string fresh_rf = WriteText(*std::unique_ptr<node::IElement>(
       RFConfInterface::IRFClientConfiguration_CreateNewInstance()));
   const std::string ci_setting =
@@ -82,12 +84,7 @@ TEST(Modules, JudgeFragments) {
        L"<ICIClientConfiguration SchemaVersion='1' SN='' Name=''/>",
        -101,
        {L"XMLManager: sub-element ClientSetting is missing"},
-       "<ICIClientConfiguration SchemaVersion=\"0\" SN=\"\" Name=\"\"><Connection "
-       "DoNotSendUserName=\"0\" FailClosed=\"0\"><EIMConnection><EIMServerArray></EIMServerArray>"
-       "</EIMConnection></Connection><ClientSetting EnableTelemetry=\"0\"><UserInterface "
-       "UISilentMode=\"0\" DisplayHTTPSBlockMsg=\"0\" HTTPSBlockMsgInterval=\"0\" "
-       "DisplayFTPBlockMsg=\"0\" FTPBlockMsgInterval=\"0\" UITimeout=\"0\"/></ClientSetting>"
-       "</ICIClientConfiguration>"},
+       fresh_ci},
       {Make<RFConfInterface::IRFClientConfiguration_CreateNewInstance>,
        L"<IRFClientConfiguration SchemaVersion='1' SN='' Name=''/>",
        -101,

@@ -9,7 +9,6 @@
 #include "node/numbers.h"
 #include "node/shelf.h"
 #include "support/allocations.h"
-#include "support/capabilities.h"
 #include "support/nodes.h"
 #include "support/writer_faults.h"
 
@@ -480,63 +479,6 @@ TEST(Engine, GivesMemoryBackWhenItClears) {
   shelf.place.Set(nullptr);
   shelf.Clear();
   EXPECT_LT(CountAllocations().bytes - held, 5'000'000U);  // `place` itself
-}
-#endif
-
-TEST(Engine, LooksAtNoInputBeyondItsEnd) {
-  TOLVA_REQUIRE(ReaderEndsTruncatedInput);
-  const std::wstring document =
-      Shelf(kNeeded, kInside + L"<Book><Title>b</Title><Pages>1</Pages></Book><x><y/></x>");
-  Diagnostics diagnostics;
-  for (std::size_t size = 1; size < document.size(); ++size) {
-    CShelf shelf;
-    const ConfigResult result = ReadText(shelf, document.substr(0, size));
-    if (result == 0) {
-      EXPECT_EQ(tolvaGetLastError() & 0xFFFFF000U, 0xC00CE000U) << size;
-    } else {
-      EXPECT_EQ(shelf.number, 0U);
-      EXPECT_EQ(shelf.books.Count(), 0U);
-    }
-  }
-}
-
-#if !defined(_WIN32)
-TEST(Engine, SurvivesARunOutOfMemory) {
-  const std::wstring document =
-      Shelf(kNeeded + L" Place='a place with a long name'",
-            kInside +
-                L"<Book><Title>a book with a long title</Title><Pages>1</Pages></Book>"
-                L"<Book><Title>another book with a long title</Title><Pages>1</Pages></Book>");
-  CShelf whole;
-  ASSERT_EQ(ReadText(whole, document), 0);
-  const std::string written = WriteText(whole);
-  const std::size_t held = CountAllocations().bytes;
-  const auto fails = [](std::size_t n, auto operation) {
-    try {
-      const FailingAllocations failing(n, n % 2 == 1);
-      operation();
-    } catch (const std::bad_alloc&) {
-      return true;
-    }
-    return false;
-  };
-  bool reading_fails = true;
-  bool copying_fails = true;
-  for (std::size_t n = 0; reading_fails || copying_fails; ++n) {
-    ASSERT_LT(n, 10000U);
-    CShelf shelf;
-    reading_fails = fails(n, [&] {
-      const ManagerPtr reader = MakeReader();
-      if (reader->OpenFromString(document.c_str()) != 0) throw std::bad_alloc();
-      shelf.ReadFromXMLMgr(reader.get(), 0);
-    });
-    EXPECT_EQ(WriteText(shelf), reading_fails ? kDefaultShelf : written) << n;
-    // A copy is whole or has not happened.
-    shelf.Clear();
-    copying_fails = fails(n, [&] { shelf.CopyFrom(whole); });
-    EXPECT_EQ(WriteText(shelf), copying_fails ? kDefaultShelf : written) << n;
-  }
-  EXPECT_EQ(CountAllocations().bytes, held);
 }
 #endif
 
