@@ -79,41 +79,47 @@ class FileSizeLimit {
   rlimit before_ = {};
 };
 
-/// The disk is full at any byte of a document of many blocks: an error that says so, and what had
-/// room is there.
+/// Writes to a disk that has room for so many bytes: an error that says so, and what had room is
+/// there.
+void ExpectFullDisk(const node::IElement& root, const std::string& whole, std::size_t room) {
+  const TempFile file;
+  const std::wstring path = file.Wide();
+  const ManagerPtr writer = MakeWriter();
+  ConfigResult written = 0;
+  ConfigResult closed = 0;
+  DWORD error = 0;
+  {
+    const FileSizeLimit limit(room);
+    ASSERT_EQ(writer->OpenFile(path.c_str()), 0);
+    Diagnostics diagnostics;
+    tolvaSetLastError(0);
+    written = root.WriteToXMLMgr(writer.get());
+    EXPECT_TRUE(written == 0 || !diagnostics.Take().empty()) << room;
+    closed = writer->Close();
+    error = tolvaGetLastError();
+  }
+  ASSERT_EQ(closed, -101) << room;
+  ASSERT_EQ(error & 0xFFFF0000U, 0x80070000U) << room;
+  ASSERT_EQ(file.Read(), whole.substr(0, room));
+  // With room again, the rest can be brought to the file.
+  if (written == 0) {
+    ASSERT_EQ(writer->Close(), 0) << room;
+    ASSERT_EQ(file.Read(), whole);
+  }
+}
+
 TEST(FullDisk, IsReportedWhereverItIsMet) {
   using namespace TolvaInterface;
   const Example::Node root = PolicyExample().Read();
+  const std::string small = WriteFile(*root);
+  for (std::size_t room = 0; room < small.size(); ++room) ExpectFullDisk(*root, small, room);
+
+  // Of many blocks.
   ILocationArray& locations = *static_cast<IILPClientConfiguration&>(*root).GetLocationArray();
   while (locations.GetLocationCount() < 60) locations.AddLocation(locations.GetLocationAt(0));
-  const std::string whole = WriteFile(*root);
-  ASSERT_GT(whole.size(), 130'000U);
-  for (std::size_t room = 0; room <= whole.size(); room += room < 20 ? 1 : 4093) {
-    const TempFile file;
-    const std::wstring path = file.Wide();
-    const ManagerPtr writer = MakeWriter();
-    ConfigResult written = 0;
-    ConfigResult closed = 0;
-    DWORD error = 0;
-    {
-      const FileSizeLimit limit(room);
-      ASSERT_EQ(writer->OpenFile(path.c_str()), 0);
-      Diagnostics diagnostics;
-      tolvaSetLastError(0);
-      written = root->WriteToXMLMgr(writer.get());
-      EXPECT_TRUE(written == 0 || !diagnostics.Take().empty()) << room;
-      closed = writer->Close();
-      error = tolvaGetLastError();
-    }
-    EXPECT_EQ(closed, -101) << room;
-    EXPECT_EQ(error & 0xFFFF0000U, 0x80070000U) << room;
-    EXPECT_EQ(file.Read(), whole.substr(0, room));
-    // With room again, the rest can be brought to the file.
-    if (written == 0) {
-      EXPECT_EQ(writer->Close(), 0) << room;
-      EXPECT_EQ(file.Read(), whole);
-    }
-  }
+  const std::string large = WriteFile(*root);
+  ASSERT_GT(large.size(), 130'000U);
+  for (std::size_t room = 0; room < large.size(); room += 4093) ExpectFullDisk(*root, large, room);
 }
 #endif
 
