@@ -124,9 +124,9 @@ class Parser {
   Buffer<Attribute> attributes_;
 
   // Of the start tag being parsed.
-  bool has_namespaces_ = false;  ///< a colon or a declaration
-  std::uint64_t attribute_initials_ = 0;
-  bool may_have_twins_ = false;  ///< two attributes may have the same name
+  bool has_namespaces_ = false;           ///< a colon or a declaration
+  std::uint64_t attribute_initials_ = 0;  ///< InitialOf each attribute's name
+  bool may_have_twins_ = false;           ///< two attributes may have the same name
   TwinNames twin_names_;
   std::vector<std::string_view> sorted_names_;
 

@@ -49,7 +49,7 @@ class IXMLLiteManager {
 
   /// Reader: reads a document from a zero-terminated wide string, which is copied; stops on the
   /// root element as `OpenFile` does. -102 for null, for an empty text and for one that is too
-  /// long. A lone surrogate becomes U+FFFD.
+  /// long: the document that was open stays so. A lone surrogate becomes U+FFFD.
   ///
   /// Writer: not supported; -101.
   virtual ConfigResult OpenFromString(const wchar_t* xml_text) = 0;
