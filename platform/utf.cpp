@@ -74,10 +74,20 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
   std::size_t i = 0;
   while (i < size) {
 #if TOLVA_HAS_VECTORS
+    // Mostly text is ASCII, and of the control characters line feeds alone are common.
+    constexpr std::size_t kAtOnce = 4 * Bytes::kCount;
+    for (; i + kAtOnce <= size; i += kAtOnce) {
+      const auto unusual = [at = text + i](std::size_t part) {
+        const Bytes block = Bytes::Load(at + part * Bytes::kCount);
+        return block.IsBelowBlankOrNonAscii().Without(block.Is('\n'));
+      };
+      if ((unusual(0) | unusual(1) | unusual(2) | unusual(3)).ToMask() != 0) break;
+    }
     if (i + Bytes::kCount <= size) {
       const Bytes block = Bytes::Load(text + i);
-      Mask unusual = block.IsBelowBlankOrNonAscii().ToMask();
-      if (unusual != 0) unusual &= ~(block.Is('\n') | block.Is('\r') | block.Is('\t')).ToMask();
+      const Mask unusual = block.IsBelowBlankOrNonAscii()
+                               .Without(block.Is('\n') | block.Is('\r') | block.Is('\t'))
+                               .ToMask();
       if (unusual == 0) {
         i += Bytes::kCount;
         continue;
@@ -85,6 +95,7 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
       i += FirstOf(unusual);
     }
 #endif
+    if (i == size) break;
     if (bytes[i] < 0x80) {
       if (!IsXmlCharacter(bytes[i])) return {i, true};
       ++i;

@@ -41,6 +41,7 @@ class Bytes {
 
   void Store(char* at) const { _mm_storeu_si128(reinterpret_cast<__m128i*>(at), bytes_); }
 
+  Bytes Is(Bytes other) const { return Bytes(_mm_cmpeq_epi8(bytes_, other.bytes_)); }
   Bytes Is(char c) const { return Bytes(_mm_cmpeq_epi8(bytes_, _mm_set1_epi8(c))); }
 
   /// Control characters and all bytes outside ASCII: as signed numbers, those below a blank.
@@ -53,7 +54,17 @@ class Bytes {
     return Bytes(_mm_cmpeq_epi8(_mm_min_epu8(bytes_, _mm_set1_epi8(0x1F)), bytes_));
   }
 
+  /// 'a' to 'z' and 'A' to 'Z'.
+  Bytes IsLetter() const {
+    const __m128i small =
+        _mm_sub_epi8(_mm_or_si128(bytes_, _mm_set1_epi8(0x20)), _mm_set1_epi8('a'));
+    return Bytes(_mm_cmpeq_epi8(_mm_min_epu8(small, _mm_set1_epi8(25)), small));
+  }
+
   Bytes operator|(Bytes other) const { return Bytes(_mm_or_si128(bytes_, other.bytes_)); }
+
+  /// What is set here and not there.
+  Bytes Without(Bytes other) const { return Bytes(_mm_andnot_si128(other.bytes_, bytes_)); }
 
   Mask ToMask() const { return static_cast<Mask>(_mm_movemask_epi8(bytes_)); }
 

@@ -63,21 +63,20 @@ void Input::Close() {
 
 bool Input::More(const char*& at) {
   if (reason_ != S_OK) return false;
-  if (!detected_) {
+  std::size_t kept = 0;
+  if (detected_) {
+    kept = limit_ - static_cast<std::size_t>(at - window_.data());
+    if (window_.capacity() > kLargestKept && kept < kBlock) {
+      Buffer<char> smaller;
+      smaller.Append(at, kept);
+      window_ = std::move(smaller);
+    } else {
+      std::memmove(window_.data(), at, kept);
+      window_.Truncate(kept);
+    }
+  } else {
     DetectEncoding();
     detected_ = true;
-    std::memset(window_.Room(kPadding), 0, kPadding);
-    at = window_.data();
-  }
-
-  const auto given_up = static_cast<std::size_t>(at - window_.data());
-  const std::size_t kept = limit_ - given_up;
-  if (window_.capacity() > kLargestKept && kept < kBlock) {
-    Buffer<char> smaller;
-    smaller.Append(at, kept);
-    window_ = std::move(smaller);
-  } else {
-    std::memmove(window_.data(), at, kept);
   }
   limit_ = kept;
 
@@ -115,7 +114,8 @@ HRESULT Input::CheckDeclaredEncoding(std::string_view name) const {
 bool Input::ReadRaw(Buffer<char>& into, std::size_t count) {
   if (stream_result_ != S_OK) return false;
   ULONG got = 0;
-  const HRESULT result = stream_->Read(into.Room(count), static_cast<ULONG>(count), &got);
+  char* const room = into.Room(count + kPadding);
+  const HRESULT result = stream_->Read(room, static_cast<ULONG>(count), &got);
   if (FAILED(result)) {
     stream_result_ = result;
     return false;
@@ -125,11 +125,12 @@ bool Input::ReadRaw(Buffer<char>& into, std::size_t count) {
   return got != 0;
 }
 
-/// Reads as far as it takes to know the encoding, and drops a byte-order mark.
+/// Reads as far as it takes to know the encoding, and drops a byte-order mark. What has been read
+/// is left where the first block is looked for.
 void Input::DetectEncoding() {
-  while (raw_.size() < 4 && ReadRaw(raw_, kBlock)) {
+  while (window_.size() < 4 && ReadRaw(window_, kBlock)) {
   }
-  const std::string_view head(raw_.data(), raw_.size());
+  const std::string_view head(window_.data(), window_.size());
   std::size_t bom = 0;
   if (head.starts_with("\xEF\xBB\xBF")) {
     bom = 3;
@@ -148,16 +149,21 @@ void Input::DetectEncoding() {
   } else {
     encoding_ = SniffDeclaration();
   }
-  const std::size_t rest = raw_.size() - bom;
-  if (rest != 0) std::memmove(raw_.data(), raw_.data() + bom, rest);
-  raw_.Truncate(rest);
+  if (encoding_ != Encoding::kUtf8) {
+    raw_.Append(window_.data() + bom, window_.size() - bom);
+    window_.Truncate(0);
+  } else if (bom != 0) {
+    const std::size_t rest = window_.size() - bom;
+    std::memmove(window_.data(), window_.data() + bom, rest);
+    window_.Truncate(rest);
+  }
 }
 
 /// Of the encodings that start like ASCII, the one that the XML declaration asks for.
 Input::Encoding Input::SniffDeclaration() {
   constexpr std::string_view kDeclaration = "<?xml";
-  const auto head = [this] { return std::string_view(raw_.data(), raw_.size()); };
-  while (raw_.size() <= kDeclaration.size() && ReadRaw(raw_, kBlock)) {
+  const auto head = [this] { return std::string_view(window_.data(), window_.size()); };
+  while (window_.size() <= kDeclaration.size() && ReadRaw(window_, kBlock)) {
   }
   const bool is_declared = head().size() > kDeclaration.size() &&
                            head().starts_with(kDeclaration) &&
@@ -167,8 +173,8 @@ Input::Encoding Input::SniffDeclaration() {
   std::size_t end = std::string_view::npos;
   do {
     end = head().find('>', searched);
-    searched = raw_.size();
-  } while (end == std::string_view::npos && ReadRaw(raw_, kBlock));
+    searched = window_.size();
+  } while (end == std::string_view::npos && ReadRaw(window_, kBlock));
   const std::string_view name = FindDeclaredEncoding(head().substr(0, end));
   if (IsAnyOf(name, {"ISO-8859-1"})) return Encoding::kLatin1;
   if (IsAnyOf(name, {"US-ASCII"})) return Encoding::kAscii;
@@ -184,19 +190,23 @@ void Input::AddBlock() {
   std::memset(window_.data() + limit_, 0, kPadding);
 }
 
-/// Reads straight into the window. `raw_` holds what has been read ahead: the start of the
-/// document, later the bytes of a character that the last block cut in two.
+/// Reads straight into the window, which holds more than it shows when a document has just been
+/// started. `raw_` holds the bytes of a character that the last block cut in two.
 void Input::AddUtf8Block() {
-  window_.Truncate(limit_);
-  window_.Room(raw_.size() + kBlock + kPadding);
-  window_.Append(raw_.data(), raw_.size());
-  raw_.Clear();
-  ReadRaw(window_, kBlock);
-  Admit(window_.size() - limit_);
-  raw_.Append(window_.data() + limit_, reason_ == S_OK ? window_.size() - limit_ : 0);
-  if (reason_ == S_OK && stream_result_ != S_OK) {
-    reason_ = raw_.size() != 0 && stream_result_ == S_FALSE ? WC_E_XMLCHARACTER : stream_result_;
+  if (window_.size() == limit_) {
+    window_.Append(raw_.data(), raw_.size());
+    raw_.Clear();
+    ReadRaw(window_, kBlock);
   }
+  window_.Room(kPadding);
+  Admit(window_.size() - limit_);
+  if (reason_ == S_OK) {
+    raw_.Append(window_.data() + limit_, window_.size() - limit_);
+    if (stream_result_ != S_OK) {
+      reason_ = raw_.size() != 0 && stream_result_ == S_FALSE ? WC_E_XMLCHARACTER : stream_result_;
+    }
+  }
+  window_.Truncate(limit_);
 }
 
 /// Takes the next bytes of `raw_` into the window, as UTF-8.

@@ -164,8 +164,7 @@ HRESULT Namespaces::Resolve(std::string_view prefix, ScopedStrings::Id& uri) con
   return S_OK;
 }
 
-void Namespaces::Leave(std::size_t count) {
-  if (count >= bindings_.size()) return;
+void Namespaces::LetGo(std::size_t count) {
   uris_.Truncate(bindings_.data()[count].uris_before);
   bindings_.Truncate(count);
   prefixes_.Truncate(count);

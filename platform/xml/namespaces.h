@@ -76,10 +76,12 @@ class Namespaces {
   HRESULT Enter(const Name& element, std::span<const Attribute> attributes);
 
   /// How many declarations are in force.
-  std::size_t size() const { return prefixes_.size(); }
+  std::size_t size() const { return bindings_.size(); }
 
   /// Lets all but the `count` oldest go.
-  void Leave(std::size_t count);
+  void Leave(std::size_t count) {
+    if (count < bindings_.size()) LetGo(count);
+  }
 
  private:
   struct Binding {
@@ -91,6 +93,7 @@ class Namespaces {
     std::string_view local;
   };
 
+  void LetGo(std::size_t count);
   HRESULT Declare(const Attribute& attribute);
   HRESULT Resolve(std::string_view prefix, ScopedStrings::Id& uri) const;
 

@@ -1,7 +1,6 @@
 #include "platform/xml/parser.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "platform/xml/characters.h"
 
@@ -27,24 +26,44 @@ HRESULT Match(const char* at, std::string_view text) {
   return S_OK;
 }
 
-/// Reads a name that may have a prefix, up to a character that cannot belong to it.
-HRESULT ReadQName(const char*& at, Name& name) {
-  const char* const start = at;
-  at = SkipName(at);
-  if (*at == '\0') return kMoreInput;
-  if (at == start) return NC_E_QNAMECHARACTER;
-  name.prefix = 0;
-  if (*at == ':') {
-    name.prefix = static_cast<std::size_t>(at - start);
-    const char* const local = ++at;
-    at = SkipName(at);
-    if (*at == '\0') return kMoreInput;
-    if (at == local) return NC_E_QNAMECHARACTER;
-    if (*at == ':') return NC_E_QNAMECOLON;
-  }
-  name.text = Slice(start, at);
+/// Reads what follows the prefix of a name, from the colon on.
+HRESULT ReadLocalPart(const char* colon, Name& name) {
+  const char* const end = SkipName(colon + 1);
+  if (*end == '\0') return kMoreInput;
+  if (end == colon + 1) return NC_E_QNAMECHARACTER;
+  if (*end == ':') return NC_E_QNAMECOLON;
+  name.prefix = name.text.size();
+  name.text = Slice(name.text.data(), end);
   return S_OK;
 }
+
+/// Reads a name that may have a prefix, up to a character that cannot belong to it.
+inline HRESULT ReadQName(const char* at, Name& name) {
+  const char* const end = SkipName(at);
+  name.text = Slice(at, end);
+  name.prefix = 0;
+  if (*end == ':' && end != at) return ReadLocalPart(end, name);
+  if (*end == '\0') return kMoreInput;
+  return end == at ? NC_E_QNAMECHARACTER : S_OK;
+}
+
+/// Whether `text` stands at `at`, in the window. Behind the text, too, a vector's width is
+/// readable.
+bool StandsAt(const char* at, std::string_view text) {
+#if TOLVA_HAS_VECTORS
+  for (std::size_t i = 0; i < text.size(); i += Bytes::kCount) {
+    const Mask equal = Bytes::Load(at + i).Is(Bytes::Load(text.data() + i)).ToMask();
+    const Mask others = ~equal & kAll;
+    // Names hold no zero, so a difference is found before the padding of the window ends.
+    if (others != 0) return FirstOf(others) + i >= text.size();
+  }
+  return true;
+#else
+  return std::equal(text.begin(), text.end(), at, [](char x, char y) { return x == y; });
+#endif
+}
+
+const char* EndOf(std::string_view text) { return text.data() + text.size(); }
 
 bool IsSpace(char c) { return IsClass(c, kSpace); }
 
@@ -67,14 +86,35 @@ void Parser::SetInput(ISequentialStream* stream, bool converted) {
   namespaces_.Leave(0);
 }
 
+/// Parses what stands at `at_`; kMoreInput when it goes on behind the window.
+inline HRESULT Parser::ParseNode() {
+  if (*at_ == '<') return ParseMarkup(at_ + 1);
+  if (*at_ == '\0') return kMoreInput;
+  return IsOutsideRoot() ? ParseOutsideRoot() : ParseText();
+}
+
 HRESULT Parser::Read() {
   if (result_ != S_OK) return result_;
   Forget();
   // Should memory run out, what has been changed by then is not known: the document is given up.
   result_ = E_OUTOFMEMORY;
-  result_ = ReadNode();
-  if (result_ != S_OK) Forget();
-  return result_;
+  HRESULT result = ParseNode();
+  while (result == kMoreInput) {
+    // Whatever stands there is parsed again from its start: `Input::More` sees to it that this is
+    // not done too often. It moves the window, so nothing may point there any more.
+    Forget();
+    if (!input_.More(at_)) {
+      if (at_limit_) {
+        result = FaultAtLimit();
+        break;
+      }
+      at_limit_ = true;
+    }
+    result = ParseNode();
+  }
+  result_ = result;
+  if (result != S_OK) Forget();
+  return result;
 }
 
 void Parser::Forget() {
@@ -82,22 +122,10 @@ void Parser::Forget() {
   name_ = {};
   value_ = {};
   is_empty_element_ = false;
-  attributes_.Clear();
   attribute_initials_ = 0;
+  if (attributes_.size() == 0) return;
+  attributes_.Clear();
   if (sorted_names_.capacity() > kAttributesKept) sorted_names_ = std::vector<std::string_view>();
-}
-
-HRESULT Parser::ReadNode() {
-  for (;;) {
-    const HRESULT result = ParseNode();
-    if (result != kMoreInput) return result;
-    // Whatever stands there is parsed again from its start: `Input::More` sees to it that this is
-    // not done too often. It moves the window, so nothing may point there any more.
-    Forget();
-    if (input_.More(at_)) continue;
-    if (at_limit_) return FaultAtLimit();
-    at_limit_ = true;
-  }
 }
 
 /// The document breaks off within something, or ends.
@@ -112,51 +140,42 @@ HRESULT Parser::FaultAtLimit() const {
   return has_root_ ? S_FALSE : WC_E_ROOTELEMENT;
 }
 
-HRESULT Parser::ParseNode() {
-  if (*at_ == '<') return ParseMarkup(at_ + 1);
-  if (*at_ == '\0') return kMoreInput;
-  return IsOutsideRoot() ? ParseOutsideRoot(at_) : ParseText(at_);
-}
-
-HRESULT Parser::Deliver(XmlNodeType type, const char* end) {
+inline HRESULT Parser::Deliver(XmlNodeType type, const char* end) {
   type_ = type;
   started_ = true;
   at_ = end;
   return S_OK;
 }
 
-HRESULT Parser::ParseOutsideRoot(const char* at) {
-  const char* const end = SkipSpace(at);
-  if (end == at) return WC_E_SYNTAX;
+HRESULT Parser::ParseOutsideRoot() {
+  const char* const end = SkipSpace(at_);
+  if (end == at_) return WC_E_SYNTAX;
   if (*end == '\0' && !at_limit_) return kMoreInput;
-  value_ = Slice(at, end);
+  value_ = Slice(at_, end);
   value_is_plain_ = false;  // there may be a CR, which nobody minds to find out here
   return Deliver(XmlNodeType_Whitespace, end);
 }
 
-HRESULT Parser::ParseText(const char* at) {
-  const char* const start = at;
-  at = SkipSpace(at);
-  if (*at == '<') {
-    value_ = Slice(start, at);
-    value_is_plain_ = false;
-    return Deliver(XmlNodeType_Whitespace, at);
-  }
+/// Within the root: white space up to markup is a node of its own, any other text is one with the
+/// white space before it.
+HRESULT Parser::ParseText() {
+  const char* const end = SkipSpace(at_);
+  if (*end != '<') return ParseCharacters(end);
+  value_ = Slice(at_, end);
+  value_is_plain_ = false;
+  return Deliver(XmlNodeType_Whitespace, end);
+}
 
-  if (*at == '\0') {
-    // What stands before the end of the stream is delivered; what stands before an illegal
-    // character is part of the node at fault.
-    if (!at_limit_ || input_.reason() == WC_E_XMLCHARACTER) return kMoreInput;
-    value_ = Slice(start, at);
-    value_is_plain_ = false;
-    return Deliver(XmlNodeType_Whitespace, at);
-  }
-
+/// A text of more than white space, which goes up to `at`.
+HRESULT Parser::ParseCharacters(const char* at) {
+  const bool is_blank = *at == '\0';
   bool plain = true;
-  for (at = start;;) {
+  for (at = at_;;) {
     at = Find<'<', '&', ']', '\r'>(at);
     if (*at == '<') break;
     if (*at == '\0') {
+      // What stands before the end of the stream is delivered; what stands before an illegal
+      // character is part of the node at fault.
       if (!at_limit_ || input_.reason() == WC_E_XMLCHARACTER) return kMoreInput;
       break;
     }
@@ -171,9 +190,9 @@ HRESULT Parser::ParseText(const char* at) {
     plain = plain && *at != '\r';
     ++at;
   }
-  value_ = Slice(start, at);
+  value_ = Slice(at_, at);
   value_is_plain_ = plain;
-  return Deliver(XmlNodeType_Text, at);
+  return Deliver(is_blank ? XmlNodeType_Whitespace : XmlNodeType_Text, at);
 }
 
 /// `at` stands behind a '<', as in the functions below.
@@ -216,9 +235,14 @@ HRESULT Parser::ParseStartTag(const char* at) {
 
   HRESULT result = ReadQName(at, name_);
   if (result != S_OK) return result;
-  has_namespaces_ = name_.prefix != 0;
-  result = ParseAttributes(at);
-  if (result != S_OK) return result;
+  at = EndOf(name_.text);
+  TagTraits traits;
+  traits.has_namespaces = name_.prefix != 0;
+  if (*at != '>') {
+    result = ParseAttributes(at, at, traits);
+    if (result != S_OK) return result;
+  }
+  attribute_initials_ = traits.initials;
 
   is_empty_element_ = *at == '/';
   if (is_empty_element_) {
@@ -228,63 +252,81 @@ HRESULT Parser::ParseStartTag(const char* at) {
   }
   ++at;
 
-  if (may_have_twins_) {
+  if (traits.may_have_twins) {
     result = CheckUniqueNames();
     if (result != S_OK) return result;
   }
   const std::size_t declarations = namespaces_.size();
-  if (has_namespaces_) {
+  if (traits.has_namespaces) {
     result = namespaces_.Enter(name_, attributes());
     if (result != S_OK) return result;
     if (is_empty_element_) namespaces_.Leave(declarations);
   }
   if (!is_empty_element_) {
     open_elements_.Append(OpenElement{open_names_.size(), name_.prefix, declarations});
-    open_names_.Append(name_.text.data(), name_.text.size());
+    PushName(name_.text);
   }
   has_root_ = true;
   return Deliver(XmlNodeType_Element, at);
 }
 
-/// Leaves `at` on the '>' or '/' that ends the tag.
-HRESULT Parser::ParseAttributes(const char*& at) {
-  attributes_.Clear();
-  attribute_initials_ = 0;
-  may_have_twins_ = false;
-  twin_names_.Clear();
+/// Leaves a vector's width behind the names.
+void Parser::PushName(std::string_view name) {
+#if TOLVA_HAS_VECTORS
+  char* const room = open_names_.Room(name.size() + Bytes::kCount);
+  for (std::size_t i = 0; i < name.size(); i += Bytes::kCount) {
+    Bytes::Load(name.data() + i).Store(room + i);
+  }
+  open_names_.Commit(name.size());
+#else
+  open_names_.Append(name.data(), name.size());
+#endif
+}
+
+/// Sets `end` to the '>' or '/' that ends the tag.
+HRESULT Parser::ParseAttributes(const char* at, const char*& end, TagTraits& traits) {
+  TwinNames names;
   for (;;) {
-    if (*at == '>' || *at == '/') return S_OK;
+    end = at;
     if (!IsSpace(*at)) {
+      if (*at == '>' || *at == '/') return S_OK;
       if (*at == '\0') return kMoreInput;
       return attributes_.size() == 0 ? NC_E_QNAMECHARACTER : WC_E_WHITESPACE;
     }
     at = SkipSpace(at + 1);
-    if (*at == '>' || *at == '/') return S_OK;
-    const HRESULT result = ParseAttribute(at);
+
+    Attribute& attribute = *attributes_.Room(1);
+    HRESULT result = ReadQName(at, attribute.name);
+    if (result != S_OK) {
+      end = at;
+      return *at == '>' || *at == '/' ? S_OK : result;
+    }
+    at = EndOf(attribute.name.text);
+    const std::string_view name = attribute.name.text;
+    const bool may_declare = name.front() == 'x' && name == "xmlns";
+    if (attribute.name.prefix != 0 || may_declare) traits.has_namespaces = true;
+    if (names.MayHaveTwin(name)) traits.may_have_twins = true;
+    traits.initials |= InitialOf(name.front());
+
+    if (*at != '=') {
+      at = SkipSpace(at);
+      if (*at != '=') return *at == '\0' ? kMoreInput : WC_E_EQUAL;
+    }
+    ++at;
+    if (*at != '"') at = SkipSpace(at);
+    if (*at == '"') {
+      result = ParseAttributeValue<'"'>(at, attribute);
+    } else if (*at == '\'') {
+      result = ParseAttributeValue<'\''>(at, attribute);
+    } else {
+      result = *at == '\0' ? kMoreInput : WC_E_QUOTE;
+    }
     if (result != S_OK) return result;
+    attributes_.Commit(1);
   }
 }
 
-HRESULT Parser::ParseAttribute(const char*& at) {
-  Attribute& attribute = *attributes_.Room(1);
-  const HRESULT result = ReadQName(at, attribute.name);
-  if (result != S_OK) return result;
-  if (*at != '=') {
-    at = SkipSpace(at);
-    if (*at == '\0') return kMoreInput;
-    if (*at != '=') return WC_E_EQUAL;
-  }
-  ++at;
-  if (*at != '"') at = SkipSpace(at);
-  has_namespaces_ = has_namespaces_ || attribute.name.prefix != 0 || attribute.name.text == "xmlns";
-  may_have_twins_ = twin_names_.MayHaveTwin(attribute.name.text) || may_have_twins_;
-  attribute_initials_ |= InitialOf(static_cast<unsigned char>(attribute.name.text.front()));
-
-  if (*at == '"') return ParseAttributeValue<'"'>(at, attribute);
-  if (*at == '\'') return ParseAttributeValue<'\''>(at, attribute);
-  return *at == '\0' ? kMoreInput : WC_E_QUOTE;
-}
-
+/// `at` stands on the opening quote and is left behind the closing one.
 template <char Quote>
 HRESULT Parser::ParseAttributeValue(const char*& at, Attribute& attribute) {
   const char* const start = ++at;
@@ -305,7 +347,6 @@ HRESULT Parser::ParseAttributeValue(const char*& at, Attribute& attribute) {
   }
   attribute.value = Slice(start, at);
   ++at;
-  attributes_.Commit(1);
   return S_OK;
 }
 
@@ -336,10 +377,8 @@ std::string_view Parser::InnermostName() const {
 /// `at` stands behind "</".
 HRESULT Parser::ParseEndTag(const char* at) {
   const std::string_view expected = InnermostName();
-  const auto available = static_cast<std::size_t>(input_.limit() - at);
-  const bool matches = available > expected.size() &&
-                       std::memcmp(at, expected.data(), expected.size()) == 0 &&
-                       (at[expected.size()] == '>' || IsSpace(at[expected.size()]));
+  const bool matches =
+      StandsAt(at, expected) && (at[expected.size()] == '>' || IsSpace(at[expected.size()]));
   if (!matches) {
     Name other;
     const HRESULT result = ReadQName(at, other);

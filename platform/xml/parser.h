@@ -67,7 +67,8 @@ class Parser {
 
   /// False: no attribute's name begins with this character.
   bool MayHaveAttribute(wchar_t initial) const {
-    return (attribute_initials_ & InitialOf(static_cast<unsigned>(initial))) != 0;
+    const bool is_ascii = static_cast<std::uint32_t>(initial) < 0x80;
+    return !is_ascii || (attribute_initials_ & InitialOf(static_cast<char>(initial))) != 0;
   }
 
   /// The Element was written as an empty tag. It has no EndElement then.
@@ -80,18 +81,25 @@ class Parser {
     std::size_t declarations;  ///< namespace declarations that were in force around it
   };
 
-  HRESULT ReadNode();
+  /// What is found out about a start tag on the way.
+  struct TagTraits {
+    std::uint64_t initials = 0;   ///< InitialOf each attribute's name
+    bool has_namespaces = false;  ///< a colon or a declaration
+    bool may_have_twins = false;  ///< two attributes may have the same name
+  };
+
   void Forget();
   HRESULT ParseNode();
-  HRESULT ParseOutsideRoot(const char* at);
-  HRESULT ParseText(const char* at);
+  HRESULT ParseOutsideRoot();
+  HRESULT ParseText();
+  HRESULT ParseCharacters(const char* at);
   HRESULT ParseMarkup(const char* at);
   HRESULT ParseStartTag(const char* at);
-  HRESULT ParseAttributes(const char*& at);
-  HRESULT ParseAttribute(const char*& at);
+  HRESULT ParseAttributes(const char* at, const char*& end, TagTraits& traits);
   template <char Quote>
-  HRESULT ParseAttributeValue(const char*& at, Attribute& attribute);
+  static HRESULT ParseAttributeValue(const char*& at, Attribute& attribute);
   HRESULT CheckUniqueNames();
+  void PushName(std::string_view name);
   HRESULT ParseEndTag(const char* at);
   HRESULT ParseComment(const char* at);
   HRESULT ParseCData(const char* at);
@@ -101,9 +109,9 @@ class Parser {
 
   HRESULT Deliver(XmlNodeType type, const char* end);
   HRESULT FaultAtLimit() const;
-  /// One bit for what a name begins with; characters beyond ASCII share one.
-  static std::uint64_t InitialOf(unsigned character) {
-    return std::uint64_t{1} << (character < 0x80 ? character % 64 : 0);
+  /// One bit for what a name begins with.
+  static std::uint64_t InitialOf(char c) {
+    return std::uint64_t{1} << (static_cast<unsigned char>(c) % 64);
   }
 
   bool IsOutsideRoot() const { return open_elements_.size() == 0; }
@@ -122,12 +130,7 @@ class Parser {
   bool value_is_plain_ = true;
   bool is_empty_element_ = false;
   Buffer<Attribute> attributes_;
-
-  // Of the start tag being parsed.
-  bool has_namespaces_ = false;           ///< a colon or a declaration
-  std::uint64_t attribute_initials_ = 0;  ///< InitialOf each attribute's name
-  bool may_have_twins_ = false;           ///< two attributes may have the same name
-  TwinNames twin_names_;
+  std::uint64_t attribute_initials_ = 0;  ///< InitialOf each one's name
   std::vector<std::string_view> sorted_names_;
 
   Buffer<char> open_names_;
