@@ -117,9 +117,15 @@ void AppendWide(std::string_view utf8, Buffer<wchar_t>& out) {
   const char* const end = at + utf8.size();
   while (at != end) {
 #if TOLVA_HAS_VECTORS
-    // Sixteen are widened whatever they are; the ASCII characters at the front are kept.
     static_assert(kReadAhead >= Bytes::kCount);
-    const Bytes block = Bytes::Load(at);
+    Bytes block = Bytes::Load(at);
+    for (; end - at > static_cast<std::ptrdiff_t>(Bytes::kCount) && block.IsAscii();
+         block = Bytes::Load(at)) {
+      Widen(block, to);
+      at += Bytes::kCount;
+      to += Bytes::kCount;
+    }
+    // The last ones are widened whatever they are; the ASCII characters at the front are kept.
     Widen(block, to);
     const Mask others = block.ToMask();
     const std::size_t ascii = std::min<std::size_t>(others == 0 ? Bytes::kCount : FirstOf(others),

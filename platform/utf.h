@@ -78,7 +78,8 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept;
 /// How many bytes behind its text AppendWide looks at; they may hold anything.
 inline constexpr std::size_t kReadAhead = 16;
 
-/// Appends well-formed UTF-8, with `kReadAhead` readable bytes behind it, as a wide string.
+/// Appends well-formed UTF-8, with `kReadAhead` readable bytes behind it, as a wide string. Leaves
+/// room for a terminating zero.
 void AppendWide(std::string_view utf8, Buffer<wchar_t>& out);
 
 /// Appends a wide string as UTF-8; what is no code point becomes U+FFFD.

@@ -3,32 +3,40 @@
 #include <string_view>
 
 #include "platform/utf.h"
+#include "platform/xml/characters.h"
 #include "platform/xml/decode.h"
 
 namespace tolva::platform {
 namespace {
 
-bool Equals(const wchar_t* wide, std::string_view utf8) {
+using own_xml::IsAscii;
+
+/// What is not ASCII is compared by code points.
+bool EqualsSlowly(const wchar_t* wide, std::string_view utf8) {
   const char* at = utf8.data();
   const char* const end = at + utf8.size();
-  for (;;) {
-    while (at != end && static_cast<unsigned char>(*at) < 0x80 &&
-           *wide == static_cast<wchar_t>(*at)) {
-      ++wide;
-      ++at;
-    }
-    if (at == end) return *wide == 0;
-    if (static_cast<unsigned char>(*at) < 0x80 || *wide == 0) return false;
+  while (at != end) {
     // Behind a unit that is not zero there is another.
-    if (TakeCodePoint(wide, wide + 2) != TakeCodePoint(at)) return false;
+    if (*wide == 0 || TakeCodePoint(wide, wide + 2) != TakeCodePoint(at)) return false;
   }
+  return *wide == 0;
+}
+
+bool Equals(const wchar_t* wide, std::string_view utf8) {
+  for (std::size_t i = 0; i < utf8.size(); ++i) {
+    const char c = utf8[i];
+    if (!IsAscii(c)) return EqualsSlowly(wide, utf8);
+    if (wide[i] != static_cast<wchar_t>(c)) return false;
+  }
+  return wide[utf8.size()] == 0;
 }
 
 /// Fills an empty buffer; whoever runs out of memory leaves it empty. What the parser hands out has
 /// the padding of its window behind it.
 void Fill(std::string_view utf8, Buffer<wchar_t>& text) {
-  AppendWide(utf8, text);  // with room for the zero
-  text.Append(L'\0');
+  AppendWide(utf8, text);
+  text.data()[text.size()] = 0;  // it leaves room for that
+  text.Commit(1);
 }
 
 void Return(const Buffer<wchar_t>& terminated, const wchar_t** text, UINT* length) {
@@ -44,7 +52,8 @@ own_xml::ValueKind KindOf(XmlNodeType type) {
 
 HRESULT XmlReader::SetInput(ISequentialStream* input, bool converted) {
   parser_.SetInput(input, converted);
-  MoveTo(kNoAttribute);
+  attribute_ = kNoAttribute;
+  ForgetStrings();
   return S_OK;
 }
 
@@ -53,16 +62,14 @@ HRESULT XmlReader::SetProperty(UINT property, LONG_PTR value) {
   return known ? S_OK : E_NOTIMPL;
 }
 
-HRESULT XmlReader::Read(XmlNodeType* type) {
-  MoveTo(kNoAttribute);
-  next_attribute_ = 0;
-  const HRESULT result = parser_.Read();
-  *type = parser_.type();
-  return result;
-}
-
 void XmlReader::MoveTo(std::size_t attribute) {
   attribute_ = attribute;
+  name_.Truncate(0);
+  value_.Truncate(0);
+}
+
+/// Memory that a long string has needed is given back behind its node.
+void XmlReader::ForgetStrings() {
   name_.Clear();
   value_.Clear();
   decoded_.Clear();
@@ -80,23 +87,25 @@ HRESULT XmlReader::GetLocalName(const wchar_t** name, UINT* length) {
 
 HRESULT XmlReader::GetValue(const wchar_t** value, UINT* length) {
   if (value_.size() == 0) {
-    const bool on_node = attribute_ == kNoAttribute;
-    const own_xml::Attribute current =
-        on_node ? own_xml::Attribute{{}, parser_.value(), parser_.value_is_plain()}
-                : parser_.attributes()[attribute_];
-    if (current.plain) {
-      Fill(current.value, value_);
+    if (attribute_ == kNoAttribute) {
+      FillValue(parser_.value(), parser_.value_is_plain(), KindOf(parser_.type()));
     } else {
-      decoded_.Clear();
-      own_xml::AppendValue(current.value,
-                           on_node ? KindOf(parser_.type()) : own_xml::ValueKind::kAttribute,
-                           decoded_);
-      decoded_.Room(kReadAhead);
-      Fill({decoded_.data(), decoded_.size()}, value_);
+      const own_xml::Attribute& attribute = parser_.attributes()[attribute_];
+      FillValue(attribute.value, attribute.plain, own_xml::ValueKind::kAttribute);
     }
   }
   Return(value_, value, length);
   return S_OK;
+}
+
+void XmlReader::FillValue(std::string_view raw, bool is_plain, own_xml::ValueKind kind) {
+  if (!is_plain) {
+    decoded_.Truncate(0);
+    own_xml::AppendValue(raw, kind, decoded_);
+    decoded_.Room(kReadAhead);
+    raw = {decoded_.data(), decoded_.size()};
+  }
+  Fill(raw, value_);
 }
 
 BOOL XmlReader::IsEmptyElement() const {

@@ -27,7 +27,14 @@ class XmlReader final : public RefCounted<> {
   HRESULT SetProperty(UINT property, LONG_PTR value);
 
   /// S_OK, S_FALSE behind the last node (`*type` None), or a failure that stays.
-  HRESULT Read(XmlNodeType* type);
+  HRESULT Read(XmlNodeType* type) {
+    if (name_.size() + value_.size() != 0) ForgetStrings();
+    attribute_ = kNoAttribute;
+    next_attribute_ = 0;
+    const HRESULT result = parser_.Read();
+    *type = parser_.type();
+    return result;
+  }
 
   HRESULT GetLocalName(const wchar_t** name, UINT* length);
   HRESULT GetValue(const wchar_t** value, UINT* length);
@@ -47,6 +54,8 @@ class XmlReader final : public RefCounted<> {
   static constexpr std::size_t kNoAttribute = static_cast<std::size_t>(-1);
 
   void MoveTo(std::size_t attribute);
+  void ForgetStrings();
+  void FillValue(std::string_view raw, bool is_plain, own_xml::ValueKind kind);
 
   own_xml::Parser parser_;
   std::size_t attribute_ = kNoAttribute;  ///< the cursor stands on it

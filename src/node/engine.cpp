@@ -270,15 +270,18 @@ const Child* FindChild(const Schema& schema, const wchar_t* name, const Child* l
   return nullptr;
 }
 
-ConfigResult ReadChild(const Child& row, INode& node, IXMLLiteManager* manager) {
+ConfigResult ReadClear(const Schema& schema, INode& node, CXMLLiteManagerReader& reader);
+
+ConfigResult ReadChild(const Child& row, INode& node, CXMLLiteManagerReader& reader) {
   const ChildRef child = row.locate(node);
   if (row.occurrence == Occurrence::kRepeated) {
-    if (child.items->Append().ReadFromXMLMgr(manager, 0) == kSuccess) return kSuccess;
+    // Every class of items reads by its table, and its row has the table's name.
+    if (ReadClear(*row.schema, child.items->Append(), reader) == kSuccess) return kSuccess;
     node.Clear();
     ReportOr(row.read_fault, kReadItem, row.name);
     return kFailed;
   }
-  if (child.element->ReadFromXMLMgr(manager, 0) != kSuccess) {
+  if (child.element->ReadFromXMLMgr(&reader, 0) != kSuccess) {
     ReportOr(row.read_fault, kReadChild, row.name);
     return kFailed;
   }
@@ -311,8 +314,7 @@ ConfigResult CheckRequiredChildren(const Schema& schema, std::uint32_t found) {
   return kSuccess;
 }
 
-ConfigResult ReadChildren(const Schema& schema, INode& node, IXMLLiteManager* manager,
-                          CXMLLiteManagerReader& reader) {
+ConfigResult ReadChildren(const Schema& schema, INode& node, CXMLLiteManagerReader& reader) {
   if (schema.children.empty()) return kSuccess;
   assert(schema.children.size() <= 32);
   std::uint32_t found = 0;
@@ -325,7 +327,7 @@ ConfigResult ReadChildren(const Schema& schema, INode& node, IXMLLiteManager* ma
       type = reader.SkipElement();
       continue;
     }
-    const ConfigResult result = ReadChild(*row, node, manager);
+    const ConfigResult result = ReadChild(*row, node, reader);
     if (result != kSuccess) return result;
     found |= std::uint32_t{1} << (row - schema.children.data());
     last = row;
@@ -373,6 +375,18 @@ void Finish(const Schema& schema, CXMLLiteManagerReader& reader) {
   } while (type != XmlNodeType_EndElement && type != XmlNodeType_None);
 }
 
+/// Reads the reader's element, which is one of the table's, into a node that holds nothing yet.
+ConfigResult ReadClear(const Schema& schema, INode& node, CXMLLiteManagerReader& reader) {
+  ClearOnFailure cleaner(node);
+  ConfigResult result = ReadAttributes(schema, node, reader);
+  if (result == kSuccess) result = ReadContent(schema, node, reader);
+  if (result == kSuccess) result = ReadChildren(schema, node, reader);
+  if (result != kSuccess) return result;
+  Finish(schema, reader);
+  cleaner.Succeed();
+  return kSuccess;
+}
+
 }  // namespace
 
 ConfigResult WriteNode(const Schema& schema, const IElement& node, IXMLLiteManager* manager) {
@@ -416,19 +430,10 @@ ConfigResult ReadNode(const Schema& schema, INode& node, IXMLLiteManager* manage
   }
   CXMLLiteManagerReader* const reader = xml::AsReader(manager);
   if (reader == nullptr) return kFailed;
-
   node.Clear();
   const wchar_t* const name = reader->GetLocalName();
   if (name == nullptr || !AreEqual(name, schema.element)) return kInvalidArgument;
-
-  ClearOnFailure cleaner(node);
-  ConfigResult result = ReadAttributes(schema, node, *reader);
-  if (result == kSuccess) result = ReadContent(schema, node, *reader);
-  if (result == kSuccess) result = ReadChildren(schema, node, manager, *reader);
-  if (result != kSuccess) return result;
-  Finish(schema, *reader);
-  cleaner.Succeed();
-  return kSuccess;
+  return ReadClear(schema, node, *reader);
 }
 
 void ClearNode(const Schema& schema, IElement& node) {

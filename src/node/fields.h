@@ -92,8 +92,8 @@ class ItemList {
   virtual std::size_t Size() const = 0;
   virtual const IElement& Item(std::size_t index) const = 0;
 
-  /// Adds an item with default values.
-  virtual IElement& Append() = 0;
+  /// Adds an item with default values, which are those that Clear gives it.
+  virtual INode& Append() = 0;
   virtual void RemoveAll() = 0;
 
  protected:
@@ -143,7 +143,7 @@ class ChildList final : public ItemList {
 
   std::size_t Size() const override { return items_.size(); }
   const IElement& Item(std::size_t index) const override { return *items_[index]; }
-  IElement& Append() override { return *items_.emplace_back(std::make_unique<C>()); }
+  INode& Append() override { return *items_.emplace_back(std::make_unique<C>()); }
   void RemoveAll() override { items_.clear(); }
 
  private:

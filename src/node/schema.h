@@ -25,6 +25,9 @@
 
 namespace tolva::node {
 
+template <class C, class I>
+class Node;
+
 /// What the elements of one document have in common.
 struct Dialect {
   Numbers numbers;
@@ -280,6 +283,9 @@ struct ChildTraits<OptionalChild<C>> {
 
 template <class C, class I>
 struct ChildTraits<ChildList<C, I>> {
+  static_assert(std::same_as<decltype(&C::ReadFromXMLMgr),
+                             decltype(&Node<C, typename C::Interface>::ReadFromXMLMgr)>,
+                "items are read by their tables");
   using Element = C;
   static constexpr Occurrence kOccurrence = Occurrence::kRepeated;
   static ChildRef Locate(ChildList<C, I>& items) { return {nullptr, nullptr, &items}; }

@@ -421,15 +421,16 @@ TEST(Engine, KeepsLists) {
 }
 
 /// Notes the positions at which it is written.
-class CNote final : public node::IElement {
+class CNote final : public node::INode {
  public:
-  using Interface = node::IElement;
+  using Interface = node::INode;
   ConfigResult WriteToXMLMgr(IXMLLiteManager* /*manager*/, int reserved,
                              int position) const override {
     positions.push_back(reserved * 100 + position);
     return 0;
   }
   ConfigResult ReadFromXMLMgr(IXMLLiteManager* /*manager*/, int /*reserved*/) override { return 0; }
+  void Clear() override {}
 
   inline static std::vector<int> positions;
 };
