@@ -109,6 +109,29 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
   return {i, false};
 }
 
+const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept {
+  constexpr std::ptrdiff_t kCount = 16;
+  while (at != end) {
+#if TOLVA_HAS_VECTORS
+    static_assert(kCount == Bytes::kCount);
+    if (end - at >= kCount && Bytes::LoadNarrowed(at).IsBelowBlankOrNonAscii().ToMask() == 0) {
+      at += kCount;
+      continue;
+    }
+#endif
+    const wchar_t* const stretch = at + std::min(kCount, end - at);
+    while (at < stretch) {
+      if (static_cast<char32_t>(*at) - U' ' < 0xD800 - U' ') {  // almost always
+        ++at;
+        continue;
+      }
+      const wchar_t* const character = at;
+      if (!IsXmlCharacter(TakeCodePoint(at, end))) return character;
+    }
+  }
+  return end;
+}
+
 void AppendWide(std::string_view utf8, Buffer<wchar_t>& out) {
   // No character takes more units than it has bytes.
   wchar_t* const start = out.Room(utf8.size() + kReadAhead);

@@ -75,6 +75,9 @@ struct Utf8Prefix {
 /// Looks at `size` bytes; behind what it accepts there may be an unfinished character.
 Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept;
 
+/// The first character that XML does not allow, a lone surrogate for one; `end` when there is none.
+const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept;
+
 /// How many bytes behind its text AppendWide looks at; they may hold anything.
 inline constexpr std::size_t kReadAhead = 16;
 

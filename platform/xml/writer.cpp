@@ -55,8 +55,29 @@ std::string_view EscapeOf(wchar_t c) {
   }
 }
 
+/// Appends what can be taken as it is from the front of a text, up to a character that is not ASCII
+/// or not `plain`, as zero never is; returns where it has stopped. Mostly that is the end: names
+/// and values are short. Of longer ones no more is taken.
+template <class IsPlain>
+const wchar_t* AppendFront(const wchar_t* text, Buffer<char>& out, IsPlain is_plain) {
+  constexpr std::size_t kShort = 24;
+  char* const to = out.Room(kShort);
+  std::size_t i = 0;
+  for (; i < kShort; ++i) {
+    const auto c = static_cast<char32_t>(text[i]);
+    if (c >= 0x80 || !is_plain(static_cast<char>(c))) break;
+    to[i] = static_cast<char>(c);
+  }
+  out.Commit(i);
+  return text + i;
+}
+
 /// Appends a value, escaped for its place.
 HRESULT AppendEscaped(const wchar_t* text, Escaped place, Buffer<char>& out) {
+  text = AppendFront(text, out, [place](char c) {
+    return (kEscapes[static_cast<unsigned char>(c)] & place) == 0;
+  });
+  if (*text == 0) return S_OK;
   // Room for a stretch of characters is made at once; no character takes more than six bytes.
   constexpr std::ptrdiff_t kStretch = 1024;
   const wchar_t* const end = text + std::wcslen(text);
@@ -117,8 +138,7 @@ XmlWriter::Change::Change(XmlWriter& writer)
       names_size_(writer.open_names_.size()),
       depth_(writer.open_elements_.size()),
       state_(writer.state_),
-      at_line_start_(writer.at_line_start_),
-      has_text_(depth_ != 0 && writer.Innermost().has_text) {}
+      at_line_start_(writer.at_line_start_) {}
 
 XmlWriter::Change::~Change() {
   if (kept_) return;
@@ -128,7 +148,6 @@ XmlWriter::Change::~Change() {
   // A call out of place has closed the document.
   if (writer_.state_ != State::kClosed) writer_.state_ = state_;
   writer_.at_line_start_ = at_line_start_;
-  if (depth_ != 0) writer_.Innermost().has_text = has_text_;
 }
 
 // ---- documents ---------------------------------------------------------------------------------
@@ -300,16 +319,17 @@ HRESULT XmlWriter::WriteString(const wchar_t* text) {
 
 HRESULT XmlWriter::WriteWhitespace(const wchar_t* text) {
   if (text == nullptr) return S_OK;
-  const std::wstring_view blanks(text);
-  if (!std::all_of(blanks.begin(), blanks.end(), IsBlank)) return WR_E_NONWHITESPACE;
+  const wchar_t* end = text;
+  while (IsBlank(*end)) ++end;
+  if (*end != 0) return WR_E_NONWHITESPACE;
   const HRESULT ready = Begin();
   if (FAILED(ready)) return ready;
-  Change change(*this);
+  out_.Room(static_cast<std::size_t>(end - text) + 1);
   FinishStartTag();
-  for (const wchar_t c : blanks) out_.Append(static_cast<char>(c));
+  for (const wchar_t* at = text; at != end; ++at) out_.Append(static_cast<char>(*at));
   if (state_ == State::kNothing) state_ = State::kProlog;
-  if (!blanks.empty()) at_line_start_ = blanks.back() == '\n';
-  return change.Keep();
+  if (end != text) at_line_start_ = end[-1] == '\n';
+  return S_OK;
 }
 
 HRESULT XmlWriter::WriteEndElement() {
@@ -364,21 +384,21 @@ HRESULT XmlWriter::WriteElementString(const wchar_t* prefix, const wchar_t* name
 // ---- pieces ------------------------------------------------------------------------------------
 
 HRESULT XmlWriter::PutName(const wchar_t* name) {
-  const std::size_t size = std::wcslen(name);
-  const wchar_t* const end = name + size;
-  char* const room = out_.Room(4 * size);
+  const std::size_t start = out_.size();
+  const wchar_t* at =
+      AppendFront(name, out_, [](char c) { return own_xml::IsClass(c, own_xml::kName); });
+  if (at != name && !own_xml::IsClass(out_.data()[start], own_xml::kNameStart)) {
+    return WC_E_NAMECHARACTER;
+  }
+  if (*at == 0) return S_OK;
+
+  const wchar_t* const end = at + std::wcslen(at);
+  char* const room = out_.Room(4 * static_cast<std::size_t>(end - at));
   char* to = room;
-  auto wanted = own_xml::kNameStart;
-  for (const wchar_t* at = name; at != end; wanted = own_xml::kName) {
-    if (static_cast<char32_t>(*at) < 0x80) {
-      const auto c = static_cast<char>(*at++);
-      if (!own_xml::IsClass(c, wanted)) return WC_E_NAMECHARACTER;
-      *to++ = c;
-      continue;
-    }
+  while (at != end) {
+    const bool is_first = at == name;
     const char32_t c = TakeCodePoint(at, end);
-    const bool legal = wanted == own_xml::kNameStart ? own_xml::IsNameStartCharacter(c)
-                                                     : own_xml::IsNameCharacter(c);
+    const bool legal = is_first ? own_xml::IsNameStartCharacter(c) : own_xml::IsNameCharacter(c);
     if (!legal) return WC_E_NAMECHARACTER;
     to = EncodeUtf8(c, to);
   }
@@ -391,13 +411,15 @@ HRESULT XmlWriter::PutAttributeValue(const wchar_t* value) {
 }
 
 HRESULT XmlWriter::PutText(const wchar_t* text) {
+  const wchar_t* at = text;
+  while (IsBlank(*at)) ++at;
+  const bool is_blank = at != text && *at == 0;
+  if (is_blank) Put(EscapeOf(*text++));
+  const HRESULT result = AppendEscaped(text, kInText, out_);
+  if (FAILED(result)) return result;
   Innermost().has_text = true;
   at_line_start_ = false;
-  const std::wstring_view all(text);
-  if (!all.empty() && std::all_of(all.begin(), all.end(), IsBlank)) {
-    Put(EscapeOf(*text++));
-  }
-  return AppendEscaped(text, kInText, out_);
+  return S_OK;
 }
 
 /// Goes to the start of a new line, indented for an element at this depth.

@@ -97,7 +97,6 @@ class XmlWriter final : public RefCounted<> {
     const std::size_t depth_;
     const State state_;
     const bool at_line_start_;
-    const bool has_text_;
     bool kept_ = false;
   };
 

@@ -126,18 +126,11 @@ ConfigResult CXMLLiteManagerWriter::WriteElementString(const wchar_t* name, Text
 
 /// Only characters that XML allows: a zero within the text is none, and would hide what follows it.
 ConfigResult CXMLLiteManagerWriter::CheckCharacters(Text text) {
-  for (const wchar_t* at = text.begin(); at != text.end();) {
-    if (*at >= L' ' && *at < 0xD800) {  // almost always
-      ++at;
-      continue;
-    }
-    const char32_t c = TakeCodePoint(at, text.end());
-    if (IsXmlCharacter(c)) continue;
-    SetLastResult(
-        static_cast<HRESULT>(IsSurrogate(c) ? WR_E_INVALIDSURROGATEPAIR : WC_E_XMLCHARACTER));
-    return kFailed;
-  }
-  return kSuccess;
+  const wchar_t* at = FindForbidden(text.begin(), text.end());
+  if (at == text.end()) return kSuccess;
+  const bool is_surrogate = IsSurrogate(TakeCodePoint(at, text.end()));
+  SetLastResult(static_cast<HRESULT>(is_surrogate ? WR_E_INVALIDSURROGATEPAIR : WC_E_XMLCHARACTER));
+  return kFailed;
 }
 
 }  // namespace tolva::xml
