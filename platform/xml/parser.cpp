@@ -69,6 +69,20 @@ bool IsSpace(char c) { return IsClass(c, kSpace); }
 
 }  // namespace
 
+inline void Parser::Forget() {
+  type_ = XmlNodeType_None;
+  name_ = {};
+  value_ = {};
+  is_empty_element_ = false;
+  if (attributes_.size() != 0) ForgetAttributes();
+}
+
+void Parser::ForgetAttributes() {
+  attributes_.Clear();
+  attribute_initials_ = 0;
+  if (sorted_names_.capacity() > kAttributesKept) sorted_names_ = std::vector<std::string_view>();
+}
+
 void Parser::SetInput(ISequentialStream* stream, bool converted) {
   if (stream == nullptr) {
     input_.Close();
@@ -115,17 +129,6 @@ HRESULT Parser::Read() {
   result_ = result;
   if (result != S_OK) Forget();
   return result;
-}
-
-void Parser::Forget() {
-  type_ = XmlNodeType_None;
-  name_ = {};
-  value_ = {};
-  is_empty_element_ = false;
-  attribute_initials_ = 0;
-  if (attributes_.size() == 0) return;
-  attributes_.Clear();
-  if (sorted_names_.capacity() > kAttributesKept) sorted_names_ = std::vector<std::string_view>();
 }
 
 /// The document breaks off within something, or ends.

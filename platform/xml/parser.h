@@ -89,6 +89,7 @@ class Parser {
   };
 
   void Forget();
+  void ForgetAttributes();
   HRESULT ParseNode();
   HRESULT ParseOutsideRoot();
   HRESULT ParseText();
