@@ -121,7 +121,7 @@ const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept {
 #endif
     const wchar_t* const stretch = at + std::min(kCount, end - at);
     while (at < stretch) {
-      if (static_cast<char32_t>(*at) - U' ' < 0xD800 - U' ') {  // almost always
+      if (*at >= L' ' && *at < 0xD800) {  // almost always
         ++at;
         continue;
       }
