@@ -83,11 +83,10 @@ void ScopedStrings::Truncate(std::size_t count) {
     characters_.Truncate(last.start);
     entries_.Truncate(entries_.size() - 1);
   }
-  if (count == 0 && slots_.size() > kSlotsKept) {
-    slots_ = std::vector<Id>();
-    characters_.Clear();
-    entries_.Clear();
-  }
+  if (count != 0) return;
+  if (slots_.size() > kSlotsKept) slots_ = std::vector<Id>();
+  characters_.Clear();
+  entries_.Clear();
 }
 
 void ScopedStrings::GrowSlots() {

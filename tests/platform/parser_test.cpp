@@ -45,18 +45,24 @@ std::string Value(std::string_view raw, bool plain, ValueKind kind) {
   return Show({value.data(), value.size()});
 }
 
+/// A name put together from its parts.
+std::string NameOf(const own_xml::Name& name) {
+  const std::string prefix(name.PrefixText());
+  return (prefix.empty() ? "" : prefix + ":") + std::string(name.Local());
+}
+
 /// A node in a notation of its own: <a x='1'> <a/> </a> T(text) W(blanks) C(cdata) !(comment)
 /// ?(target:data) D (declaration)
 std::string Describe(const Parser& parser) {
   const auto value = [&parser](ValueKind kind) {
     return "(" + Value(parser.value(), parser.value_is_plain(), kind) + ")";
   };
-  const std::string name(parser.name().text);
+  const std::string name = NameOf(parser.name());
   switch (parser.type()) {
     case XmlNodeType_Element: {
       std::string text = "<" + name;
       for (const own_xml::Attribute& attribute : parser.attributes()) {
-        text += " " + std::string(attribute.name.text) + "='" +
+        text += " " + NameOf(attribute.name) + "='" +
                 Value(attribute.value, attribute.plain, ValueKind::kAttribute) + "'";
       }
       return text + (parser.is_empty_element() ? "/>" : ">");
@@ -311,6 +317,9 @@ TEST(Parser, KeepsTheRulesOfNamespaces) {
       {"<a xmlns:p='http://www.w3.org/XML/1998/namespace'/>", "", NC_E_XMLURIRESERVED},
       {"<a xmlns='http://www.w3.org/2000/xmlns/'/>", "", NC_E_XMLNSURIRESERVED},
   });
+  // The parts of a name, in end tags as well.
+  ExpectOutcome("<p:a xmlns:p='u'><b><pq:c xmlns:pq='v'></pq:c></b></p:a>",
+                {"<p:a xmlns:p='u'><b><pq:c xmlns:pq='v'></pq:c></b></p:a>", S_FALSE});
   // A prefix that is bound anew, and is what it was afterwards.
   ExpectOutcome("<a xmlns:p='u' xmlns:q='v'><b xmlns:p='v'><c p:x='' q:x=''/></b></a>",
                 {"<a xmlns:p='u' xmlns:q='v'><b xmlns:p='v'>", WC_E_UNIQUEATTRIBUTE});

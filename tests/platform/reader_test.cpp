@@ -181,7 +181,8 @@ TEST_F(Reader, GivesMemoryBack) {
   for (int i = 0; i < 100'000; ++i) attributes += " a" + std::to_string(i) + "=''";
   attributes += "/>";
   const std::string documents[] = {"<a b='&amp;" + value + "'/>", "<a>&amp;" + value + "</a>",
-                                   attributes};
+                                   "<a xmlns:" + value + "='u'><b/></a>",
+                                   "<" + value + "></" + value + ">", attributes};
   const std::size_t held = CountAllocations().bytes;
   for (const std::string& document : documents) {
     TextStream stream(document);
