@@ -29,9 +29,6 @@ constinit const Attribute CAppRule::kAttributes[] = {
     Attr<&CAppRule::appid_>(L"Appid"),
     Attr<&CAppRule::allowAccessAfterFileCreation_>(L"AllowAccessAfterFileCreation"),
 };
-constinit const Child CAppRule::kChildren[] = {
-    Elem<&CAppRule::arConditions_>(L"ArCondition"),
-};
 constinit const Schema CAppRule::kSchema = {
     .element = L"AppRule",
     .dialect = kDialect,
@@ -54,9 +51,6 @@ constinit const Schema COnlineApps::kSchema = {
     .children = kChildren,
 };
 
-constinit const Child CBypassedApps::kChildren[] = {
-    Elem<&CBypassedApps::arConditions_>(L"ArCondition"),
-};
 constinit const Schema CBypassedApps::kSchema = {
     .element = L"BypassedApps",
     .dialect = kDialect,

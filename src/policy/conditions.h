@@ -56,7 +56,31 @@ class CUrlCondition final : public Node<CUrlCondition, IUrlCondition> {
   Optional<std::wstring> url_;
 };
 
-class CAppRule final : public Node<CAppRule, IAppRule> {
+/// The applications in an element of class `C`, which implements `I`.
+template <class C, class I>
+class ArConditions : public Node<C, I> {
+ public:
+  DWORD GetArConditionCount() const override { return arConditions_.Count(); }
+  IArCondition* GetArConditionAt(DWORD index) override { return arConditions_.At(index); }
+  ConfigResult AddArCondition(const IArCondition* item) override { return arConditions_.Add(item); }
+  ConfigResult InsertArConditionAt(DWORD index, const IArCondition* item) override {
+    return arConditions_.InsertAt(index, item);
+  }
+  void RemoveArConditionAt(DWORD index) override { arConditions_.RemoveAt(index); }
+  void RemoveAllArCondition() override { arConditions_.RemoveAll(); }
+
+ protected:
+  static const Child kChildren[];
+
+  ChildList<CArCondition> arConditions_;
+};
+
+template <class C, class I>
+constinit const Child ArConditions<C, I>::kChildren[] = {
+    Elem<&ArConditions::arConditions_>(L"ArCondition"),
+};
+
+class CAppRule final : public ArConditions<CAppRule, IAppRule> {
  public:
   static const Schema kSchema;
 
@@ -70,26 +94,16 @@ class CAppRule final : public Node<CAppRule, IAppRule> {
   ConfigResult SetAllowAccessAfterFileCreation(const DWORD* value) override {
     return allowAccessAfterFileCreation_.Set(value);
   }
-  DWORD GetArConditionCount() const override { return arConditions_.Count(); }
-  IArCondition* GetArConditionAt(DWORD index) override { return arConditions_.At(index); }
-  ConfigResult AddArCondition(const IArCondition* item) override { return arConditions_.Add(item); }
-  ConfigResult InsertArConditionAt(DWORD index, const IArCondition* item) override {
-    return arConditions_.InsertAt(index, item);
-  }
-  void RemoveArConditionAt(DWORD index) override { arConditions_.RemoveAt(index); }
-  void RemoveAllArCondition() override { arConditions_.RemoveAll(); }
 
  private:
   static const Attribute kAttributes[];
-  static const Child kChildren[];
 
   DWORD action_ = 0;
   Optional<std::wstring> appid_;
   Optional<DWORD> allowAccessAfterFileCreation_;
-  ChildList<CArCondition> arConditions_;
 };
 
-class COnlineApps final : public Node<COnlineApps, IOnlineApps> {
+class COnlineApps final : public ArConditions<COnlineApps, IOnlineApps> {
  public:
   static const Schema kSchema;
 
@@ -97,14 +111,6 @@ class COnlineApps final : public Node<COnlineApps, IOnlineApps> {
   ConfigResult SetAction(const DWORD* value) override { return SetRequired(action_, value); }
   ConfigResult GetAppid(std::wstring* out) const override { return appid_.Get(out); }
   ConfigResult SetAppid(const std::wstring* value) override { return appid_.Set(value); }
-  DWORD GetArConditionCount() const override { return arConditions_.Count(); }
-  IArCondition* GetArConditionAt(DWORD index) override { return arConditions_.At(index); }
-  ConfigResult AddArCondition(const IArCondition* item) override { return arConditions_.Add(item); }
-  ConfigResult InsertArConditionAt(DWORD index, const IArCondition* item) override {
-    return arConditions_.InsertAt(index, item);
-  }
-  void RemoveArConditionAt(DWORD index) override { arConditions_.RemoveAt(index); }
-  void RemoveAllArCondition() override { arConditions_.RemoveAll(); }
   DWORD GetUrlConditionCount() const override { return urlConditions_.Count(); }
   IUrlCondition* GetUrlConditionAt(DWORD index) override { return urlConditions_.At(index); }
   ConfigResult AddUrlCondition(const IUrlCondition* item) override {
@@ -122,27 +128,12 @@ class COnlineApps final : public Node<COnlineApps, IOnlineApps> {
 
   DWORD action_ = 0;
   Optional<std::wstring> appid_;
-  ChildList<CArCondition> arConditions_;
   ChildList<CUrlCondition> urlConditions_;
 };
 
-class CBypassedApps final : public Node<CBypassedApps, IBypassedApps> {
+class CBypassedApps final : public ArConditions<CBypassedApps, IBypassedApps> {
  public:
   static const Schema kSchema;
-
-  DWORD GetArConditionCount() const override { return arConditions_.Count(); }
-  IArCondition* GetArConditionAt(DWORD index) override { return arConditions_.At(index); }
-  ConfigResult AddArCondition(const IArCondition* item) override { return arConditions_.Add(item); }
-  ConfigResult InsertArConditionAt(DWORD index, const IArCondition* item) override {
-    return arConditions_.InsertAt(index, item);
-  }
-  void RemoveArConditionAt(DWORD index) override { arConditions_.RemoveAt(index); }
-  void RemoveAllArCondition() override { arConditions_.RemoveAll(); }
-
- private:
-  static const Child kChildren[];
-
-  ChildList<CArCondition> arConditions_;
 };
 
 }  // namespace TolvaInterface

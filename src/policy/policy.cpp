@@ -124,9 +124,6 @@ constinit const Schema CTamperProtection::kSchema = {
     .attributes = kAttributes,
 };
 
-constinit const Child CExcludedApps::kChildren[] = {
-    Elem<&CExcludedApps::arConditions_>(L"ArCondition"),
-};
 constinit const Schema CExcludedApps::kSchema = {
     .element = L"ExcludedApps",
     .dialect = kDialect,

@@ -343,23 +343,9 @@ class CTamperProtection final : public Node<CTamperProtection, ITamperProtection
   Optional<DWORD> enable_;
 };
 
-class CExcludedApps final : public Node<CExcludedApps, IExcludedApps> {
+class CExcludedApps final : public ArConditions<CExcludedApps, IExcludedApps> {
  public:
   static const Schema kSchema;
-
-  DWORD GetArConditionCount() const override { return arConditions_.Count(); }
-  IArCondition* GetArConditionAt(DWORD index) override { return arConditions_.At(index); }
-  ConfigResult AddArCondition(const IArCondition* item) override { return arConditions_.Add(item); }
-  ConfigResult InsertArConditionAt(DWORD index, const IArCondition* item) override {
-    return arConditions_.InsertAt(index, item);
-  }
-  void RemoveArConditionAt(DWORD index) override { arConditions_.RemoveAt(index); }
-  void RemoveAllArCondition() override { arConditions_.RemoveAll(); }
-
- private:
-  static const Child kChildren[];
-
-  ChildList<CArCondition> arConditions_;
 };
 
 class CContainedFiles final : public Node<CContainedFiles, IContainedFiles> {

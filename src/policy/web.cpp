@@ -53,9 +53,6 @@ constinit const Schema CILPWebApp::kSchema = {
     .children = kChildren,
 };
 
-constinit const Child CIncludeApps::kChildren[] = {
-    Elem<&CIncludeApps::arConditions_>(L"ArCondition"),
-};
 constinit const Schema CIncludeApps::kSchema = {
     .element = L"IncludeApps",
     .dialect = kDialect,

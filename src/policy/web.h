@@ -125,23 +125,9 @@ class CILPWebApp final : public Node<CILPWebApp, IILPWebApp> {
   OptionalChild<CBrowserSettings> browserSettings_;
 };
 
-class CIncludeApps final : public Node<CIncludeApps, IIncludeApps> {
+class CIncludeApps final : public ArConditions<CIncludeApps, IIncludeApps> {
  public:
   static const Schema kSchema;
-
-  DWORD GetArConditionCount() const override { return arConditions_.Count(); }
-  IArCondition* GetArConditionAt(DWORD index) override { return arConditions_.At(index); }
-  ConfigResult AddArCondition(const IArCondition* item) override { return arConditions_.Add(item); }
-  ConfigResult InsertArConditionAt(DWORD index, const IArCondition* item) override {
-    return arConditions_.InsertAt(index, item);
-  }
-  void RemoveArConditionAt(DWORD index) override { arConditions_.RemoveAt(index); }
-  void RemoveAllArCondition() override { arConditions_.RemoveAll(); }
-
- private:
-  static const Child kChildren[];
-
-  ChildList<CArCondition> arConditions_;
 };
 
 class CExcludeDomain final : public Node<CExcludeDomain, IExcludeDomain> {
