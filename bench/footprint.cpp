@@ -1,5 +1,5 @@
 // What reading takes: memory and allocations for nodes, time against size, and a walk through a
-// document of a gigabyte.
+// file of a gigabyte.
 #include <tolva/tolva.h>
 
 #include <algorithm>
@@ -7,13 +7,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <new>
 #include <string>
 
 #include "documents.h"
 #include "platform/platform.h"
-#include "platform/ref_counted.h"
 #include "platform/xml/parser.h"
 
 namespace {
@@ -87,72 +88,60 @@ void MeasureRead(Kind kind, std::size_t size, node::INode* (*make)()) {
               static_cast<double>(after.calls - before.calls) / elements);
 }
 
-/// The same piece again and again, between a head and a tail.
-class RepeatingStream final : public platform::RefCounted<platform::IStream> {
+/// A file of a gigabyte, removed in the end.
+class LargeFile {
  public:
-  RepeatingStream(std::string piece, std::size_t count) : piece_(std::move(piece)), left_(count) {}
-
-  platform::HRESULT Read(void* buffer, platform::ULONG size,
-                         platform::ULONG* count) noexcept override {
-    auto* to = static_cast<char*>(buffer);
-    std::size_t room = size;
-    while (room != 0 && at_.empty() && (left_ != 0 || !ended_)) Next();
-    while (room != 0 && !at_.empty()) {
-      const std::size_t given = std::min(room, at_.size());
-      std::memcpy(to, at_.data(), given);
-      to += given;
-      room -= given;
-      at_.remove_prefix(given);
-      if (at_.empty() && (left_ != 0 || !ended_)) Next();
-    }
-    *count = static_cast<platform::ULONG>(size - room);
-    return room == 0 ? platform::S_OK : platform::S_FALSE;
+  LargeFile() : path_(std::filesystem::temp_directory_path() / "tolva-gigabyte.xml") {
+    std::string piece = GetDocument(kPolicy, 40'000).text;
+    piece.erase(0, piece.find("?>") + 2);
+    std::ofstream file(path_, std::ios::binary);
+    file << "<all>";
+    for (std::size_t size = 0; size < 1'000'000'000; size += piece.size()) file << piece;
+    file << "</all>";
+    file.close();
+    if (!file) Fail("no room for a file of a gigabyte");
   }
-  platform::HRESULT Write(const void*, platform::ULONG, platform::ULONG*) noexcept override {
-    return platform::E_NOTIMPL;
+  LargeFile(const LargeFile&) = delete;
+  LargeFile& operator=(const LargeFile&) = delete;
+  ~LargeFile() { Remove(); }
+
+  const std::filesystem::path& path() const { return path_; }
+
+  [[noreturn]] void Fail(const char* why) const {
+    Remove();
+    std::fprintf(stderr, "%s: %s\n", path_.c_str(), why);
+    std::exit(1);
   }
 
  private:
-  void Next() {
-    if (!started_) {
-      started_ = true;
-      at_ = "<all>";
-    } else if (left_ != 0) {
-      --left_;
-      at_ = piece_;
-    } else {
-      ended_ = true;
-      at_ = "</all>";
-    }
+  void Remove() const {
+    std::error_code ignored;
+    std::filesystem::remove(path_, ignored);
   }
 
-  const std::string piece_;
-  std::string_view at_;
-  std::size_t left_;
-  bool started_ = false;
-  bool ended_ = false;
+  const std::filesystem::path path_;
 };
 
 void WalkGigabyte() {
-  std::string piece = GetDocument(kPolicy, 40'000).text;
-  piece.erase(0, piece.find("?>") + 2);
-  const std::size_t count = 1'000'000'000 / piece.size();
-  const double bytes = static_cast<double>(count) * static_cast<double>(piece.size());
+  const LargeFile file;
   const auto start = Clock::now();
   const Heap before = heap;
   heap.peak = heap.bytes;
   {
+    platform::ComPtr<platform::IStream> stream;
+    const std::wstring path = file.path().wstring();
+    platform::SHCreateStreamOnFileW(path.c_str(), platform::STGM_READ, stream.Receive());
+    if (!stream) file.Fail("not opened");
     platform::own_xml::Parser parser;
-    auto* const stream = new RepeatingStream(piece, count);
-    parser.SetInput(stream, false);
-    stream->Release();
+    parser.SetInput(stream.Get(), false);
     platform::HRESULT result = platform::S_OK;
     while ((result = parser.Read()) == platform::S_OK) {
     }
-    if (result != platform::S_FALSE) std::exit(1);
+    if (result != platform::S_FALSE) file.Fail("not well-formed");
   }
-  std::printf("\n%.2f GB walked in %.2f s, %.0f KB of memory at most\n", bytes * 1e-9,
-              Seconds(start), static_cast<double>(heap.peak - before.bytes) / 1000);
+  std::printf("\nA file of %.2f GB walked in %.2f s, %.0f KB of memory at most\n",
+              static_cast<double>(std::filesystem::file_size(file.path())) * 1e-9, Seconds(start),
+              static_cast<double>(heap.peak - before.bytes) / 1000);
 }
 
 }  // namespace
