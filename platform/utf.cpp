@@ -71,11 +71,12 @@ wchar_t* EncodeWide(char32_t c, wchar_t* out) {
 
 Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
   const auto* const bytes = reinterpret_cast<const unsigned char*>(text);
+  constexpr std::size_t kAtOnce = 64;
   std::size_t i = 0;
   while (i < size) {
 #if TOLVA_HAS_VECTORS
     // Mostly text is ASCII, and of the control characters line feeds alone are common.
-    constexpr std::size_t kAtOnce = 4 * Bytes::kCount;
+    static_assert(kAtOnce == 4 * Bytes::kCount);
     for (; i + kAtOnce <= size; i += kAtOnce) {
       const auto unusual = [at = text + i](std::size_t part) {
         const Bytes block = Bytes::Load(at + part * Bytes::kCount);
@@ -83,27 +84,32 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
       };
       if ((unusual(0) | unusual(1) | unusual(2) | unusual(3)).ToMask() != 0) break;
     }
-    if (i + Bytes::kCount <= size) {
-      const Bytes block = Bytes::Load(text + i);
-      const Mask unusual = block.IsBelowBlankOrNonAscii()
-                               .Without(block.Is('\n') | block.Is('\r') | block.Is('\t'))
-                               .ToMask();
-      if (unusual == 0) {
-        i += Bytes::kCount;
-        continue;
-      }
-      i += FirstOf(unusual);
-    }
 #endif
-    if (i == size) break;
-    if (bytes[i] < 0x80) {
-      if (!IsXmlCharacter(bytes[i])) return {i, true};
-      ++i;
-    }
-    while (i < size && bytes[i] >= 0x80) {
-      const int length = MeasureCharacter(bytes + i, size - i);
-      if (length <= 0) return {i, length == 0};
-      i += static_cast<std::size_t>(length);
+    // What the stretch holds that is not so common is looked at more closely.
+    const std::size_t stretch = std::min(size, i + kAtOnce);
+    while (i < stretch) {
+#if TOLVA_HAS_VECTORS
+      if (i + Bytes::kCount <= size) {
+        const Bytes block = Bytes::Load(text + i);
+        const Mask unusual = block.IsBelowBlankOrNonAscii()
+                                 .Without(block.Is('\n') | block.Is('\r') | block.Is('\t'))
+                                 .ToMask();
+        if (unusual == 0) {
+          i += Bytes::kCount;
+          continue;
+        }
+        i += FirstOf(unusual);
+      }
+#endif
+      if (bytes[i] < 0x80) {
+        if (!IsXmlCharacter(bytes[i])) return {i, true};
+        ++i;
+      }
+      while (i < size && bytes[i] >= 0x80) {
+        const int length = MeasureCharacter(bytes + i, size - i);
+        if (length <= 0) return {i, length == 0};
+        i += static_cast<std::size_t>(length);
+      }
     }
   }
   return {i, false};
