@@ -163,6 +163,14 @@ HRESULT Namespaces::Resolve(std::string_view prefix, ScopedStrings::Id& uri) con
   return S_OK;
 }
 
+void Namespaces::Clear() {
+  prefixes_.Truncate(0);
+  uris_.Truncate(0);
+  bindings_.Clear();
+  uri_.Clear();
+  if (names_.capacity() > kNamesKept) names_ = std::vector<ExpandedName>();
+}
+
 void Namespaces::LetGo(std::size_t count) {
   uris_.Truncate(bindings_.data()[count].uris_before);
   bindings_.Truncate(count);

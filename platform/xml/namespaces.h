@@ -83,6 +83,9 @@ class Namespaces {
     if (count < bindings_.size()) LetGo(count);
   }
 
+  /// Lets all go, whatever state they are in, and memory that is not worth keeping.
+  void Clear();
+
  private:
   struct Binding {
     ScopedStrings::Id uri;

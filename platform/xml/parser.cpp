@@ -59,6 +59,7 @@ bool StandsAt(const char* at, std::string_view text) {
   }
   return true;
 #else
+  // One character after the other, and none behind a difference: there the window may end.
   return std::equal(text.begin(), text.end(), at, [](char x, char y) { return x == y; });
 #endif
 }
@@ -97,7 +98,7 @@ void Parser::SetInput(ISequentialStream* stream, bool converted) {
   Forget();
   open_names_.Clear();
   open_elements_.Clear();
-  namespaces_.Leave(0);
+  namespaces_.Clear();
 }
 
 /// Parses what stands at `at_`; kMoreInput when it goes on behind the window.
@@ -169,11 +170,12 @@ HRESULT Parser::ParseText() {
   return Deliver(XmlNodeType_Whitespace, end);
 }
 
-/// A text of more than white space, which goes up to `at`.
-HRESULT Parser::ParseCharacters(const char* at) {
-  const bool is_blank = *at == '\0';
+/// A text whose first white space ends at `behind_space`, where the window may end as well.
+HRESULT Parser::ParseCharacters(const char* behind_space) {
+  const bool is_blank = *behind_space == '\0';
+  const char* at = at_;
   bool plain = true;
-  for (at = at_;;) {
+  for (;;) {
     at = Find<'<', '&', ']', '\r'>(at);
     if (*at == '<') break;
     if (*at == '\0') {

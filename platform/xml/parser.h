@@ -93,7 +93,7 @@ class Parser {
   HRESULT ParseNode();
   HRESULT ParseOutsideRoot();
   HRESULT ParseText();
-  HRESULT ParseCharacters(const char* at);
+  HRESULT ParseCharacters(const char* behind_space);
   HRESULT ParseMarkup(const char* at);
   HRESULT ParseStartTag(const char* at);
   HRESULT ParseAttributes(const char* at, const char*& end, TagTraits& traits);

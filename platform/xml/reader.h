@@ -28,7 +28,8 @@ class XmlReader final : public RefCounted<> {
 
   /// S_OK, S_FALSE behind the last node (`*type` None), or a failure that stays.
   HRESULT Read(XmlNodeType* type) {
-    if (name_.size() + value_.size() != 0) ForgetStrings();
+    // Strings that were asked for, some of them perhaps left for another attribute.
+    if (name_.size() + value_.size() + next_attribute_ != 0) ForgetStrings();
     attribute_ = kNoAttribute;
     next_attribute_ = 0;
     const HRESULT result = parser_.Read();

@@ -180,9 +180,18 @@ TEST_F(Reader, GivesMemoryBack) {
   std::string attributes = "<a";
   for (int i = 0; i < 100'000; ++i) attributes += " a" + std::to_string(i) + "=''";
   attributes += "/>";
-  const std::string documents[] = {"<a b='&amp;" + value + "'/>", "<a>&amp;" + value + "</a>",
+  std::string declarations = "<a xmlns:p='u'";
+  for (int i = 0; i < 100'000; ++i) {
+    declarations += " xmlns:q" + std::to_string(i) + "='u' p:a" + std::to_string(i) + "=''";
+  }
+  declarations += "/>";
+  const std::string documents[] = {"<a b='&amp;" + value + "'/>",
+                                   "<a>&amp;" + value + "</a>",
                                    "<a xmlns:" + value + "='u'><b/></a>",
-                                   "<" + value + "></" + value + ">", attributes};
+                                   "<a xmlns='" + value + "'/>",
+                                   declarations,
+                                   "<" + value + "></" + value + ">",
+                                   attributes};
   const std::size_t held = CountAllocations().bytes;
   for (const std::string& document : documents) {
     TextStream stream(document);
