@@ -1,6 +1,7 @@
 // What reading takes: memory and allocations for nodes, time against size, and a walk through a
 // file of a gigabyte.
 #include <tolva/tolva.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -91,7 +92,9 @@ void MeasureRead(Kind kind, std::size_t size, node::INode* (*make)()) {
 /// A file of a gigabyte, removed in the end.
 class LargeFile {
  public:
-  LargeFile() : path_(std::filesystem::temp_directory_path() / "tolva-gigabyte.xml") {
+  LargeFile()
+      : path_(std::filesystem::temp_directory_path() /
+              ("tolva-gigabyte-" + std::to_string(getpid()) + ".xml")) {
     std::string piece = GetDocument(kPolicy, 40'000).text;
     piece.erase(0, piece.find("?>") + 2);
     std::ofstream file(path_, std::ios::binary);

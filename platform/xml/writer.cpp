@@ -324,7 +324,7 @@ HRESULT XmlWriter::WriteWhitespace(const wchar_t* text) {
   if (*end != 0) return WR_E_NONWHITESPACE;
   const HRESULT ready = Begin();
   if (FAILED(ready)) return ready;
-  out_.Room(static_cast<std::size_t>(end - text) + 1);
+  out_.Room(static_cast<std::size_t>(end - text) + 1);  // with the '>': nothing fails from here on
   FinishStartTag();
   for (const wchar_t* at = text; at != end; ++at) out_.Append(static_cast<char>(*at));
   if (state_ == State::kNothing) state_ = State::kProlog;
@@ -417,6 +417,7 @@ HRESULT XmlWriter::PutText(const wchar_t* text) {
   if (is_blank) Put(EscapeOf(*text++));
   const HRESULT result = AppendEscaped(text, kInText, out_);
   if (FAILED(result)) return result;
+  // Behind all that can fail: a Change does not put this back.
   Innermost().has_text = true;
   at_line_start_ = false;
   return S_OK;
