@@ -69,18 +69,34 @@ class TextStream final : public platform::RefCounted<platform::IStream> {
   std::size_t at_ = 0;
 };
 
-void WalkTolva(benchmark::State& state) {
+/// `open` makes a stream of the document.
+template <class Open>
+void Walk(benchmark::State& state, Open open) {
   const Document& document = DocumentOf(state);
   platform::own_xml::Parser parser;
   for (auto _ : state) {
-    TextStream* const stream = new TextStream(document.text);
-    parser.SetInput(stream, false);
-    stream->Release();
+    platform::ComPtr<platform::IStream> stream;
+    open(document, stream);
+    parser.SetInput(stream.Get(), false);
     std::size_t attributes = 0;
     while (parser.Read() == platform::S_OK) attributes += parser.attributes().size();
+    if (attributes == 0) state.SkipWithError("not read");
     benchmark::DoNotOptimize(attributes);
   }
   Count(state, document);
+}
+
+void WalkTolva(benchmark::State& state) {
+  Walk(state, [](const Document& document, platform::ComPtr<platform::IStream>& stream) {
+    stream.Attach(new TextStream(document.text));
+  });
+}
+
+void WalkTolvaFile(benchmark::State& state) {
+  Walk(state, [](const Document& document, platform::ComPtr<platform::IStream>& stream) {
+    platform::SHCreateStreamOnFileW(document.path.wstring().c_str(), platform::STGM_READ,
+                                    stream.Receive());
+  });
 }
 
 void WalkPugixmlInPlace(benchmark::State& state) {
@@ -154,7 +170,7 @@ const Plan& PlanOf(const benchmark::State& state) {
   return state.range(1) == kPolicy ? policy.root() : catalogue.root();
 }
 
-/// Runs a read again and again; `range(2)` asks for a file that is not in memory.
+/// Runs a read again and again, each into a new root.
 template <class Read>
 void Typed(benchmark::State& state, Read read) {
   const Document& document = DocumentOf(state);
@@ -180,6 +196,15 @@ void ReadTolvaAgain(benchmark::State& state) {
   Typed(state, [&reader](const Document& document, node::INode& root) {
     return reader->OpenFile(document.path.wstring().c_str()) == 0 &&
            root.ReadFromXMLMgr(reader.get()) == 0;
+  });
+}
+
+/// From a string in memory.
+void ReadTolvaString(benchmark::State& state) {
+  const std::wstring text = pugi::as_wide(DocumentOf(state).text);
+  const std::unique_ptr<IXMLLiteManager> reader(tolvaCreateXMLManager(0));
+  Typed(state, [&](const Document& /*document*/, node::INode& root) {
+    return reader->OpenFromString(text.c_str()) == 0 && root.ReadFromXMLMgr(reader.get()) == 0;
   });
 }
 
@@ -363,12 +388,14 @@ void ReadTolvaCold(benchmark::State& state) {
 }
 
 BENCHMARK(WalkTolva)->Apply(Sizes);
+BENCHMARK(WalkTolvaFile)->Apply(Sizes);
 BENCHMARK(WalkPugixmlInPlace)->Apply(Sizes);
 BENCHMARK(WalkPugixmlCopying)->Apply(Sizes);
 BENCHMARK(WalkExpat)->Apply(Sizes);
 BENCHMARK(WalkLibxml2)->Apply(Sizes);
 BENCHMARK(ReadTolva)->Apply(Sizes);
 BENCHMARK(ReadTolvaAgain)->Apply(Sizes);
+BENCHMARK(ReadTolvaString)->Apply(Sizes);
 BENCHMARK(ReadTolvaCold)->ArgNames({"bytes", "text"})->Args({10'000'000, kPolicy});
 BENCHMARK(ReadPugixml)->Apply(Sizes);
 BENCHMARK(ReadExpat)->Apply(Sizes);
