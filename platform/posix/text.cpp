@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <string_view>
@@ -11,19 +12,27 @@ int WideCharToMultiByte(UINT /*code_page*/, DWORD /*flags*/, const wchar_t* text
                         char* buffer, int capacity, const char* /*default_char*/,
                         BOOL* /*default_used*/) noexcept {
   if (text == nullptr || length <= 0) return 0;
+  // Whether it is converted or only measured, a result has to fit.
+  const auto room = static_cast<std::size_t>(buffer == nullptr ? std::numeric_limits<int>::max()
+                                                               : std::max(capacity, 0));
   std::size_t size = 0;
   const wchar_t* at = text;
   const wchar_t* const end = text + length;
   while (at != end) {
+    const auto unit = static_cast<char32_t>(*at);
+    if (unit < 0x80) {  // almost always
+      if (size == room) return 0;
+      if (buffer != nullptr) buffer[size] = static_cast<char>(unit);
+      ++size;
+      ++at;
+      continue;
+    }
     char bytes[4];
     char32_t c = TakeCodePoint(at, end);
     if (IsSurrogate(c) || c > kLastCodePoint) c = kReplacementCharacter;
     const auto count = static_cast<std::size_t>(EncodeUtf8(c, bytes) - bytes);
-    if (size + count > static_cast<std::size_t>(std::numeric_limits<int>::max())) return 0;
-    if (buffer != nullptr) {
-      if (size + count > static_cast<std::size_t>(capacity)) return 0;
-      std::memcpy(buffer + size, bytes, count);
-    }
+    if (room - size < count) return 0;
+    if (buffer != nullptr) std::memcpy(buffer + size, bytes, count);
     size += count;
   }
   return static_cast<int>(size);

@@ -308,8 +308,7 @@ HRESULT Parser::ParseAttributes(const char* at, const char*& end, TagTraits& tra
     }
     at = EndOf(attribute.name.text);
     const std::string_view name = attribute.name.text;
-    const bool may_declare = name.front() == 'x' && name == "xmlns";
-    if (attribute.name.prefix != 0 || may_declare) traits.has_namespaces = true;
+    if (attribute.name.prefix != 0 || name == "xmlns") traits.has_namespaces = true;
     if (names.MayHaveTwin(name)) traits.may_have_twins = true;
     traits.initials |= InitialOf(name.front());
 
