@@ -1,16 +1,20 @@
 #include "xml/debug_dump.h"
 
+#include <atomic>
+
 namespace tolva::xml {
 namespace {
 
-DebugDumpCallback debug_dump_callback = nullptr;
+std::atomic<DebugDumpCallback> debug_dump_callback = nullptr;
 
 }  // namespace
 
 void SetDebugDumpCallback(DebugDumpCallback callback) noexcept { debug_dump_callback = callback; }
 
 void DebugDump(const wchar_t* text) {
-  if (debug_dump_callback != nullptr) debug_dump_callback(text);
+  // Loaded once: another thread may remove the callback meanwhile.
+  const DebugDumpCallback callback = debug_dump_callback;
+  if (callback != nullptr) callback(text);
 }
 
 }  // namespace tolva::xml
