@@ -56,9 +56,9 @@ class Bytes {
 
   /// 'a' to 'z' and 'A' to 'Z'.
   Bytes IsLetter() const {
-    const __m128i small =
+    const __m128i index =
         _mm_sub_epi8(_mm_or_si128(bytes_, _mm_set1_epi8(0x20)), _mm_set1_epi8('a'));
-    return Bytes(_mm_cmpeq_epi8(_mm_min_epu8(small, _mm_set1_epi8(25)), small));
+    return Bytes(_mm_cmpeq_epi8(_mm_min_epu8(index, _mm_set1_epi8(25)), index));
   }
 
   Bytes operator|(Bytes other) const { return Bytes(_mm_or_si128(bytes_, other.bytes_)); }
