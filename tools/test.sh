@@ -1,8 +1,8 @@
 #!/bin/bash
 # Runs everything that can fail: each build with its tests, and the checks of the sources and of the
 # binary interface. Ends with one line of totals; fails when anything did.
-#   test.sh [part...]      only these parts: sources linux conformance sanitizers fuzz windows
-#                          windows-own abi tidy
+#   test.sh [part...]      only these parts: sources linux conformance sanitizers valgrind fuzz
+#                          windows windows-own abi tidy
 set -u
 cd "$(dirname "$0")/.." || exit
 
@@ -161,6 +161,16 @@ part_sanitizers() {
   demo linux-asan
 }
 
+part_valgrind() {
+  echo 'Linux, GCC, valgrind'
+  build linux-release || return
+  local program
+  for program in inner api; do
+    check "valgrind: tolva_${program}_tests" valgrind -q --error-exitcode=1 --leak-check=full \
+      --suppressions=tests/valgrind.supp "build/linux-release/tests/tolva_${program}_tests"
+  done
+}
+
 part_fuzz() {
   echo 'Fuzz targets, known inputs'
   build fuzz || return
@@ -179,13 +189,13 @@ part_windows() {
     -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake"
 }
 
-# The entry points of the library itself are five.
+# The entry points of the library itself are six.
 count_exports() {
   local factories exports
   factories=$(grep -c '^TOLVA_FACTORY(' src/exports/factories.def)
   exports=$(wc -l < abi/exports-windows-mingw.txt)
   echo "$factories factories, $exports exports"
-  [ "$exports" = $((factories + 5)) ]
+  [ "$exports" = $((factories + 6)) ]
 }
 
 part_windows-own() {
@@ -207,7 +217,7 @@ part_tidy() {
 }
 
 parts=("$@")
-[ ${#parts[@]} != 0 ] || parts=(sources linux conformance sanitizers fuzz windows windows-own abi tidy)
+[ ${#parts[@]} != 0 ] || parts=(sources linux conformance sanitizers valgrind fuzz windows windows-own abi tidy)
 for part in "${parts[@]}"; do
   if [ "$(type -t "part_$part")" = function ]; then
     "part_$part"

@@ -1,5 +1,6 @@
 #include "platform/xml/reader.h"
 
+#include <cstring>
 #include <string_view>
 
 #include "platform/utf.h"
@@ -102,7 +103,7 @@ void XmlReader::FillValue(std::string_view raw, bool is_plain, own_xml::ValueKin
   if (!is_plain) {
     decoded_.Truncate(0);
     own_xml::AppendValue(raw, kind, decoded_);
-    decoded_.Room(kReadAhead);
+    std::memset(decoded_.Room(kReadAhead), 0, kReadAhead);
     raw = {decoded_.data(), decoded_.size()};
   }
   Fill(raw, value_);
