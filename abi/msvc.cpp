@@ -18,6 +18,7 @@ void UseEverything() {
   tolvaDestroyXMLManager(nullptr);
   delete tolvaCreateXMLManager(0);
   SetTolvaDebugDumpCallBack(nullptr);
+  tolvaReadToEnd(nullptr);
   tolvaSetLastError(tolvaGetLastError());
 #define TOLVA_FACTORY(space, name, node, type) Use<space::type>(&space::name##_CreateNewInstance);
 #include "../src/exports/factories.def"

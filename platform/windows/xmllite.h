@@ -1,5 +1,5 @@
-// The system's XML reader and writer, and the two spots in which the library's calls have to be
-// spelled differently for it.
+// The system's XML reader and writer, and the spots in which the library's calls have to be spelled
+// differently for it.
 #pragma once
 
 #include <xmllite.h>
@@ -15,5 +15,9 @@ inline const IID& kIidXmlWriter = __uuidof(IXmlWriter);
 inline HRESULT SetConvertedInput(IXmlReader& reader, IStream* text) {
   return reader.SetInput(text);
 }
+
+/// Whether such a text, of which the reader has refused something, is well-formed up to the zero
+/// that terminates it.
+bool EndsAtTerminator(IXmlReader& reader, IStream& text);
 
 }  // namespace tolva::platform

@@ -56,6 +56,7 @@ void Input::Close() {
   encoding_ = Encoding::kUtf8;
   stream_result_ = S_OK;
   reason_ = S_OK;
+  stopped_at_zero_ = false;
   limit_ = 0;
   window_.Clear();
   raw_.Clear();
@@ -270,7 +271,9 @@ void Input::AddTranscodedBlock() {
 void Input::Admit(std::size_t count) {
   const Utf8Prefix prefix = MeasureXmlUtf8(window_.data() + limit_, count);
   limit_ += prefix.size;
-  if (prefix.malformed) reason_ = WC_E_XMLCHARACTER;
+  if (!prefix.malformed) return;
+  reason_ = WC_E_XMLCHARACTER;
+  stopped_at_zero_ = window_.data()[limit_] == '\0';
 }
 
 }  // namespace tolva::platform::own_xml

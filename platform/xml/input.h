@@ -38,6 +38,9 @@ class Input {
   /// stream's failure, or WC_E_XMLCHARACTER where something follows that is no legal character.
   HRESULT reason() const { return reason_; }
 
+  /// The character that is not legal is a zero.
+  bool stopped_at_zero() const { return stopped_at_zero_; }
+
   /// Judges the encoding that the XML declaration names: S_OK, MX_E_ENCODING for one that is not
   /// supported, MX_E_ENCODINGSWITCH for one that the bytes before it were not in.
   HRESULT CheckDeclaredEncoding(std::string_view name) const;
@@ -65,6 +68,7 @@ class Input {
   Encoding encoding_ = Encoding::kUtf8;
   HRESULT stream_result_ = S_OK;  ///< S_FALSE behind the last byte, or the stream's failure
   HRESULT reason_ = S_OK;
+  bool stopped_at_zero_ = false;
 
   Buffer<char> window_;    ///< the text up to `limit_`, and the padding
   std::size_t limit_ = 0;  ///< where the window ends

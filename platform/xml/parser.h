@@ -71,6 +71,9 @@ class Parser {
     return !is_ascii || (attribute_initials_ & InitialOf(static_cast<char>(initial))) != 0;
   }
 
+  /// Whether the document is at its end, but for a zero where the input should have ended.
+  bool EndsAtTerminator() const { return IsBehindRoot() && input_.stopped_at_zero(); }
+
   /// The Element was written as an empty tag. It has no EndElement then.
   bool is_empty_element() const { return is_empty_element_; }
 
@@ -116,6 +119,8 @@ class Parser {
   }
 
   bool IsOutsideRoot() const { return open_elements_.size() == 0; }
+  /// All that the window shows has been delivered, and the root with it.
+  bool IsBehindRoot() const { return has_root_ && IsOutsideRoot() && at_ == input_.limit(); }
   std::string_view InnermostName() const;
 
   Input input_;

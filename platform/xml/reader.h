@@ -48,6 +48,9 @@ class XmlReader final : public RefCounted<> {
   /// fastest.
   HRESULT MoveToAttributeByName(const wchar_t* local_name, const wchar_t* namespace_uri);
 
+  /// Whether what `Read` has refused is nothing but a zero behind the whole document.
+  bool EndsAtTerminator() const { return parser_.EndsAtTerminator(); }
+
   /// Without a document type declaration no attribute has a default.
   BOOL IsDefault() const { return FALSE; }
 

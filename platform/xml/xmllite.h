@@ -24,4 +24,10 @@ inline HRESULT SetConvertedInput(IXmlReader& reader, IStream* text) {
   return reader.SetInput(text, true);
 }
 
+/// Whether such a text, of which the reader has refused something, is well-formed up to the zero
+/// that terminates it.
+inline bool EndsAtTerminator(IXmlReader& reader, IStream& /*text*/) {
+  return reader.EndsAtTerminator();
+}
+
 }  // namespace tolva::platform

@@ -20,6 +20,12 @@ void SetTolvaDebugDumpCallBack(void (*callback)(const wchar_t*)) {
   tolva::xml::SetDebugDumpCallback(callback);
 }
 
+ConfigResult tolvaReadToEnd(IXMLLiteManager* reader) {
+  if (reader == nullptr) return tolva::kInvalidArgument;
+  auto* const own = tolva::xml::AsReader(reader);
+  return own == nullptr ? tolva::kFailed : own->ReadToEnd();
+}
+
 DWORD tolvaGetLastError() {
   using namespace tolva::platform;
   return GetLastError();

@@ -45,6 +45,7 @@ ConfigResult CXMLLiteManagerReader::OpenFile(const wchar_t* path) {
     SetLastResult(opened);
     return kFailed;
   }
+  is_string_ = false;
   return MoveToRoot(reader_->SetInput(stream_.Get()));
 }
 
@@ -73,12 +74,13 @@ ConfigResult CXMLLiteManagerReader::OpenFromString(const wchar_t* xml_text) {
       SHCreateMemStream(reinterpret_cast<const BYTE*>(text.data()), static_cast<UINT>(text.size()));
   if (stream == nullptr) return kFailed;
   stream_.Attach(stream);
+  is_string_ = true;
   return MoveToRoot(SetConvertedInput(*reader_.Get(), stream));
 }
 
 /// The tail of both opens. An input without an element is found out by the root node, which does
 /// not find its name.
-ConfigResult CXMLLiteManagerReader::MoveToRoot(HRESULT input_result) {
+ConfigResult CXMLLiteManagerReader::MoveToRoot(HRESULT input_result) try {
   if (FAILED(input_result)) {
     SetLastResult(input_result);
     Close();
@@ -97,6 +99,9 @@ ConfigResult CXMLLiteManagerReader::MoveToRoot(HRESULT input_result) {
       return kSuccess;
     }
   }
+} catch (const std::bad_alloc&) {
+  Close();
+  throw;
 }
 
 ConfigResult CXMLLiteManagerReader::Close() {
@@ -225,6 +230,21 @@ int CXMLLiteManagerReader::FinishElement() {
   }
   node_type_ = type;
   return type;
+}
+
+ConfigResult CXMLLiteManagerReader::ReadToEnd() {
+  if (!stream_) return kFailed;
+  HRESULT result = S_OK;
+  while (result == S_OK) {
+    XmlNodeType type = XmlNodeType_None;
+    result = reader_->Read(&type);
+  }
+  node_type_ = XmlNodeType_None;
+  // Behind a string there is a zero, on which every parser stumbles.
+  if (result == S_FALSE) return kSuccess;
+  if (is_string_ && EndsAtTerminator(*reader_.Get(), *stream_.Get())) return kSuccess;
+  SetLastResult(result);
+  return kFailed;
 }
 
 }  // namespace tolva::xml

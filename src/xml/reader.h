@@ -40,6 +40,10 @@ class CXMLLiteManagerReader final : public CXMLLiteManager {
   /// the end of the input.
   int FinishElement();
 
+  /// Reads on to the end of the document: 0 when it is well-formed up to there, else -101 with the
+  /// parser's answer as last error. -101 as well when no document is open.
+  ConfigResult ReadToEnd();
+
   int node_type() const { return node_type_; }
 
   /// The last element that the cursor stopped on was written as an empty tag.
@@ -49,6 +53,7 @@ class CXMLLiteManagerReader final : public CXMLLiteManager {
   ConfigResult MoveToRoot(HRESULT input_result);
 
   ComPtr<IXmlReader> reader_;
+  bool is_string_ = false;  ///< the document was given as a string
   int node_type_ = XmlNodeType_None;
   bool is_empty_element_ = false;
 };

@@ -7,9 +7,11 @@
 #include <filesystem>
 #include <functional>
 #include <iterator>
+#include <new>
 #include <string>
 #include <thread>
 
+#include "support/allocations.h"
 #include "support/capabilities.h"
 #include "support/files.h"
 #include "support/managers.h"
@@ -111,6 +113,8 @@ TEST_F(ManagerReader, ConvertsStrings) {
   EXPECT_STREQ(reader_.GetAttribute(L"b"), L"\u00E9\U0001F600");
   Open(L"<A b='x\xD83Dy'/>");
   EXPECT_STREQ(reader_.GetAttribute(L"b"), L"x\uFFFDy");
+  Open(L"<A b='\xDC00\xDC00'/>");
+  EXPECT_STREQ(reader_.GetAttribute(L"b"), L"\uFFFD\uFFFD");
 }
 
 TEST_F(ManagerReader, FindsAttributes) {
@@ -261,6 +265,97 @@ TEST_F(ManagerReader, OpensOneDocumentAfterAnother) {
   EXPECT_EQ(reader_.GetAttribute(L"a"), nullptr);
   EXPECT_TRUE(std::filesystem::remove(first.path()));  // nobody holds it any more
 }
+
+/// A document, and what reading to its end leaves as last error.
+struct WholeDocument {
+  const char* text;
+  DWORD error;  ///< 0: it ends well
+};
+
+/// From wherever the reader stands, again and again, and of a file as of a string.
+void ExpectReadsToTheEnd(const WholeDocument& document) {
+  SCOPED_TRACE(document.text);
+  const std::string text = document.text;
+  const TempFile file(text);
+  CXMLLiteManagerReader reader;
+  for (const bool is_string : {false, true}) {
+    for (const int moves : {0, 1, 3}) {
+      ASSERT_EQ(is_string ? reader.OpenFromString(std::wstring(text.begin(), text.end()).c_str())
+                          : reader.OpenFile(file.Wide().c_str()),
+                0);
+      for (int i = 0; i < moves; ++i) reader.NextNode();
+      tolvaSetLastError(kUntouched);
+      for (int again = 0; again < 2; ++again) {
+        ASSERT_EQ(tolvaReadToEnd(&reader), document.error == 0 ? 0 : -101);
+        ASSERT_EQ(tolvaGetLastError(), document.error == 0 ? kUntouched : document.error);
+      }
+      EXPECT_EQ(reader.node_type(), kNone);
+    }
+  }
+}
+
+TEST_F(ManagerReader, ReadsToTheEnd) {
+  for (const WholeDocument& one : {
+           WholeDocument{"<A/>", 0},
+           WholeDocument{"<A><B>x</B></A>\n<!-- c --><?p i?>\n", 0},
+           WholeDocument{"<A><B></A>", 0xC00CEE3B},
+       }) {
+    ExpectReadsToTheEnd(one);
+  }
+  tolvaSetLastError(kUntouched);
+  EXPECT_EQ(tolvaReadToEnd(&reader_), -101);  // it holds nothing
+  EXPECT_EQ(tolvaReadToEnd(nullptr), -102);
+  EXPECT_EQ(tolvaReadToEnd(MakeWriter().get()), -101);
+  EXPECT_EQ(tolvaGetLastError(), kUntouched);
+}
+
+#if defined(TOLVA_OWN_XML_LAYER)
+TEST_F(ManagerReader, FindsWhatIsWrongBehindTheRoot) {
+  for (const WholeDocument& one : {
+           WholeDocument{"<A/><B/>", 0xC00CEE3A},
+           WholeDocument{"<A/>x", 0xC00CEE2D},
+           WholeDocument{"<A/>\x01", 0xC00CEE2D},
+       }) {
+    ExpectReadsToTheEnd(one);
+  }
+  // A string that breaks off does so at the zero behind it.
+  for (const char* const cut_off : {"<A/><!-- c", "<A><B", "<A>", "<!-- no root -->", " "}) {
+    const TempFile file(cut_off);
+    ASSERT_EQ(reader_.OpenFile(file.Wide().c_str()), 0);
+    EXPECT_EQ(tolvaReadToEnd(&reader_), -101) << cut_off;
+    const std::string text = cut_off;
+    Open(std::wstring(text.begin(), text.end()).c_str());
+    EXPECT_EQ(tolvaReadToEnd(&reader_), -101) << cut_off;
+    EXPECT_EQ(tolvaGetLastError() >> 12, 0xC00CEU) << cut_off;
+  }
+}
+#endif
+
+#if !defined(_WIN32)
+TEST_F(ManagerReader, IsClosedWhenMemoryRunsOutInAnOpen) {
+  const TempFile file("<A/>");
+  const std::wstring path = file.Wide();
+  const std::function<ConfigResult()> opens[] = {
+      [&] { return reader_.OpenFile(path.c_str()); },
+      [&] { return reader_.OpenFromString(L"<A/>"); },
+  };
+  for (const auto& open : opens) {
+    bool failed = true;
+    for (std::size_t n = 0; failed; ++n) {
+      reader_.Close();
+      failed = false;
+      try {
+        const FailingAllocations failing(n);
+        failed = open() != 0;
+      } catch (const std::bad_alloc&) {
+        failed = true;
+      }
+      EXPECT_EQ(reader_.node_type(), failed ? kNone : kElement);
+      EXPECT_EQ(tolvaReadToEnd(&reader_), failed ? -101 : 0);
+    }
+  }
+}
+#endif
 
 #if defined(TOLVA_OWN_XML_LAYER)
 TEST_F(ManagerReader, SeesTheZeroBehindAString) {

@@ -62,6 +62,12 @@ TOLVA_API IXMLLiteManager* tolvaCreateXMLManager(int writer);
 /// Destroys a manager; null is ignored. A writer's open document is finished and flushed first.
 TOLVA_API void tolvaDestroyXMLManager(IXMLLiteManager* manager);
 
+/// Reads on from wherever `reader` stands to the end of its document, which no node's read does: 0
+/// when the whole document is well-formed; else -101, with the reason as last error. -101 as well,
+/// with the last error as it was, for a writer and for a reader that holds no document; -102 for
+/// null. Nothing can be read from the document afterwards. May throw std::bad_alloc.
+TOLVA_API ConfigResult tolvaReadToEnd(IXMLLiteManager* reader);
+
 /// Installs the function that receives every diagnostic text of the process, replacing an earlier
 /// one; null removes it. It is called on the thread that failed, and the text is valid only during
 /// the call. It must neither throw nor call the library. Install it before other threads use the
