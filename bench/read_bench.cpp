@@ -63,6 +63,7 @@ class TextStream final : public platform::RefCounted<platform::IStream> {
   platform::HRESULT Write(const void*, platform::ULONG, platform::ULONG*) noexcept override {
     return platform::E_NOTIMPL;
   }
+  platform::HRESULT Commit(DWORD) noexcept override { return platform::E_NOTIMPL; }
 
  private:
   const std::string& text_;

@@ -31,7 +31,7 @@ class MemoryFile {
 };
 
 /// A text in pieces of a size.
-class PieceStream final : public platform::RefCounted<platform::IStream> {
+class PieceStream final : public platform::RefCounted<platform::ISequentialStream> {
  public:
   PieceStream(std::string_view text, std::size_t piece) : text_(text), piece_(piece) {}
 

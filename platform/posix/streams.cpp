@@ -21,7 +21,7 @@ HRESULT ResultOfErrno() { return HRESULT_FROM_WIN32(posix::ErrorOf(errno)); }
 class FileStream final : public RefCounted<IStream> {
  public:
   explicit FileStream(int file) : file_(file) {}
-  ~FileStream() override { close(file_); }
+  ~FileStream() override { FileStream::Commit(STGC_DEFAULT); }
 
   HRESULT Read(void* buffer, ULONG size, ULONG* read_count) noexcept override {
     *read_count = 0;
@@ -49,8 +49,18 @@ class FileStream final : public RefCounted<IStream> {
     return S_OK;
   }
 
+  /// Closes the file: some file systems do not say before then that they could not store it.
+  HRESULT Commit(DWORD /*flags*/) noexcept override {
+    // The descriptor is gone even if `close` is interrupted.
+    const bool failed = file_ >= 0 && close(file_) != 0 && errno != EINTR;
+    if (failed) committed_ = ResultOfErrno();
+    file_ = -1;
+    return committed_;
+  }
+
  private:
-  const int file_;
+  int file_;                  ///< -1 when it is closed
+  HRESULT committed_ = S_OK;  ///< the failure with which it was closed
 };
 
 class MemoryStream final : public RefCounted<IStream> {
@@ -68,6 +78,8 @@ class MemoryStream final : public RefCounted<IStream> {
   HRESULT Write(const void* /*buffer*/, ULONG /*size*/, ULONG* /*written*/) noexcept override {
     return E_NOTIMPL;
   }
+
+  HRESULT Commit(DWORD /*flags*/) noexcept override { return S_OK; }
 
  private:
   const std::unique_ptr<BYTE[]> bytes_;

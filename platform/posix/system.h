@@ -79,8 +79,15 @@ class ISequentialStream {
   virtual ~ISequentialStream() = default;
 };
 
+inline constexpr DWORD STGC_DEFAULT = 0;
+
 /// Seeking and the rest of the Windows interface are not used by the library.
-class IStream : public ISequentialStream {};
+class IStream : public ISequentialStream {
+ public:
+  /// Brings everything written to where the stream keeps it. Nothing can be written afterwards,
+  /// other than on Windows.
+  virtual HRESULT Commit(DWORD flags) noexcept = 0;
+};
 
 inline constexpr DWORD STGM_READ = 0;
 inline constexpr DWORD STGM_WRITE = 1;

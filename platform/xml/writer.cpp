@@ -13,7 +13,8 @@
 namespace tolva::platform {
 namespace {
 
-/// A call starts by handing over what has been written when there is this much of it.
+/// The start or the end of an element hands over what has been written when there is this much of
+/// it.
 constexpr std::size_t kBlock = std::size_t{64} * 1024;
 
 enum Escaped : std::uint8_t { kInAttribute = 1, kInText = 2 };
@@ -175,10 +176,16 @@ HRESULT XmlWriter::SetProperty(UINT property, LONG_PTR value) {
 }
 
 /// What every call asks first.
-HRESULT XmlWriter::Begin() {
+HRESULT XmlWriter::Begin() const {
   if (!output_) return E_UNEXPECTED;
-  if (state_ == State::kClosed) return WR_E_INVALIDACTION;
-  return out_.size() < kBlock ? S_OK : Drain();
+  return state_ == State::kClosed ? WR_E_INVALIDACTION : S_OK;
+}
+
+/// What the calls ask first whose failure a caller cannot overlook: the stream's failures come to
+/// light here alone, and when the document is ended and flushed.
+HRESULT XmlWriter::BeginAndDrain() {
+  const HRESULT ready = Begin();
+  return FAILED(ready) || out_.size() < kBlock ? ready : Drain();
 }
 
 HRESULT XmlWriter::Refuse() {
@@ -220,7 +227,7 @@ HRESULT XmlWriter::WriteStartDocument(XmlStandalone standalone) {
 }
 
 HRESULT XmlWriter::WriteEndDocument() {
-  const HRESULT ready = Begin();
+  const HRESULT ready = BeginAndDrain();
   if (FAILED(ready)) return ready;
   if (!IsInElement() && state_ != State::kEpilog) return Refuse();
   while (IsInElement()) {
@@ -239,7 +246,7 @@ HRESULT XmlWriter::WriteStartElement(const wchar_t* prefix, const wchar_t* name,
                                      const wchar_t* uri) {
   if (!IsSet(name)) return E_INVALIDARG;
   if (IsSet(prefix) || IsSet(uri)) return E_NOTIMPL;
-  const HRESULT ready = Begin();
+  const HRESULT ready = BeginAndDrain();
   if (FAILED(ready)) return ready;
   Change change(*this);
   const HRESULT result = StartElement(name);
@@ -333,12 +340,12 @@ HRESULT XmlWriter::WriteWhitespace(const wchar_t* text) {
 }
 
 HRESULT XmlWriter::WriteEndElement() {
-  const HRESULT ready = Begin();
+  const HRESULT ready = BeginAndDrain();
   return FAILED(ready) ? ready : EndElement(false);
 }
 
 HRESULT XmlWriter::WriteFullEndElement() {
-  const HRESULT ready = Begin();
+  const HRESULT ready = BeginAndDrain();
   return FAILED(ready) ? ready : EndElement(true);
 }
 
@@ -367,7 +374,7 @@ HRESULT XmlWriter::WriteElementString(const wchar_t* prefix, const wchar_t* name
                                       const wchar_t* uri, const wchar_t* text) {
   if (!IsSet(name)) return E_INVALIDARG;
   if (IsSet(prefix) || IsSet(uri)) return E_NOTIMPL;
-  const HRESULT ready = Begin();
+  const HRESULT ready = BeginAndDrain();
   if (FAILED(ready)) return ready;
   Change change(*this);
   HRESULT result = StartElement(name);

@@ -24,6 +24,8 @@ enum XmlStandalone : std::int32_t { XmlStandalone_Omit = 0 };
 /// on its line. What is written can be read back exactly: TAB, LF and CR in attributes, CR in text
 /// and the first character of a text of white space alone are written as references.
 ///
+/// What is written goes to the stream in blocks, when an element starts or ends, when the document
+/// ends and when it is flushed; attributes, texts and white space never fail because of the stream.
 /// A call that fails has written nothing. After WR_E_INVALIDACTION (a call that does not fit where
 /// the document stands) every further call answers the same until the next `SetOutput`. Other
 /// failures leave the writer usable; bytes that the stream refused are kept for the next call.
@@ -100,7 +102,8 @@ class XmlWriter final : public RefCounted<> {
     bool kept_ = false;
   };
 
-  HRESULT Begin();
+  HRESULT Begin() const;
+  HRESULT BeginAndDrain();
   HRESULT Refuse();
   HRESULT Drain();
   bool IsInElement() const { return state_ == State::kStartTag || state_ == State::kContent; }

@@ -1,5 +1,6 @@
 #include "xml/writer.h"
 
+#include <cstdint>
 #include <new>
 
 #include "platform/utf.h"
@@ -10,6 +11,12 @@ namespace {
 
 bool IsSet(const wchar_t* name) { return name != nullptr && *name != 0; }
 
+/// Whether a call failed because of what it was asked to write, not because of the stream or the
+/// system: what has been written before is whole then.
+bool IsRefusal(HRESULT result) {
+  return (static_cast<std::uint32_t>(result) & 0xFFFF0000U) == 0xC00C0000U;
+}
+
 }  // namespace
 
 /// Makes a call of the platform's writer.
@@ -19,12 +26,16 @@ HRESULT CXMLLiteManagerWriter::Ask(Call call) {
   return FAILED(fault) ? fault : call();
 }
 
-/// Makes a call on which the result of an operation depends.
+/// Makes a call that adds to the document.
 template <class Call>
 ConfigResult CXMLLiteManagerWriter::Write(Call call) {
-  if (!stream_) return kFailed;
+  if (!stream_) {
+    SetLastResult(E_UNEXPECTED);
+    return kFailed;
+  }
   const HRESULT result = Ask(call);
   if (SUCCEEDED(result)) return kSuccess;
+  if (SUCCEEDED(loss_) && !IsRefusal(result)) loss_ = result;
   SetLastResult(result);
   return kFailed;
 }
@@ -51,7 +62,7 @@ CXMLLiteManagerWriter::~CXMLLiteManagerWriter() {
   if (stream_) Release();
 }
 
-ConfigResult CXMLLiteManagerWriter::OpenFile(const wchar_t* path) {
+ConfigResult CXMLLiteManagerWriter::OpenFile(const wchar_t* path) try {
   if (!writer_) return kFailed;
   if (path == nullptr) return kInvalidArgument;
   if (Close() != kSuccess) Release();
@@ -71,23 +82,44 @@ ConfigResult CXMLLiteManagerWriter::OpenFile(const wchar_t* path) {
     return kFailed;
   }
   return kSuccess;
+} catch (const std::bad_alloc&) {
+  Release();
+  throw;
 }
 
 ConfigResult CXMLLiteManagerWriter::Close() {
   if (!stream_) return kSuccess;
-  if (!is_ended_) {
-    if (Write([this] { return writer_->WriteEndDocument(); }) != kSuccess) return kFailed;
-    is_ended_ = true;
-  }
-  if (Write([this] { return writer_->Flush(); }) != kSuccess) return kFailed;
-  Release();
-  return kSuccess;
+  const HRESULT result = Finish();
+  const HRESULT failure = FAILED(loss_) ? loss_ : result;
+  // What is lost does not come back when the rest is written once more.
+  if (FAILED(loss_) || SUCCEEDED(result)) Release();
+  if (SUCCEEDED(failure)) return kSuccess;
+  SetLastResult(failure);
+  return kFailed;
+}
+
+/// Ends the document and brings it to the file, as far as that succeeds; returns the first failure.
+HRESULT CXMLLiteManagerWriter::Finish() {
+  const HRESULT ended = EndDocument();
+  const HRESULT flushed = Ask([this] { return writer_->Flush(); });
+  if (FAILED(ended) && !IsRefusal(ended)) return ended;
+  // The document is complete, or nothing can be added to it any more.
+  const HRESULT stored = FAILED(flushed) ? flushed : stream_->Commit(STGC_DEFAULT);
+  return FAILED(ended) ? ended : stored;
+}
+
+HRESULT CXMLLiteManagerWriter::EndDocument() {
+  if (is_ended_) return S_OK;
+  const HRESULT result = Ask([this] { return writer_->WriteEndDocument(); });
+  is_ended_ = SUCCEEDED(result);
+  return result;
 }
 
 /// Lets the file go, whatever state it is in.
 void CXMLLiteManagerWriter::Release() {
   writer_->SetOutput(nullptr);
   is_ended_ = false;
+  loss_ = S_OK;
   CXMLLiteManager::Close();
 }
 
@@ -98,13 +130,13 @@ ConfigResult CXMLLiteManagerWriter::StartElement(const wchar_t* name) {
 
 ConfigResult CXMLLiteManagerWriter::WriteAttribute(const wchar_t* name, Text value) {
   if (!IsSet(name)) return kInvalidArgument;
-  if (CheckCharacters(value) != kSuccess) return kFailed;
+  if (Check(value) != kSuccess) return kFailed;
   return Write(
       [&] { return writer_->WriteAttributeString(nullptr, name, nullptr, value.c_str()); });
 }
 
 ConfigResult CXMLLiteManagerWriter::EndElement(Text text) {
-  if (CheckCharacters(text) != kSuccess) return kFailed;
+  if (Check(text) != kSuccess) return kFailed;
   if (!text.IsEmpty()) {
     const ConfigResult result = Write([&] { return writer_->WriteString(text.c_str()); });
     if (result != kSuccess) return result;
@@ -120,12 +152,14 @@ ConfigResult CXMLLiteManagerWriter::EndElement(Text text) {
 
 ConfigResult CXMLLiteManagerWriter::WriteElementString(const wchar_t* name, Text text) {
   if (!IsSet(name)) return kInvalidArgument;
-  if (CheckCharacters(text) != kSuccess) return kFailed;
+  if (Check(text) != kSuccess) return kFailed;
   return Write([&] { return writer_->WriteElementString(nullptr, name, nullptr, text.c_str()); });
 }
 
 /// Only characters that XML allows: a zero within the text is none, and would hide what follows it.
-ConfigResult CXMLLiteManagerWriter::CheckCharacters(Text text) {
+/// Without a document the call that follows says so.
+ConfigResult CXMLLiteManagerWriter::Check(Text text) {
+  if (!stream_) return kSuccess;
   const wchar_t* at = FindForbidden(text.begin(), text.end());
   if (at == text.end()) return kSuccess;
   const bool is_surrogate = IsSurrogate(TakeCodePoint(at, text.end()));

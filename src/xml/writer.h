@@ -6,9 +6,11 @@
 
 namespace tolva::xml {
 
-/// Keeps no state of its own about the document but whether it has been ended: the platform's
-/// writer knows what is open. Characters that XML does not allow are refused before it is called,
-/// with -101 and last error WC_E_XMLCHARACTER or WR_E_INVALIDSURROGATEPAIR.
+/// The platform's writer knows what is open; the manager remembers whether the document has been
+/// ended, and whether a part of it is lost. Characters that XML does not allow are refused before
+/// the platform's writer is called, with -101 and last error WC_E_XMLCHARACTER or
+/// WR_E_INVALIDSURROGATEPAIR. Without an open document every operation but `OpenFile` and `Close`
+/// gives -101 and last error E_UNEXPECTED.
 class CXMLLiteManagerWriter final : public CXMLLiteManager {
  public:
   CXMLLiteManagerWriter();
@@ -34,11 +36,14 @@ class CXMLLiteManagerWriter final : public CXMLLiteManager {
   HRESULT Ask(Call call);
   template <class Call>
   ConfigResult Write(Call call);
-  ConfigResult CheckCharacters(Text text);
+  ConfigResult Check(Text text);
+  HRESULT EndDocument();
+  HRESULT Finish();
   void Release();
 
   ComPtr<IXmlWriter> writer_;
   bool is_ended_ = false;  ///< the open document has been ended, but perhaps not flushed
+  HRESULT loss_ = S_OK;    ///< the first failure by which a part of the document may be lost
 };
 
 /// The writer that a node was given; null when it was given a reader.

@@ -7,14 +7,19 @@
 
 #include "documents/examples.h"
 #include "platform/platform.h"
+#include "support/capabilities.h"
 #include "support/files.h"
 #include "support/nodes.h"
 #include "support/streams.h"
+#include "support/writer_faults.h"
 
 #if !defined(_WIN32)
 #include <sys/resource.h>
 
+#include <cerrno>
 #include <csignal>
+
+#include "support/system_faults.h"
 #endif
 
 namespace tolva::test {
@@ -60,7 +65,113 @@ TEST_P(FailingStreams, AreReportedBehindWhatTheyGave) {
 INSTANTIATE_TEST_SUITE_P(All, FailingStreams, testing::ValuesIn(kExamples), NameOfExample);
 #endif
 
+/// A call of the platform's writer that fails, and works again the next time: whatever it should
+/// have written is lost, and whoever closes the document is told.
+TEST(PassingFailures, OfTheWriterAreTold) {
+  const Example::Node root = PolicyExample().Read();
+  const TempFile file;
+  Diagnostics diagnostics;
+  for (int n = 0;; ++n) {
+    const ManagerPtr writer = MakeWriter();
+    ASSERT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
+    const WriterFault fault(n);
+    root->WriteToXMLMgr(writer.get());  // 0 where the call was for an optional attribute
+    if (!WriterFault::HasStruck()) break;
+    tolvaSetLastError(0);
+    ASSERT_EQ(writer->Close(), -101) << n;
+    ASSERT_EQ(tolvaGetLastError(), WriterFault::kCode) << n;
+    ASSERT_EQ(writer->Close(), 0) << n;        // nothing is held any more
+    if (n == 0 || !WriterEscapes()) continue;  // not even the root
+    // What was good is there, and well-formed.
+    const ManagerPtr reader = MakeReader();
+    ASSERT_EQ(reader->OpenFile(file.Wide().c_str()), 0);
+    ASSERT_EQ(tolvaReadToEnd(reader.get()), 0) << n;
+  }
+}
+
 #if !defined(_WIN32)
+/// A policy that takes many blocks to write.
+Example::Node MakeLargePolicy() {
+  using namespace TolvaInterface;
+  Example::Node root = PolicyExample().Read();
+  ILocationArray& locations = *static_cast<IILPClientConfiguration&>(*root).GetLocationArray();
+  while (locations.GetLocationCount() < 60) locations.AddLocation(locations.GetLocationAt(0));
+  return root;
+}
+
+/// Writes a node to a file: 0 when the write and `Close` both gave that.
+ConfigResult WriteAndClose(const node::IElement& root, const TempFile& file) {
+  const ManagerPtr writer = MakeWriter();
+  EXPECT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
+  const ConfigResult written = root.WriteToXMLMgr(writer.get());
+  const ConfigResult closed = writer->Close();
+  return written != 0 ? written : closed;
+}
+
+/// A disk that is full once: either the file is whole, or the caller has been told.
+TEST(PassingFailures, OfTheDiskAreTold) {
+  const Example::Node root = MakeLargePolicy();
+  const std::string whole = WriteFile(*root);
+  ASSERT_GT(whole.size(), 130'000U);
+  Diagnostics diagnostics;
+  bool has_struck = true;
+  for (int n = 0; has_struck; ++n) {
+    const TempFile file;
+    const SystemFault fault(SystemCall::kWrite, n, ENOSPC);
+    tolvaSetLastError(0);
+    const ConfigResult result = WriteAndClose(*root, file);
+    has_struck = SystemFault::HasStruck();
+    ASSERT_EQ(result == 0, !has_struck) << n;
+    ASSERT_EQ(tolvaGetLastError(), has_struck ? 0x80070070U : 0U) << n;
+    ASSERT_TRUE(has_struck || file.Read() == whole) << n;
+  }
+}
+
+/// Where a block ends does not matter: with each length of the document's first value another call
+/// fills it.
+TEST(PassingFailures, FallIntoAnyCall) {
+  using namespace TolvaInterface;
+  const Example::Node root = MakeLargePolicy();
+  auto& policy = static_cast<IILPClientConfiguration&>(*root);
+  Diagnostics diagnostics;
+  std::wstring name = policy.GetName();
+  for (int shift = 0; shift < 2000; ++shift, name += L'x') {
+    policy.SetName(&name);
+    const TempFile file;
+    const SystemFault fault(SystemCall::kWrite, 0, ENOSPC);
+    ASSERT_NE(WriteAndClose(*root, file), 0) << shift;
+  }
+}
+
+TEST(PassingFailures, OfAnInterruptedWriteAreNone) {
+  const Example::Node root = MakeLargePolicy();
+  const std::string whole = WriteFile(*root);
+  const TempFile file;
+  for (const int n : {0, 1, 2}) {
+    const SystemFault fault(SystemCall::kWrite, n, EINTR);
+    EXPECT_EQ(WriteAndClose(*root, file), 0);
+    EXPECT_TRUE(SystemFault::HasStruck());
+    EXPECT_EQ(file.Read(), whole);
+  }
+}
+
+TEST(FailingClose, IsTold) {
+  const Example::Node root = PolicyExample().Read();
+  const TempFile file;
+  const ManagerPtr writer = MakeWriter();
+  ASSERT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
+  ASSERT_EQ(root->WriteToXMLMgr(writer.get()), 0);
+  const SystemFault fault(SystemCall::kClose, 0, EIO);
+  for (int again = 0; again < 2; ++again) {
+    tolvaSetLastError(0);
+    EXPECT_EQ(writer->Close(), -101);
+    EXPECT_EQ(tolvaGetLastError(), 0x8007045DU);
+  }
+  ASSERT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
+  ASSERT_EQ(root->WriteToXMLMgr(writer.get()), 0);
+  EXPECT_EQ(writer->Close(), 0);
+}
+
 /// While it lives, no file grows beyond a size.
 class FileSizeLimit {
  public:
@@ -109,17 +220,16 @@ void ExpectFullDisk(const node::IElement& root, const std::string& whole, std::s
 }
 
 TEST(FullDisk, IsReportedWhereverItIsMet) {
-  using namespace TolvaInterface;
-  const Example::Node root = PolicyExample().Read();
-  const std::string small = WriteFile(*root);
-  for (std::size_t room = 0; room < small.size(); ++room) ExpectFullDisk(*root, small, room);
-
-  // Of many blocks.
-  ILocationArray& locations = *static_cast<IILPClientConfiguration&>(*root).GetLocationArray();
-  while (locations.GetLocationCount() < 60) locations.AddLocation(locations.GetLocationAt(0));
-  const std::string large = WriteFile(*root);
-  ASSERT_GT(large.size(), 130'000U);
-  for (std::size_t room = 0; room < large.size(); room += 4093) ExpectFullDisk(*root, large, room);
+  const Example::Node example = PolicyExample().Read();
+  const std::string one_block = WriteFile(*example);
+  for (std::size_t room = 0; room < one_block.size(); ++room) {
+    ExpectFullDisk(*example, one_block, room);
+  }
+  const Example::Node large = MakeLargePolicy();
+  const std::string blocks = WriteFile(*large);
+  for (std::size_t room = 0; room < blocks.size(); room += 4093) {
+    ExpectFullDisk(*large, blocks, room);
+  }
 }
 #endif
 

@@ -116,9 +116,14 @@ TEST(Writer, RefusesBadNamesAndCharactersAndGoesOn) {
     }
     EXPECT_EQ(writer.WriteStartElement(nullptr, nullptr, nullptr), E_INVALIDARG);
     EXPECT_EQ(writer.WriteStartElement(nullptr, L"", nullptr), E_INVALIDARG);
-    EXPECT_EQ(writer.WriteStartElement(L"p", L"a", nullptr), E_NOTIMPL);
     EXPECT_EQ(writer.WriteWhitespace(L"ab"), WR_E_NONWHITESPACE);
     Start(writer, L"a");
+    const wchar_t* const namespaces[][2] = {{L"p", nullptr}, {nullptr, L"u"}, {L"p", L"u"}};
+    for (const auto& [prefix, uri] : namespaces) {
+      EXPECT_EQ(writer.WriteStartElement(prefix, L"n", uri), E_NOTIMPL);
+      EXPECT_EQ(writer.WriteAttributeString(prefix, L"n", uri, L""), E_NOTIMPL);
+      EXPECT_EQ(writer.WriteElementString(prefix, L"n", uri, L""), E_NOTIMPL);
+    }
     EXPECT_EQ(Attribute(writer, L"x", L"1"), S_OK);
     EXPECT_EQ(Attribute(writer, L"x", L"2"), WR_E_DUPLICATEATTRIBUTE);
     EXPECT_EQ(Attribute(writer, L"xmlns", L"u"), WR_E_XMLNSPREFIXDECLARATION);
@@ -128,8 +133,10 @@ TEST(Writer, RefusesBadNamesAndCharactersAndGoesOn) {
       EXPECT_EQ(writer.WriteElementString(nullptr, L"b", nullptr, bad), WC_E_XMLCHARACTER);
       EXPECT_EQ(writer.WriteString(bad), WC_E_XMLCHARACTER);
     }
-    EXPECT_EQ(Attribute(writer, L"y", L"x\xDC00\xD800"), WR_E_INVALIDSURROGATEPAIR);
-    EXPECT_EQ(Attribute(writer, L"y", L"\xD800"), WR_E_INVALIDSURROGATEPAIR);
+    for (const wchar_t* const bad :
+         {L"x\xDC00\xD800", L"\xD800", L"\xDC00\xDC00", L"\xD800\xD800"}) {
+      EXPECT_EQ(Attribute(writer, L"y", bad), WR_E_INVALIDSURROGATEPAIR);
+    }
     // Nothing of all that has been written, and nothing has been forgotten.
     EXPECT_EQ(Attribute(writer, L"y", nullptr), S_OK);
     EXPECT_EQ(Attribute(writer, L"y", nullptr), WR_E_DUPLICATEATTRIBUTE);
@@ -221,6 +228,14 @@ TEST(Writer, StaysRefusingAfterACallOutOfPlace) {
       EXPECT_EQ(next.text, "<a/>\n");
     });
   }
+  // White space is something already: a declaration has to come first of all.
+  SinkStream sink;
+  const ComPtr<IXmlWriter> blank = MakeWriter();
+  ASSERT_EQ(blank->SetOutput(&sink), S_OK);
+  EXPECT_EQ(blank->WriteWhitespace(L"\n"), S_OK);
+  EXPECT_EQ(blank->WriteStartDocument(XmlStandalone_Omit), WR_E_INVALIDACTION);
+  EXPECT_EQ(blank->SetOutput(nullptr), S_OK);
+
   const ComPtr<IXmlWriter> writer = MakeWriter();
   EXPECT_EQ(writer->WriteStartElement(nullptr, L"a", nullptr), E_UNEXPECTED);
   EXPECT_EQ(writer->Flush(), S_OK);
@@ -266,6 +281,39 @@ TEST(Writer, KeepsWhatTheStreamRefuses) {
   std::string expected = "<a>\n";
   for (int i = 0; i < written; ++i) expected += "  <b>" + std::string(1000, 'v') + "</b>\n";
   EXPECT_TRUE(sink.text == expected + "</a>\n");
+}
+
+/// A stream's failure comes to light where an element starts or ends: nobody has to be told of an
+/// attribute or of white space.
+TEST(Writer, HandsItsBlocksOverBetweenElements) {
+  const std::wstring value(100'000, L'v');
+  const std::function<HRESULT(IXmlWriter&)> calls[] = {
+      [](IXmlWriter& writer) { return writer.WriteStartElement(nullptr, L"c", nullptr); },
+      [](IXmlWriter& writer) { return writer.WriteElementString(nullptr, L"c", nullptr, L""); },
+      [](IXmlWriter& writer) { return writer.WriteEndElement(); },
+      [](IXmlWriter& writer) { return writer.WriteFullEndElement(); },
+      [](IXmlWriter& writer) { return writer.WriteEndDocument(); },
+      [](IXmlWriter& writer) { return writer.Flush(); },
+  };
+  for (const auto& call : calls) {
+    SinkStream sink;
+    const ComPtr<IXmlWriter> writer = MakeWriter();
+    ASSERT_EQ(writer->SetOutput(&sink), S_OK);
+    Start(*writer.Get(), L"a");
+    Start(*writer.Get(), L"b");
+    EXPECT_EQ(Attribute(*writer.Get(), L"v", value.c_str()), S_OK);
+    sink.capacity = 0;
+    EXPECT_EQ(Attribute(*writer.Get(), L"w", L""), S_OK);
+    EXPECT_EQ(writer->WriteString(value.c_str()), S_OK);
+    EXPECT_EQ(writer->WriteWhitespace(L"\n"), S_OK);
+    EXPECT_EQ(sink.text, "");
+    EXPECT_EQ(call(*writer.Get()), HRESULT_FROM_WIN32(ERROR_DISK_FULL));
+    sink.capacity = std::size_t{1} << 30;
+    EXPECT_EQ(call(*writer.Get()), S_OK);
+    EXPECT_GT(sink.text.size(), 2 * value.size());
+    EXPECT_EQ(writer->SetOutput(nullptr), S_OK);
+    EXPECT_TRUE(sink.text.ends_with("</a>\n"));
+  }
 }
 
 }  // namespace

@@ -16,6 +16,7 @@ namespace {
 
 bool ProbeEscapes() { return true; }
 bool ProbeTruncatedInput() { return true; }
+bool ProbeSecondRoot() { return true; }
 
 #else
 
@@ -56,6 +57,17 @@ bool ProbeTruncatedInput() {
   return !stream.has_run_out();
 }
 
+bool ProbeSecondRoot() {
+  SinkStream sink;  // outlives the writer
+  ComPtr<IXmlWriter> writer;
+  void* made = nullptr;
+  if (FAILED(CreateXmlWriter(kIidXmlWriter, &made, nullptr))) return false;
+  writer.Attach(static_cast<IXmlWriter*>(made));
+  return SUCCEEDED(writer->SetOutput(&sink)) &&
+         SUCCEEDED(writer->WriteElementString(nullptr, L"a", nullptr, L"")) &&
+         FAILED(writer->WriteElementString(nullptr, L"b", nullptr, L""));
+}
+
 #endif
 
 }  // namespace
@@ -63,6 +75,11 @@ bool ProbeTruncatedInput() {
 bool WriterEscapes() {
   static const bool escapes = ProbeEscapes();
   return escapes;
+}
+
+bool WriterRefusesASecondRoot() {
+  static const bool refuses = ProbeSecondRoot();
+  return refuses;
 }
 
 bool ReaderEndsTruncatedInput() {

@@ -7,6 +7,9 @@ namespace tolva::test {
 /// Attribute values are escaped.
 bool WriterEscapes();
 
+/// A document has one root element.
+bool WriterRefusesASecondRoot();
+
 /// Input that breaks off comes to an end.
 bool ReaderEndsTruncatedInput();
 

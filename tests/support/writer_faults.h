@@ -18,6 +18,9 @@ class WriterFault {
   WriterFault(const WriterFault&) = delete;
   WriterFault& operator=(const WriterFault&) = delete;
   ~WriterFault() { xml::calls_until_writer_fault = -1; }
+
+  /// The call has failed.
+  static bool HasStruck() { return xml::calls_until_writer_fault < 0; }
 };
 
 /// The reports when the n-th call (from 0) of the writing of a node fails.

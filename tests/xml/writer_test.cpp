@@ -4,8 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
+#include <new>
 #include <string>
 
+#include "support/allocations.h"
 #include "support/capabilities.h"
 #include "support/files.h"
 #include "support/managers.h"
@@ -86,9 +89,18 @@ TEST_F(ManagerWriter, WritesAFile) {
 }
 
 TEST_F(ManagerWriter, RefusesWhatCannotBeWritten) {
-  EXPECT_EQ(writer_.StartElement(L"early"), -101);
-  EXPECT_EQ(writer_.WriteElementString(L"early", L"x"), -101);
-  EXPECT_EQ(tolvaGetLastError(), kUntouched);
+  const std::function<ConfigResult()> early_calls[] = {
+      [this] { return writer_.StartElement(L"early"); },
+      [this] { return writer_.WriteAttribute(L"early", L"\x1"); },
+      [this] { return writer_.EndElement(L"early"); },
+      [this] { return writer_.WriteElementString(L"early", L"x"); },
+  };
+  for (const auto& call : early_calls) {
+    tolvaSetLastError(kUntouched);
+    EXPECT_EQ(call(), -101);
+    EXPECT_EQ(tolvaGetLastError(), 0x8000FFFFU);
+  }
+  EXPECT_EQ(writer_.Close(), 0);
   Open();
   ASSERT_EQ(writer_.StartElement(L"a"), 0);
   tolvaSetLastError(kUntouched);
@@ -105,7 +117,7 @@ TEST_F(ManagerWriter, RefusesWhatCannotBeWritten) {
   };
   for (const Case& one : {Case{std::wstring(L"x\0y", 3), 0xC00CEE2B}, Case{L"\x1", 0xC00CEE2B},
                           Case{L"x\xFFFE", 0xC00CEE2B}, Case{L"\xD800", 0xC00CEF0C},
-                          Case{L"\xDC00\xD800", 0xC00CEF0C}}) {
+                          Case{L"\xDC00\xD800", 0xC00CEF0C}, Case{L"\xDC00\xDC00", 0xC00CEF0C}}) {
     tolvaSetLastError(0);
     EXPECT_EQ(writer_.WriteAttribute(L"bad", one.text), -101);
     EXPECT_EQ(tolvaGetLastError(), one.error);
@@ -159,22 +171,7 @@ TEST_F(ManagerWriter, ReportsFaultsOfThePlatformsWriter) {
   }
   Open();
   ASSERT_EQ(writer_.StartElement(L"a"), 0);
-  {
-    const WriterFault fault(0);
-    EXPECT_EQ(writer_.WriteAttribute(L"b", L"x"), -101);
-    EXPECT_EQ(tolvaGetLastError(), kFault);
-  }
-  {
-    const WriterFault fault(0);
-    EXPECT_EQ(writer_.EndElement(nullptr), -101);
-  }
   ASSERT_EQ(writer_.StartElement(L"c"), 0);
-  tolvaSetLastError(0);
-  {
-    const WriterFault fault(1);  // the line feed: not the element's
-    EXPECT_EQ(writer_.EndElement(nullptr), 0);
-    EXPECT_EQ(tolvaGetLastError(), kFault);
-  }
   {
     const WriterFault fault(0);
     EXPECT_EQ(writer_.Close(), -101);
@@ -185,12 +182,100 @@ TEST_F(ManagerWriter, ReportsFaultsOfThePlatformsWriter) {
     EXPECT_EQ(tolvaGetLastError(), kFault);
   }
   EXPECT_EQ(writer_.StartElement(L"late"), -101);
+  EXPECT_EQ(tolvaGetLastError(), 0xC00CEF0BU);
   EXPECT_EQ(writer_.Close(), 0);
   EXPECT_TRUE(Holds("</a>"));
   EXPECT_FALSE(Holds("late"));
 }
 
+/// Whatever a failing call should have written is missing: `Close` says so, once, and brings the
+/// rest to the file.
+TEST_F(ManagerWriter, RemembersThatSomethingIsLost) {
+  struct Case {
+    std::function<ConfigResult()> call;
+    ConfigResult result;
+    int fault;
+  };
+  const Case cases[] = {
+      {[this] { return writer_.WriteAttribute(L"lost", L"x"); }, -101, 0},
+      {[this] { return writer_.StartElement(L"lost"); }, -101, 0},
+      {[this] { return writer_.WriteElementString(L"lost", L"x"); }, -101, 0},
+      {[this] { return writer_.EndElement(L"lost"); }, -101, 0},
+      {[this] { return writer_.EndElement(nullptr); }, -101, 0},
+      {[this] { return writer_.EndElement(nullptr); }, 0, 1},  // the line feed: not the element's
+  };
+  for (const Case& one : cases) {
+    Open();
+    ASSERT_EQ(writer_.StartElement(L"a"), 0);
+    ASSERT_EQ(writer_.StartElement(L"b"), 0);
+    {
+      const WriterFault fault(one.fault);
+      EXPECT_EQ(one.call(), one.result);
+      EXPECT_EQ(tolvaGetLastError(), kFault);
+    }
+    ASSERT_EQ(writer_.WriteElementString(L"good", L"x"), 0);
+    // It is the first failure that is told, and one of what was written is none.
+    EXPECT_EQ(writer_.WriteAttribute(L"bad", L"\x1"), -101);
+    EXPECT_EQ(writer_.Close(), -101);
+    EXPECT_EQ(tolvaGetLastError(), kFault);
+    EXPECT_EQ(writer_.Close(), 0);
+    EXPECT_TRUE(Holds("<good>x</good>"));
+    EXPECT_TRUE(Holds("</a>"));
+    EXPECT_FALSE(Holds("lost"));
+  }
+  Open();  // the next document has lost nothing
+  ASSERT_EQ(writer_.StartElement(L"a"), 0);
+  EXPECT_EQ(writer_.Close(), 0);
+}
+
+TEST_F(ManagerWriter, RefusesASecondRootAndKeepsTheFirst) {
+  TOLVA_REQUIRE(WriterRefusesASecondRoot);
+  Open();
+  ASSERT_EQ(writer_.WriteElementString(L"first", L"good"), 0);
+  EXPECT_EQ(writer_.StartElement(L"second"), -101);
+  EXPECT_EQ(tolvaGetLastError(), 0xC00CEF0BU);
+  for (int again = 0; again < 2; ++again) {
+    tolvaSetLastError(kUntouched);
+    EXPECT_EQ(writer_.Close(), -101);
+    EXPECT_EQ(tolvaGetLastError(), 0xC00CEF0BU);
+    EXPECT_TRUE(Holds("<first>good</first>"));
+  }
+  EXPECT_FALSE(Holds("second"));
+  Open();
+  ASSERT_EQ(writer_.StartElement(L"next"), 0);
+  EXPECT_EQ(writer_.Close(), 0);
+}
+
 #if !defined(_WIN32)
+TEST_F(ManagerWriter, IsClosedWhenMemoryRunsOutInOpenFile) {
+  Open();
+  ASSERT_EQ(writer_.StartElement(L"a"), 0);  // to be finished by the next open
+  const std::wstring path = file_.Wide();
+  bool failed = true;
+  for (std::size_t n = 0; failed; ++n) {
+    CXMLLiteManagerWriter fresh;
+    for (CXMLLiteManagerWriter* const writer : {&fresh, &writer_}) {
+      failed = false;
+      tolvaSetLastError(0);
+      try {
+        const FailingAllocations failing(n);
+        failed = writer->OpenFile(path.c_str()) != 0;
+      } catch (const std::bad_alloc&) {
+        failed = true;
+      }
+      if (!failed) continue;
+      EXPECT_EQ(writer->StartElement(L"a"), -101);
+      EXPECT_EQ(tolvaGetLastError(), 0x8000FFFFU);
+      EXPECT_EQ(writer->Close(), 0);
+      ASSERT_EQ(writer->OpenFile(path.c_str()), 0);
+      EXPECT_EQ(writer->StartElement(L"a"), 0);
+    }
+  }
+  EXPECT_EQ(writer_.StartElement(L"b"), 0);
+  EXPECT_EQ(writer_.Close(), 0);
+  EXPECT_TRUE(Holds("<?xml"));
+}
+
 TEST_F(ManagerWriter, ReportsAFullDisk) {
   ASSERT_EQ(writer_.OpenFile(L"/dev/full"), 0);
   ASSERT_EQ(writer_.StartElement(L"a"), 0);
