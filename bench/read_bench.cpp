@@ -229,7 +229,7 @@ bool FillFromTree(const Plan& plan, const pugi::xml_node& element, node::IElemen
     const Plan::ChildRow* const row = FindRow(plan.children, inner.name(), next);
     if (row == nullptr) continue;
     const node::ChildRef child = row->row->locate(node);
-    node::IElement& target = child.items != nullptr ? child.items->Append() : *child.element;
+    node::IElement& target = row->row->make(node);
     if (child.present != nullptr) *child.present = 1;
     if (!FillFromTree(*row->plan, inner, target)) return false;
     found |= std::uint32_t{1} << (row - plan.children.data());
@@ -314,7 +314,7 @@ class ExpatFiller {
         if (child.present != nullptr) *child.present = 1;
         outer.found |= std::uint32_t{1} << (row - outer.plan->children.data());
         frame.plan = row->plan;
-        frame.node = child.items != nullptr ? &child.items->Append() : child.element;
+        frame.node = &row->row->make(*outer.node);
       }
     }
     std::size_t next = 0;

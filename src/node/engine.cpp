@@ -273,19 +273,20 @@ const Child* FindChild(const Schema& schema, const wchar_t* name, const Child* l
 ConfigResult ReadClear(const Schema& schema, INode& node, CXMLLiteManagerReader& reader);
 
 ConfigResult ReadChild(const Child& row, INode& node, CXMLLiteManagerReader& reader) {
-  const ChildRef child = row.locate(node);
+  IElement& child = row.make(node);
   if (row.occurrence == Occurrence::kRepeated) {
     // Every class of items reads by its table, and its row has the table's name.
-    if (ReadClear(*row.schema, child.items->Append(), reader) == kSuccess) return kSuccess;
+    if (ReadClear(*row.schema, static_cast<INode&>(child), reader) == kSuccess) return kSuccess;
     node.Clear();
     ReportOr(row.read_fault, kReadItem, row.name);
     return kFailed;
   }
-  if (child.element->ReadFromXMLMgr(&reader, 0) != kSuccess) {
+  if (child.ReadFromXMLMgr(&reader, 0) != kSuccess) {
     ReportOr(row.read_fault, kReadChild, row.name);
     return kFailed;
   }
-  if (child.present != nullptr) *child.present = 1;
+  DWORD* const present = row.locate(node).present;
+  if (present != nullptr) *present = 1;
   return kSuccess;
 }
 

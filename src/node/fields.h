@@ -5,6 +5,7 @@
 //   Optional<T> x_;                optional attribute
 //   CY y_;                         required child
 //   OptionalChild<CY> y_;          optional child
+//   LazyChild<CY> y_;              optional child that is large, in an element that occurs often
 //   ChildList<CY> y_;              repeated child
 //
 // All are values: copying a class copies everything below it.
@@ -84,6 +85,61 @@ struct OptionalChild {
 
   C child;
   DWORD present = 0;
+};
+
+/// An optional child that is made when it is first needed, and kept from then on. An element that
+/// occurs often and mostly goes without the child is small with it.
+template <class C>
+class LazyChild {
+ public:
+  using Interface = typename C::Interface;
+
+  LazyChild() = default;
+  LazyChild(const LazyChild& other)
+      : child_(other.child_ == nullptr ? nullptr : std::make_unique<C>(*other.child_)),
+        present_(other.present_) {}
+  LazyChild(LazyChild&&) noexcept = default;
+  LazyChild& operator=(const LazyChild& other) { return *this = LazyChild(other); }
+  LazyChild& operator=(LazyChild&& other) noexcept {
+    // A child stays where it is: callers may have its address.
+    if (child_ == nullptr) {
+      child_ = std::move(other.child_);
+    } else {
+      *child_ = other.child_ == nullptr ? C() : std::move(*other.child_);
+    }
+    present_ = other.present_;
+    return *this;
+  }
+  ~LazyChild() = default;
+
+  ConfigResult Get(Interface** out) {
+    if (present_ == 0) return kAbsent;
+    if (out != nullptr) *out = child_.get();
+    return kSuccess;
+  }
+
+  ConfigResult Set(const Interface* new_child) {
+    if (new_child != nullptr) Assign(Made(), static_cast<const C&>(*new_child));
+    present_ = new_child == nullptr ? 0 : 1;
+    return kSuccess;
+  }
+
+  void Clear() {
+    present_ = 0;
+    if (child_ != nullptr) child_->Clear();
+  }
+
+  /// Null while the child has not been made. A child that is present has been.
+  C* Find() { return child_.get(); }
+  C& Made() {
+    if (child_ == nullptr) child_ = std::make_unique<C>();
+    return *child_;
+  }
+  DWORD& present() { return present_; }
+
+ private:
+  std::unique_ptr<C> child_;
+  DWORD present_ = 0;
 };
 
 /// A repeated child, as far as it can be handled without knowing its class.

@@ -110,7 +110,7 @@ enum class Occurrence : std::uint8_t { kRequired, kOptional, kRepeated };
 
 /// Where a child lies in a node.
 struct ChildRef {
-  IElement* element;  ///< the child, unless it is repeated
+  IElement* element;  ///< the child; null: it is repeated, or absent and has not been made
   DWORD* present;     ///< for an optional one
   ItemList* items;    ///< for a repeated one
 };
@@ -123,6 +123,7 @@ struct Child {
   Occurrence occurrence;
   const Schema* schema;  ///< the child's own table
   ChildRef (*locate)(IElement& node);
+  IElement& (*make)(IElement& node);  ///< what is read into: the child, or a new item
   void (*clear)(IElement& node);
 
   bool is_missed_first = false;  ///< its absence is reported before that of the rows above it
@@ -265,6 +266,7 @@ struct ChildTraits {
   using Element = C;
   static constexpr Occurrence kOccurrence = Occurrence::kRequired;
   static ChildRef Locate(C& child) { return {&child, nullptr, nullptr}; }
+  static IElement& Make(C& child) { return child; }
   static void Clear(C& child) { child.Clear(); }
 };
 
@@ -275,10 +277,20 @@ struct ChildTraits<OptionalChild<C>> {
   static ChildRef Locate(OptionalChild<C>& field) {
     return {&field.child, &field.present, nullptr};
   }
+  static IElement& Make(OptionalChild<C>& field) { return field.child; }
   static void Clear(OptionalChild<C>& field) {
     field.present = 0;
     field.child.Clear();
   }
+};
+
+template <class C>
+struct ChildTraits<LazyChild<C>> {
+  using Element = C;
+  static constexpr Occurrence kOccurrence = Occurrence::kOptional;
+  static ChildRef Locate(LazyChild<C>& field) { return {field.Find(), &field.present(), nullptr}; }
+  static IElement& Make(LazyChild<C>& field) { return field.Made(); }
+  static void Clear(LazyChild<C>& field) { field.Clear(); }
 };
 
 template <class C, class I>
@@ -289,12 +301,18 @@ struct ChildTraits<ChildList<C, I>> {
   using Element = C;
   static constexpr Occurrence kOccurrence = Occurrence::kRepeated;
   static ChildRef Locate(ChildList<C, I>& items) { return {nullptr, nullptr, &items}; }
+  static IElement& Make(ChildList<C, I>& items) { return items.Append(); }
   static void Clear(ChildList<C, I>& items) { items.RemoveAll(); }
 };
 
 template <auto Member>
 ChildRef LocateChild(IElement& node) {
   return ChildTraits<typename MemberOf<decltype(Member)>::Field>::Locate(FieldOf<Member>(node));
+}
+
+template <auto Member>
+IElement& MakeChild(IElement& node) {
+  return ChildTraits<typename MemberOf<decltype(Member)>::Field>::Make(FieldOf<Member>(node));
 }
 
 template <auto Member>
@@ -325,7 +343,11 @@ constexpr Attribute Attr(const wchar_t* name, EnumTexts texts) {
 template <auto Member>
 constexpr Child Elem(const wchar_t* name) {
   using Traits = internal::ChildTraits<typename internal::MemberOf<decltype(Member)>::Field>;
-  return {name, Traits::kOccurrence, &Traits::Element::kSchema, &internal::LocateChild<Member>,
+  return {name,
+          Traits::kOccurrence,
+          &Traits::Element::kSchema,
+          &internal::LocateChild<Member>,
+          &internal::MakeChild<Member>,
           &internal::ClearChild<Member>};
 }
 

@@ -139,7 +139,7 @@ class CLocation final : public Node<CLocation, ILocation> {
   std::wstring name_;
   Optional<std::wstring> desc_;
   Optional<DWORD> criteriaCPSconnection_;
-  OptionalChild<CILPProtection> ilpProtection_;
+  LazyChild<CILPProtection> ilpProtection_;
 };
 
 class CLocationArray final : public Node<CLocationArray, ILocationArray> {

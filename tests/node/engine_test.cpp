@@ -452,15 +452,54 @@ constinit const node::Child CNotes::kChildren[] = {
      [](node::IElement& node) {
        return tolva::node::ChildRef{nullptr, nullptr, &static_cast<CNotes&>(node).notes};
      },
-     [](node::IElement&) {}},
+     [](node::IElement& node) -> node::IElement& { return node; }, [](node::IElement&) {}},
     {L"Last", node::Occurrence::kRequired, nullptr,
      [](node::IElement& node) {
        return tolva::node::ChildRef{&static_cast<CNotes&>(node).last, nullptr, nullptr};
      },
-     [](node::IElement&) {}},
+     [](node::IElement& node) -> node::IElement& { return node; }, [](node::IElement&) {}},
 };
 constinit const node::Schema CNotes::kSchema = {
     .element = L"Notes", .dialect = kNoDialect, .children = kChildren};
+
+/// A child that is made when it is needed behaves as one that is always there.
+TEST(Engine, MakesALargeChildOnce) {
+  const std::wstring_view lit =
+      L"<Book><Pages>1</Pages><Title>t</Title><Lamp Colour='ASH' Watts='4'/></Book>";
+  CBook book;
+  EXPECT_EQ(book.lamp.Get(nullptr), 1);
+  WriteText(book);
+  book.Clear();
+  EXPECT_EQ(book.lamp.Find(), nullptr);
+
+  ASSERT_EQ(ReadText(book, lit), 0);
+  const CLamp* const lamp = book.lamp.Find();
+  ASSERT_NE(lamp, nullptr);
+  EXPECT_EQ(book.lamp.Get(nullptr), 0);
+  EXPECT_EQ(lamp->watts.value, 4U);
+  const DWORD colour = lamp->colour;
+  EXPECT_NE(colour, 0U);
+
+  const CBook copy(book);
+  EXPECT_NE(const_cast<CBook&>(copy).lamp.Find(), lamp);
+  EXPECT_EQ(WriteText(copy), WriteText(book));
+
+  // What survives a Clear within it survives, and callers may keep its address.
+  ASSERT_EQ(ReadText(book, L"<Book><Lamp Colour='ASH' Watts='x'/></Book>"), -101);
+  EXPECT_EQ(book.lamp.Get(nullptr), 1);
+  EXPECT_EQ(lamp->watts.present, 0U);
+  EXPECT_EQ(lamp->colour, colour);
+  book.CopyFrom(copy);
+  EXPECT_EQ(lamp->watts.value, 4U);
+  book.CopyFrom(CBook());
+  EXPECT_EQ(lamp->colour, 0U);
+  EXPECT_EQ(book.lamp.Set(const_cast<CBook&>(copy).lamp.Find()), 0);
+  EXPECT_EQ(lamp->colour, colour);
+  EXPECT_EQ(book.lamp.Set(nullptr), 0);
+  EXPECT_EQ(book.lamp.Get(nullptr), 1);
+  EXPECT_EQ(lamp->watts.value, 4U);
+  EXPECT_EQ(book.lamp.Find(), lamp);
+}
 
 TEST(Engine, TellsChildrenTheirPositions) {
   CNotes notes;

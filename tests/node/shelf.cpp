@@ -39,6 +39,7 @@ constinit const Child CBook::kChildren[] = {
     Elem<&CBook::pages>(L"Pages"),
     Elem<&CBook::title>(L"Title").MissedFirst(),
     Elem<&CBook::remark>(L"Remark"),
+    Elem<&CBook::lamp>(L"Lamp"),
 };
 constinit const Schema CBook::kSchema = {
     .element = L"Book", .dialect = kSigned, .children = kChildren};

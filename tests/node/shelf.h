@@ -39,19 +39,6 @@ class CRemark final : public NodeOf<CRemark> {
   tolva::node::Optional<std::wstring> content;
 };
 
-class CBook final : public NodeOf<CBook> {
- public:
-  static const tolva::node::Schema kSchema;
-  ConfigResult SetTitle(const IOf<CTitle>* child) { return SetRequiredChild(title, child); }
-
-  CPages pages;
-  CTitle title;
-  tolva::node::OptionalChild<CRemark> remark;
-
- private:
-  static const tolva::node::Child kChildren[];
-};
-
 /// An element without children whose `Clear` leaves one field alone.
 class CLamp final : public NodeOf<CLamp> {
  public:
@@ -67,6 +54,20 @@ class CLamp final : public NodeOf<CLamp> {
 
  private:
   static const tolva::node::Attribute kAttributes[];
+};
+
+class CBook final : public NodeOf<CBook> {
+ public:
+  static const tolva::node::Schema kSchema;
+  ConfigResult SetTitle(const IOf<CTitle>* child) { return SetRequiredChild(title, child); }
+
+  CPages pages;
+  CTitle title;
+  tolva::node::OptionalChild<CRemark> remark;
+  tolva::node::LazyChild<CLamp> lamp;
+
+ private:
+  static const tolva::node::Child kChildren[];
 };
 
 /// A list that fails in silence, and whose items are elements of another name than its own.

@@ -225,6 +225,23 @@ TEST_P(EveryElement, KeepsWhateverItHolds) {
 }
 
 #if !defined(_WIN32)
+/// A document that is made of the shortest items takes a bounded multiple of its size.
+TEST(Items, TakeLittleMemory) {
+  constexpr std::size_t kBytesPerByte = 18;
+  constexpr std::size_t kCount = 1000;
+  for (const Element& element : AllElements()) {
+    for (const Child& row : element.schema->children) {
+      if (row.occurrence != Occurrence::kRepeated) continue;
+      const NodePtr node(element.make());
+      const std::size_t before = CountAllocations().bytes;
+      for (std::size_t i = 0; i < kCount; ++i) row.make(*node);
+      const std::size_t held = CountAllocations().bytes - before;
+      const std::string shortest = WriteText(row.locate(*node).items->Item(0));
+      EXPECT_LE(held, kBytesPerByte * kCount * shortest.size()) << shortest;
+    }
+  }
+}
+
 /// Whichever allocation fails, alone or with all that follow: std::bad_alloc is all that comes out,
 /// nothing is half done, nothing is lost, and everything can be used again.
 TEST_P(EveryElement, SurvivesARunOutOfMemory) {

@@ -74,7 +74,7 @@ void RandomContent::Fill(const Schema& table, IElement& node) {
       }
       continue;
     }
-    Fill(*row.schema, *child.element);
+    Fill(*row.schema, row.make(node));
     if (child.present != nullptr) *child.present = Below(4) == 0 ? 0 : 1;
   }
   --depth_;
@@ -140,8 +140,8 @@ void Reveal(const Schema& table, IElement& node) {
   for (const Child& row : table.children) {
     const ChildRef child = row.locate(node);
     if (child.items != nullptr) continue;
+    Reveal(*row.schema, row.make(node));
     if (child.present != nullptr) *child.present = 1;
-    Reveal(*row.schema, *child.element);
   }
 }
 
