@@ -351,7 +351,9 @@ TEST_F(ManagerReader, IsClosedWhenMemoryRunsOutInAnOpen) {
         failed = true;
       }
       EXPECT_EQ(reader_.node_type(), failed ? kNone : kElement);
+      tolvaSetLastError(kUntouched);
       EXPECT_EQ(tolvaReadToEnd(&reader_), failed ? -101 : 0);
+      EXPECT_EQ(tolvaGetLastError(), kUntouched);  // that of a reader that holds nothing
     }
   }
 }
