@@ -70,12 +70,12 @@ std::string TypeOf(ValueType type, const EnumTexts& texts, Numbers numbers) {
 std::string OccurrenceOf(const Attribute& row) {
   if (row.is_one_when_absent) return "absent reads as 1";
   if (row.is_present_when_clear) return "absent reads as 0";
-  if (row.is_kept_when_absent) return "always written, may be absent";
+  if (row.may_be_absent) return "always written, may be absent";
   return row.is_optional ? "optional" : "required";
 }
 
 std::string OccurrenceOf(const Child& row) {
-  if (row.is_dispensable) return "always written, may be absent";
+  if (row.may_be_absent) return "always written, may be absent";
   switch (row.occurrence) {
     case Occurrence::kRequired:
       return "required";

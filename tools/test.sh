@@ -117,6 +117,7 @@ part_sources() {
   check 'formatting' tools/format.sh --check
   check 'shell scripts' shellcheck tools/*.sh tests/tables/*.sh .ci/run
   check 'example of the README' tools/check-readme.sh
+  check 'tables that must not compile' tools/must-fail.sh
 }
 
 part_linux() {

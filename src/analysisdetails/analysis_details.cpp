@@ -12,198 +12,186 @@ constexpr const wchar_t* kContentTypes[] = {L"Subject", L"Attachment", L"Other"}
 
 }  // namespace
 
-constinit const Schema Cname::kSchema = {
+constinit const Schema Cname::kSchema = Checked({
     .element = L"name",
     .dialect = kDialect,
     .content = TextOf<&Cname::content_>(),
-};
+});
 
-constinit const Schema CpolicyID::kSchema = {
+constinit const Schema CpolicyID::kSchema = Checked({
     .element = L"policyID",
     .dialect = kDialect,
     .content = TextOf<&CpolicyID::content_>(),
-};
+});
 
-constinit const Schema Cseverity::kSchema = {
+constinit const Schema Cseverity::kSchema = Checked({
     .element = L"severity",
     .dialect = kDialect,
     .content = TextOf<&Cseverity::content_>(),
-};
+});
 
-constinit const Schema CnumOfMatches::kSchema = {
+constinit const Schema CnumOfMatches::kSchema = Checked({
     .element = L"numOfMatches",
     .dialect = kDialect,
     .content = TextOf<&CnumOfMatches::content_>(),
-};
+});
 
-constinit const Schema Cvalue::kSchema = {
+constinit const Schema Cvalue::kSchema = Checked({
     .element = L"value",
     .dialect = kDialect,
     .content = TextOf<&Cvalue::content_>(),
-};
+});
 
-constinit const Schema Ccount::kSchema = {
+constinit const Schema Ccount::kSchema = Checked({
     .element = L"count",
     .dialect = kDialect,
     .content = TextOf<&Ccount::content_>().LeadingDigits(),
-};
+});
 
-constinit const Schema Clocation::kSchema = {
+constinit const Schema Clocation::kSchema = Checked({
     .element = L"location",
     .dialect = kDialect,
     .content = TextOf<&Clocation::content_>(),
-};
+});
 
-constinit const Schema Ccontext::kSchema = {
+constinit const Schema Ccontext::kSchema = Checked({
     .element = L"context",
     .dialect = kDialect,
     .content = TextOf<&Ccontext::content_>(),
-};
+});
 
-constinit const Schema CclassifierType::kSchema = {
+constinit const Schema CclassifierType::kSchema = Checked({
     .element = L"classifierType",
     .dialect = kDialect,
     .content = TextOf<&CclassifierType::content_>(),
-};
+});
 
-constinit const Child CdetectedValue::kChildren[] = {
+constexpr Child kDetectedValueChildren[] = {
     Elem<&CdetectedValue::value_>(L"value"),
-    Elem<&CdetectedValue::count_>(L"count").MissedFirst(),
+    Elem<&CdetectedValue::count_>(L"count").AbsenceReportedFirst(),
     Elem<&CdetectedValue::location_>(L"location"),
     Elem<&CdetectedValue::context_>(L"context"),
     Elem<&CdetectedValue::classifierType_>(L"classifierType"),
 };
-constinit const Schema CdetectedValue::kSchema = {
+constinit const Schema CdetectedValue::kSchema = Checked({
     .element = L"detectedValue",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kDetectedValueChildren,
+});
 
-constinit const Child CdetectedValues::kChildren[] = {
+constexpr Child kDetectedValuesChildren[] = {
     Elem<&CdetectedValues::detectedValues_>(L"detectedValue"),
 };
-constinit const Schema CdetectedValues::kSchema = {
+constinit const Schema CdetectedValues::kSchema = Checked({
     .element = L"detectedValues",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kDetectedValuesChildren,
+});
 
-constinit const Schema CcustomDisplayText::kSchema = {
+constinit const Schema CcustomDisplayText::kSchema = Checked({
     .element = L"customDisplayText",
     .dialect = kDialect,
     .content = TextOf<&CcustomDisplayText::content_>(),
-};
+});
 
-constinit const Child Cviolation::kChildren[] = {
+constexpr Child kViolationChildren[] = {
     Elem<&Cviolation::name_>(L"name"),
     Elem<&Cviolation::policyID_>(L"policyID"),
     Elem<&Cviolation::severity_>(L"severity"),
     Elem<&Cviolation::numOfMatches_>(L"numOfMatches"),
     Elem<&Cviolation::detectedValues_>(L"detectedValues"),
-    Elem<&Cviolation::customDisplayText_>(L"customDisplayText").MayBeMissing(),
+    Elem<&Cviolation::customDisplayText_>(L"customDisplayText").MayBeAbsent(),
 };
-constinit const Schema Cviolation::kSchema = {
+constinit const Schema Cviolation::kSchema = Checked({
     .element = L"violation",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kViolationChildren,
+});
 
-constinit const Attribute Cviolations::kAttributes[] = {
+constexpr Attribute kViolationsAttributes[] = {
     Attr<&Cviolations::maxMatches_>(L"maxMatches"),
 };
-constinit const Child Cviolations::kChildren[] = {
+constexpr Child kViolationsChildren[] = {
     Elem<&Cviolations::violations_>(L"violation"),
 };
-constinit const Schema Cviolations::kSchema = {
+constinit const Schema Cviolations::kSchema = Checked({
     .element = L"violations",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kViolationsAttributes,
+    .children = kViolationsChildren,
+});
 
-constinit const Attribute Caddress::kAttributes[] = {
-    Attr<&Caddress::type_>(L"type", {kAddressTypes}),
+constexpr Attribute kAddressAttributes[] = {
+    Attr<&Caddress::type_>(L"type", {kAddressTypes}).KeepsValue(),
     Attr<&Caddress::value_>(L"value"),
 };
-constinit const Schema Caddress::kSchema = {
+constinit const Schema Caddress::kSchema = Checked({
     .element = L"address",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kAddressAttributes,
+});
 
-constinit const Child Caddresses::kChildren[] = {
+constexpr Child kAddressesChildren[] = {
     Elem<&Caddresses::addresses_>(L"address"),
 };
-constinit const Schema Caddresses::kSchema = {
+constinit const Schema Caddresses::kSchema = Checked({
     .element = L"addresses",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kAddressesChildren,
+});
 
-constinit const Child Cdestinations::kChildren[] = {
+constexpr Child kDestinationsChildren[] = {
     Elem<&Cdestinations::addresses_>(L"addresses"),
 };
-constinit const Schema Cdestinations::kSchema = {
+constinit const Schema Cdestinations::kSchema = Checked({
     .element = L"destinations",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kDestinationsChildren,
+});
 
-constinit const Attribute CextractedContent::kAttributes[] = {
-    Attr<&CextractedContent::type_>(L"type", {kContentTypes}),
+constexpr Attribute kExtractedContentAttributes[] = {
+    Attr<&CextractedContent::type_>(L"type", {kContentTypes}).KeepsValue(),
     Attr<&CextractedContent::value_>(L"value"),
 };
-constinit const Schema CextractedContent::kSchema = {
+constinit const Schema CextractedContent::kSchema = Checked({
     .element = L"extractedContent",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kExtractedContentAttributes,
+});
 
-constinit const Child CextractedContents::kChildren[] = {
+constexpr Child kExtractedContentsChildren[] = {
     Elem<&CextractedContents::extractedContents_>(L"extractedContent"),
 };
-constinit const Schema CextractedContents::kSchema = {
+constinit const Schema CextractedContents::kSchema = Checked({
     .element = L"extractedContents",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kExtractedContentsChildren,
+});
 
-constinit const Child CadditionalData::kChildren[] = {
+constexpr Child kAdditionalDataChildren[] = {
     Elem<&CadditionalData::destinations_>(L"destinations"),
     Elem<&CadditionalData::extractedContents_>(L"extractedContents"),
 };
-constinit const Schema CadditionalData::kSchema = {
+constinit const Schema CadditionalData::kSchema = Checked({
     .element = L"additionalData",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kAdditionalDataChildren,
+});
 
-constinit const Attribute CanalysisDetails::kAttributes[] = {
+constexpr Attribute kAnalysisDetailsAttributes[] = {
     Attr<&CanalysisDetails::transactionID_>(L"transactionID"),
     Attr<&CanalysisDetails::version_>(L"version"),
 };
-constinit const Child CanalysisDetails::kChildren[] = {
+constexpr Child kAnalysisDetailsChildren[] = {
     Elem<&CanalysisDetails::violations_>(L"violations"),
     Elem<&CanalysisDetails::additionalData_>(L"additionalData"),
 };
-constinit const Schema CanalysisDetails::kSchema = {
+constinit const Schema CanalysisDetails::kSchema = Checked({
     .element = L"analysisDetails",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
-
-void Caddress::Clear() {
-  const DWORD type = type_;
-  Node::Clear();
-  type_ = type;
-}
-
-void CextractedContent::Clear() {
-  const DWORD type = type_;
-  Node::Clear();
-  type_ = type;
-}
+    .attributes = kAnalysisDetailsAttributes,
+    .children = kAnalysisDetailsChildren,
+});
 
 ConfigResult Cviolation::SetCustomDisplayText(const IcustomDisplayText* child) {
   if (child == nullptr) return tolva::kFailed;

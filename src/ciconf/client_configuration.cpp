@@ -2,49 +2,49 @@
 
 namespace CIConfInterface {
 
-constinit const Attribute CEIMServer::kAttributes[] = {
+constexpr Attribute kEIMServerAttributes[] = {
     Attr<&CEIMServer::hostName_>(L"HostName"),
     Attr<&CEIMServer::portNumber_>(L"PortNumber"),
 };
-constinit const Schema CEIMServer::kSchema = {
+constinit const Schema CEIMServer::kSchema = Checked({
     .element = L"EIMServer",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kEIMServerAttributes,
+});
 
-constinit const Child CEIMServerArray::kChildren[] = {
+constexpr Child kEIMServerArrayChildren[] = {
     Elem<&CEIMServerArray::eimServers_>(L"EIMServer"),
 };
-constinit const Schema CEIMServerArray::kSchema = {
+constinit const Schema CEIMServerArray::kSchema = Checked({
     .element = L"EIMServerArray",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kEIMServerArrayChildren,
+});
 
-constinit const Child CEIMConnection::kChildren[] = {
+constexpr Child kEIMConnectionChildren[] = {
     Elem<&CEIMConnection::eimServerArray_>(L"EIMServerArray"),
 };
-constinit const Schema CEIMConnection::kSchema = {
+constinit const Schema CEIMConnection::kSchema = Checked({
     .element = L"EIMConnection",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kEIMConnectionChildren,
+});
 
-constinit const Attribute CConnection::kAttributes[] = {
+constexpr Attribute kConnectionAttributes[] = {
     Attr<&CConnection::doNotSendUserName_>(L"DoNotSendUserName"),
     Attr<&CConnection::failClosed_>(L"FailClosed"),
 };
-constinit const Child CConnection::kChildren[] = {
+constexpr Child kConnectionChildren[] = {
     Elem<&CConnection::eimConnection_>(L"EIMConnection"),
 };
-constinit const Schema CConnection::kSchema = {
+constinit const Schema CConnection::kSchema = Checked({
     .element = L"Connection",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kConnectionAttributes,
+    .children = kConnectionChildren,
+});
 
-constinit const Attribute CUserInterface::kAttributes[] = {
+constexpr Attribute kUserInterfaceAttributes[] = {
     Attr<&CUserInterface::uiSilentMode_>(L"UISilentMode"),
     Attr<&CUserInterface::displayHTTPSBlockMsg_>(L"DisplayHTTPSBlockMsg"),
     Attr<&CUserInterface::httpsBlockMsgInterval_>(L"HTTPSBlockMsgInterval"),
@@ -52,57 +52,57 @@ constinit const Attribute CUserInterface::kAttributes[] = {
     Attr<&CUserInterface::ftpBlockMsgInterval_>(L"FTPBlockMsgInterval"),
     Attr<&CUserInterface::uiTimeout_>(L"UITimeout"),
 };
-constinit const Schema CUserInterface::kSchema = {
+constinit const Schema CUserInterface::kSchema = Checked({
     .element = L"UserInterface",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kUserInterfaceAttributes,
+});
 
-constinit const Attribute CClientSetting::kAttributes[] = {
+constexpr Attribute kClientSettingAttributes[] = {
     Attr<&CClientSetting::enableTamperProtection_>(L"EnableTamperProtection"),
     Attr<&CClientSetting::enableTelemetry_>(L"EnableTelemetry")
         .PresentWhenClear()
-        .ReadFault(L"XMLManager: read dword/bool Attribute failed. element:ClientSetting, "
-                   L"attr:EnableTelemetry"),
+        .ReadReport(L"XMLManager: read dword/bool Attribute failed. element:ClientSetting, "
+                    L"attr:EnableTelemetry"),
 };
-constinit const Child CClientSetting::kChildren[] = {
+constexpr Child kClientSettingChildren[] = {
     Elem<&CClientSetting::userInterface_>(L"UserInterface"),
 };
-constinit const Schema CClientSetting::kSchema = {
+constinit const Schema CClientSetting::kSchema = Checked({
     .element = L"ClientSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kClientSettingAttributes,
+    .children = kClientSettingChildren,
+});
 
-constinit const Attribute CURLCondition::kAttributes[] = {
+constexpr Attribute kURLConditionAttributes[] = {
     Attr<&CURLCondition::siteURL_>(L"SiteURL"),
 };
-constinit const Schema CURLCondition::kSchema = {
+constinit const Schema CURLCondition::kSchema = Checked({
     .element = L"URLCondition",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kURLConditionAttributes,
+});
 
-constinit const Child CTrustedSites::kChildren[] = {
+constexpr Child kTrustedSitesChildren[] = {
     Elem<&CTrustedSites::urlConditions_>(L"URLCondition"),
 };
-constinit const Schema CTrustedSites::kSchema = {
+constinit const Schema CTrustedSites::kSchema = Checked({
     .element = L"TrustedSites",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kTrustedSitesChildren,
+});
 
-constinit const Child CCIClientConfiguration::kChildren[] = {
+constexpr Child kCIClientConfigurationChildren[] = {
     Elem<&CCIClientConfiguration::connection_>(L"Connection"),
-    Elem<&CCIClientConfiguration::clientSetting_>(L"ClientSetting").MissedFirst(),
+    Elem<&CCIClientConfiguration::clientSetting_>(L"ClientSetting").AbsenceReportedFirst(),
     Elem<&CCIClientConfiguration::trustedSites_>(L"TrustedSites"),
 };
-constinit const Schema CCIClientConfiguration::kSchema = {
+constinit const Schema CCIClientConfiguration::kSchema = Checked({
     .element = L"ICIClientConfiguration",
     .dialect = kDialect,
-    .attributes = kIdentity,
-    .children = kChildren,
-};
+    .attributes = kIdentityAttributes<CCIClientConfiguration>,
+    .children = kCIClientConfigurationChildren,
+});
 
 }  // namespace CIConfInterface

@@ -15,27 +15,27 @@ constexpr Dialect kDialect = {
 
 }  // namespace
 
-constinit const Attribute CDefaultDomain::kAttributes[] = {
-    Attr<&CDefaultDomain::enabled_>(L"Enabled").KeptWhenAbsent().Unchecked(),
-    Attr<&CDefaultDomain::name_>(L"Name").Unchecked(),
+constexpr Attribute kDefaultDomainAttributes[] = {
+    Attr<&CDefaultDomain::enabled_>(L"Enabled").MayBeAbsent().IgnoresWriteFailure(),
+    Attr<&CDefaultDomain::name_>(L"Name").IgnoresWriteFailure(),
 };
-constinit const Schema CDefaultDomain::kSchema = {
+constinit const Schema CDefaultDomain::kSchema = Checked({
     .element = L"DefaultDomain",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .add_fault = OwnText(L"XMLManager: failed to add element: DefaultDomain"),
-};
+    .attributes = kDefaultDomainAttributes,
+    .add_report = L"XMLManager: failed to add element: DefaultDomain",
+});
 
-constinit const Child CActiveDirectory::kChildren[] = {
+constexpr Child kActiveDirectoryChildren[] = {
     Elem<&CActiveDirectory::defaultDomain_>(L"DefaultDomain")
-        .ReadFault(L"XMLManager: read require element failed. element:DefDomain")
-        .Missing(L"XMLManager: sub-element DefDomain is missing"),
+        .ReadReport(L"XMLManager: read require element failed. element:DefDomain")
+        .AbsenceReport(L"XMLManager: sub-element DefDomain is missing"),
 };
-constinit const Schema CActiveDirectory::kSchema = {
+constinit const Schema CActiveDirectory::kSchema = Checked({
     .element = L"ActiveDirectory",
     .dialect = kDialect,
-    .children = kChildren,
-    .is_closed_empty = true,
-};
+    .children = kActiveDirectoryChildren,
+    .closes_as_empty_tag = true,
+});
 
 }  // namespace ClientConfig

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "node/node.h"
+#include "node/accessors.h"
 
 namespace ClientConfig {
 
@@ -13,16 +13,8 @@ class CDefaultDomain final : public tolva::node::Node<CDefaultDomain, IDefaultDo
  public:
   static const tolva::node::Schema kSchema;
 
-  ConfigResult GetEnabled(DWORD* out) const override { return tolva::node::Store(enabled_, out); }
-  ConfigResult SetEnabled(const DWORD* value) override { return SetRequired(enabled_, value); }
-  const std::wstring& GetName() const override { return name_; }
-  ConfigResult SetName(const std::wstring* value) override { return SetRequired(name_, value); }
-
- private:
-  static const tolva::node::Attribute kAttributes[];
-
-  DWORD enabled_ = 0;
-  std::wstring name_;
+  TOLVA_STORED_NUMBER(Enabled, enabled_);
+  TOLVA_STRING(Name, name_);
 };
 
 class CActiveDirectory final : public tolva::node::Node<CActiveDirectory, IActiveDirectory> {
@@ -33,16 +25,8 @@ class CActiveDirectory final : public tolva::node::Node<CActiveDirectory, IActiv
   /// copied like any other.)
   IActiveDirectory& CopyFrom(const IActiveDirectory& /*other*/) override { return *this; }
 
-  IDefaultDomain* GetDefaultDomain() override { return &defaultDomain_; }
+  TOLVA_CHILD(CDefaultDomain, DefaultDomain, defaultDomain_);
   const CDefaultDomain& domain() const { return defaultDomain_; }
-  ConfigResult SetDefaultDomain(const IDefaultDomain* child) override {
-    return SetRequiredChild(defaultDomain_, child);
-  }
-
- private:
-  static const tolva::node::Child kChildren[];
-
-  CDefaultDomain defaultDomain_;
 };
 
 }  // namespace ClientConfig

@@ -7,125 +7,119 @@ constexpr const wchar_t* kAppNames[] = {L"RESERVED", L"CHROME", L"FIREFOX"};
 
 }  // namespace
 
-constinit const Attribute CEPClientSetting::kAttributes[] = {
+constexpr Attribute kEPClientSettingAttributes[] = {
     Attr<&CEPClientSetting::enableTamperProtection_>(L"EnableTamperProtection"),
     Attr<&CEPClientSetting::enableTelemetry_>(L"EnableTelemetry"),
     Attr<&CEPClientSetting::adminPasswordHash_>(L"AdminPasswordHash"),
     Attr<&CEPClientSetting::installDirectory_>(L"InstallDirectory"),
 };
-constinit const Schema CEPClientSetting::kSchema = {
+constinit const Schema CEPClientSetting::kSchema = Checked({
     .element = L"EPClientSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kEPClientSettingAttributes,
+});
 
-constinit const Attribute CUpdateServer::kAttributes[] = {
+constexpr Attribute kUpdateServerAttributes[] = {
     Attr<&CUpdateServer::url_>(L"URL"),
     Attr<&CUpdateServer::sendPII_>(L"SendPII"),
 };
-constinit const Schema CUpdateServer::kSchema = {
+constinit const Schema CUpdateServer::kSchema = Checked({
     .element = L"UpdateServer",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kUpdateServerAttributes,
+});
 
-constinit const Attribute CAutoUpdate::kAttributes[] = {
+constexpr Attribute kAutoUpdateAttributes[] = {
     Attr<&CAutoUpdate::frequency_>(L"Frequency"),
 };
-constinit const Child CAutoUpdate::kChildren[] = {
+constexpr Child kAutoUpdateChildren[] = {
     Elem<&CAutoUpdate::updateServer_>(L"UpdateServer"),
 };
-constinit const Schema CAutoUpdate::kSchema = {
+constinit const Schema CAutoUpdate::kSchema = Checked({
     .element = L"AutoUpdate",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kAutoUpdateAttributes,
+    .children = kAutoUpdateChildren,
+});
 
-constinit const Attribute CSetting::kAttributes[] = {
-    Attr<&CSetting::appName_>(L"AppName", {kAppNames, L"FIREFOX"}),
+constexpr Attribute kSettingAttributes[] = {
+    Attr<&CSetting::appName_>(L"AppName", {kAppNames, L"FIREFOX"}).KeepsValue(),
     Attr<&CSetting::appFileName_>(L"AppFileName"),
     Attr<&CSetting::appVersionMajor_>(L"AppVersionMajor"),
     Attr<&CSetting::appVersionMinor_>(L"AppVersionMinor"),
     Attr<&CSetting::minimumWindowsBuild_>(L"MinimumWindowsBuild"),
     Attr<&CSetting::minimumMacBuild_>(L"MinimumMacBuild"),
 };
-constinit const Schema CSetting::kSchema = {
+constinit const Schema CSetting::kSchema = Checked({
     .element = L"Setting",
     .dialect = kDialect,
-    .attributes = kAttributes,
+    .attributes = kSettingAttributes,
+});
+
+template <class C>
+constexpr Child kSettingListChildren[] = {
+    Elem<&C::settings_>(L"Setting"),
 };
 
-template <class C, class I>
-constinit const Child SettingList<C, I>::kChildren[] = {
-    Elem<&SettingList::settings_>(L"Setting"),
-};
-
-constinit const Schema CWebProxyEndpoint::kSchema = {
+constinit const Schema CWebProxyEndpoint::kSchema = Checked({
     .element = L"WebProxyEndpoint",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kSettingListChildren<CWebProxyEndpoint>,
+});
 
-constinit const Schema CDataEndpoint::kSchema = {
+constinit const Schema CDataEndpoint::kSchema = Checked({
     .element = L"DataEndpoint",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kSettingListChildren<CDataEndpoint>,
+});
 
-constinit const Schema CWebDirectEndpoint::kSchema = {
+constinit const Schema CWebDirectEndpoint::kSchema = Checked({
     .element = L"WebDirectEndpoint",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kSettingListChildren<CWebDirectEndpoint>,
+});
 
-constinit const Schema CRemoteFilteringClient::kSchema = {
+constinit const Schema CRemoteFilteringClient::kSchema = Checked({
     .element = L"RemoteFilteringClient",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kSettingListChildren<CRemoteFilteringClient>,
+});
 
-constinit const Attribute CCustomSetting::kAttributes[] = {
+constexpr Attribute kCustomSettingAttributes[] = {
     Attr<&CCustomSetting::enableCustomSetting_>(L"EnableCustomSetting"),
     Attr<&CCustomSetting::schemaVersion_>(L"SchemaVersion"),
     Attr<&CCustomSetting::description_>(L"Description"),
 };
-constinit const Child CCustomSetting::kChildren[] = {
+constexpr Child kCustomSettingChildren[] = {
     Elem<&CCustomSetting::webProxyEndpoint_>(L"WebProxyEndpoint"),
     Elem<&CCustomSetting::dataEndpoint_>(L"DataEndpoint"),
     Elem<&CCustomSetting::webDirectEndpoint_>(L"WebDirectEndpoint"),
     Elem<&CCustomSetting::remoteFilteringClient_>(L"RemoteFilteringClient"),
 };
-constinit const Schema CCustomSetting::kSchema = {
+constinit const Schema CCustomSetting::kSchema = Checked({
     .element = L"CustomSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kCustomSettingAttributes,
+    .children = kCustomSettingChildren,
+});
 
-constinit const Schema CZanFirefoxSetting::kSchema = {
+constinit const Schema CZanFirefoxSetting::kSchema = Checked({
     .element = L"ZanFirefoxSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kBrowserFilesAttributes<CZanFirefoxSetting>,
+});
 
-constinit const Child CIGLOBALClientConfiguration::kChildren[] = {
+constexpr Child kIGLOBALClientConfigurationChildren[] = {
     Elem<&CIGLOBALClientConfiguration::epClientSetting_>(L"EPClientSetting"),
     Elem<&CIGLOBALClientConfiguration::autoUpdate_>(L"AutoUpdate"),
     Elem<&CIGLOBALClientConfiguration::customSetting_>(L"CustomSetting"),
     Elem<&CIGLOBALClientConfiguration::zanFirefoxSetting_>(L"ZanFirefoxSetting"),
 };
-constinit const Schema CIGLOBALClientConfiguration::kSchema = {
+constinit const Schema CIGLOBALClientConfiguration::kSchema = Checked({
     .element = L"IGLOBALClientConfiguration",
     .dialect = kDialect,
-    .attributes = kIdentity,
-    .children = kChildren,
-};
-
-void CSetting::Clear() {
-  const DWORD app_name = appName_;
-  Node::Clear();
-  appName_ = app_name;
-}
+    .attributes = kIdentityAttributes<CIGLOBALClientConfiguration>,
+    .children = kIGLOBALClientConfigurationChildren,
+});
 
 }  // namespace GlobalConfInterface

@@ -2,35 +2,35 @@
 
 namespace IpbtConf {
 
-constinit const Attribute CFeature::kAttributes[] = {
+constexpr Attribute kFeatureAttributes[] = {
     Attr<&CFeature::ilpEnable_>(L"ILPEnable"),
     Attr<&CFeature::discoveryEnable_>(L"DiscoveryEnable"),
 };
-constinit const Schema CFeature::kSchema = {
+constinit const Schema CFeature::kSchema = Checked({
     .element = L"Feature",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kFeatureAttributes,
+});
 
-constinit const Attribute CInstallSetting::kAttributes[] = {
+constexpr Attribute kInstallSettingAttributes[] = {
     Attr<&CInstallSetting::installDirectory_>(L"InstallDirectory"),
     Attr<&CInstallSetting::autoReboot_>(L"AutoReboot"),
     Attr<&CInstallSetting::installStartMenu_>(L"InstallStartMenu"),
 };
-constinit const Schema CInstallSetting::kSchema = {
+constinit const Schema CInstallSetting::kSchema = Checked({
     .element = L"InstallSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kInstallSettingAttributes,
+});
 
-constinit const Child CInstallConfig::kChildren[] = {
+constexpr Child kInstallConfigChildren[] = {
     Elem<&CInstallConfig::feature_>(L"Feature"),
     Elem<&CInstallConfig::installSetting_>(L"InstallSetting"),
 };
-constinit const Schema CInstallConfig::kSchema = {
+constinit const Schema CInstallConfig::kSchema = Checked({
     .element = L"InstallConfig",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kInstallConfigChildren,
+});
 
 }  // namespace IpbtConf

@@ -2,55 +2,55 @@
 
 namespace MessageConf {
 
-constinit const Schema CDescription::kSchema = {
+constinit const Schema CDescription::kSchema = Checked({
     .element = L"Description",
     .dialect = kDialect,
     .content = TextOf<&CDescription::content_>().StopsAtFirstEndTag(),
-};
+});
 
-constinit const Schema CContent::kSchema = {
+constinit const Schema CContent::kSchema = Checked({
     .element = L"Content",
     .dialect = kDialect,
     .content = TextOf<&CContent::content_>().AlwaysWritten().StopsAtFirstEndTag(),
-};
+});
 
-constinit const Attribute CMessage::kAttributes[] = {
+constexpr Attribute kMessageAttributes[] = {
     Attr<&CMessage::id_>(L"ID"),
 };
-constinit const Child CMessage::kChildren[] = {
+constexpr Child kMessageChildren[] = {
     Elem<&CMessage::content_>(L"Content"),
     Elem<&CMessage::description_>(L"Description"),
 };
-constinit const Schema CMessage::kSchema = {
+constinit const Schema CMessage::kSchema = Checked({
     .element = L"Message",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kMessageAttributes,
+    .children = kMessageChildren,
+});
 
-constinit const Child CEndpointLocalMsg::kChildren[] = {
+constexpr Child kEndpointLocalMsgChildren[] = {
     Elem<&CEndpointLocalMsg::endPointMessages_>(L"EndPointMessage"),
 };
-constinit const Schema CEndpointLocalMsg::kSchema = {
+constinit const Schema CEndpointLocalMsg::kSchema = Checked({
     .element = L"EndpointLocalMsg",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kEndpointLocalMsgChildren,
+});
 
-constinit const Attribute CEndPointMessage::kAttributes[] = {
+constexpr Attribute kEndPointMessageAttributes[] = {
     Attr<&CEndPointMessage::schemaVersion_>(L"SchemaVersion"),
     Attr<&CEndPointMessage::language_>(L"Language"),
 };
-constinit const Child CEndPointMessage::kChildren[] = {
+constexpr Child kEndPointMessageChildren[] = {
     Elem<&CEndPointMessage::messages_>(L"Message"),
     Elem<&CEndPointMessage::endpointLocalMsgs_>(L"EndpointLocalMsg"),
 };
-constinit const Schema CEndPointMessage::kSchema = {
+constinit const Schema CEndPointMessage::kSchema = Checked({
     .element = L"EndPointMessage",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kEndPointMessageAttributes,
+    .children = kEndPointMessageChildren,
+});
 
 // Here the items' class is complete.
 CEndpointLocalMsg::CEndpointLocalMsg() = default;

@@ -2,111 +2,111 @@
 
 namespace NGConfInterface {
 
-constinit const Attribute CServerCommunication::kAttributes[] = {
+constexpr Attribute kServerCommunicationAttributes[] = {
     Attr<&CServerCommunication::managementQueryInterval_>(L"ManagementQueryInterval"),
     Attr<&CServerCommunication::managementServerHostname_>(L"ManagementServerHostname"),
 };
-constinit const Schema CServerCommunication::kSchema = {
+constinit const Schema CServerCommunication::kSchema = Checked({
     .element = L"ServerCommunication",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kServerCommunicationAttributes,
+});
 
-constinit const Attribute CLogReport::kAttributes[] = {
+constexpr Attribute kLogReportAttributes[] = {
     Attr<&CLogReport::logReportInterval_>(L"LogReportInterval"),
     Attr<&CLogReport::logReportServerHostname_>(L"LogReportServerHostname"),
     Attr<&CLogReport::maxUploadSize_>(L"MaxUploadSize"),
     Attr<&CLogReport::eventLogReportServerHostname_>(L"EventLogReportServerHostname"),
 };
-constinit const Schema CLogReport::kSchema = {
+constinit const Schema CLogReport::kSchema = Checked({
     .element = L"LogReport",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kLogReportAttributes,
+});
 
-constinit const Attribute CNGUser::kAttributes[] = {
+constexpr Attribute kNGUserAttributes[] = {
     Attr<&CNGUser::name_>(L"Name"),
     Attr<&CNGUser::enableTrayIconMenu_>(L"EnableTrayIconMenu"),
 };
-constinit const Schema CNGUser::kSchema = {
+constinit const Schema CNGUser::kSchema = Checked({
     .element = L"NGUser",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kNGUserAttributes,
+});
 
-constinit const Child CNGUserSetting::kChildren[] = {
+constexpr Child kNGUserSettingChildren[] = {
     Elem<&CNGUserSetting::ngUsers_>(L"NGUser"),
 };
-constinit const Schema CNGUserSetting::kSchema = {
+constinit const Schema CNGUserSetting::kSchema = Checked({
     .element = L"NGUserSetting",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kNGUserSettingChildren,
+});
 
-constinit const Schema CNGFirefoxSetting::kSchema = {
+constinit const Schema CNGFirefoxSetting::kSchema = Checked({
     .element = L"NGFirefoxSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kBrowserFilesAttributes<CNGFirefoxSetting>,
+});
 
-constinit const Attribute CClientManagement::kAttributes[] = {
+constexpr Attribute kClientManagementAttributes[] = {
     Attr<&CClientManagement::enableTrayIconMenu_>(L"EnableTrayIconMenu"),
 };
-constinit const Child CClientManagement::kChildren[] = {
+constexpr Child kClientManagementChildren[] = {
     Elem<&CClientManagement::serverCommunication_>(L"ServerCommunication"),
     Elem<&CClientManagement::logReport_>(L"LogReport"),
     Elem<&CClientManagement::ngUserSetting_>(L"NGUserSetting"),
     Elem<&CClientManagement::ngFirefoxSetting_>(L"NGFirefoxSetting"),
     Elem<&CClientManagement::activeDirectory_>(L"ActiveDirectory")
-        .WriteFault(L"XMLManager: write element failed. element:ActiveDirectory")
-        .ReadFault(L"XMLManager: read element failed. element:ActiveDirectory"),
+        .WriteReport(L"XMLManager: write element failed. element:ActiveDirectory")
+        .ReadReport(L"XMLManager: read element failed. element:ActiveDirectory"),
 };
-constinit const Schema CClientManagement::kSchema = {
+constinit const Schema CClientManagement::kSchema = Checked({
     .element = L"ClientManagement",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kClientManagementAttributes,
+    .children = kClientManagementChildren,
+});
 
-constinit const Attribute CHTTPHeader::kAttributes[] = {
+constexpr Attribute kHTTPHeaderAttributes[] = {
     Attr<&CHTTPHeader::headerName_>(L"HeaderName"),
     Attr<&CHTTPHeader::headerValue_>(L"HeaderValue"),
 };
-constinit const Schema CHTTPHeader::kSchema = {
+constinit const Schema CHTTPHeader::kSchema = Checked({
     .element = L"HTTPHeader",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kHTTPHeaderAttributes,
+});
 
-constinit const Child CHTTPRequestHeaders::kChildren[] = {
+constexpr Child kHTTPRequestHeadersChildren[] = {
     Elem<&CHTTPRequestHeaders::httpHeaders_>(L"HTTPHeader"),
 };
-constinit const Schema CHTTPRequestHeaders::kSchema = {
+constinit const Schema CHTTPRequestHeaders::kSchema = Checked({
     .element = L"HTTPRequestHeaders",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kHTTPRequestHeadersChildren,
+});
 
-constinit const Child CCloudServerComunication::kChildren[] = {
+constexpr Child kCloudServerComunicationChildren[] = {
     Elem<&CCloudServerComunication::httpRequestHeaders_>(L"HTTPRequestHeaders"),
 };
-constinit const Schema CCloudServerComunication::kSchema = {
+constinit const Schema CCloudServerComunication::kSchema = Checked({
     .element = L"CloudServerComunication",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kCloudServerComunicationChildren,
+});
 
-constinit const Child CINGClientConfiguration::kChildren[] = {
+constexpr Child kINGClientConfigurationChildren[] = {
     Elem<&CINGClientConfiguration::clientManagement_>(L"ClientManagement"),
     Elem<&CINGClientConfiguration::scanEngineConfiguration_>(L"ScanEngineConfiguration"),
     Elem<&CINGClientConfiguration::cloudServerComunication_>(L"CloudServerComunication"),
 };
-constinit const Schema CINGClientConfiguration::kSchema = {
+constinit const Schema CINGClientConfiguration::kSchema = Checked({
     .element = L"INGClientConfiguration",
     .dialect = kDialect,
-    .attributes = kIdentity,
-    .children = kChildren,
-};
+    .attributes = kIdentityAttributes<CINGClientConfiguration>,
+    .children = kINGClientConfigurationChildren,
+});
 
 ConfigResult CClientManagement::GetDefaultDomainEnabled(DWORD* out) const {
   return activeDirectory_.child.domain().GetEnabled(out);

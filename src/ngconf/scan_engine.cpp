@@ -2,7 +2,7 @@
 
 namespace NGConfInterface {
 
-constinit const Attribute CScanEngineBasicSetting::kAttributes[] = {
+constexpr Attribute kScanEngineBasicSettingAttributes[] = {
     Attr<&CScanEngineBasicSetting::enableSSLProxy_>(L"EnableSSLProxy"),
     Attr<&CScanEngineBasicSetting::enableThreatScan_>(L"EnableThreatScan"),
     Attr<&CScanEngineBasicSetting::enableURLLocalCache_>(L"EnableURLLocalCache"),
@@ -14,13 +14,13 @@ constinit const Attribute CScanEngineBasicSetting::kAttributes[] = {
     Attr<&CScanEngineBasicSetting::statsPeriod_>(L"StatsPeriod"),
     Attr<&CScanEngineBasicSetting::sslStandbyDecryption_>(L"SSLStandbyDecryption"),
 };
-constinit const Schema CScanEngineBasicSetting::kSchema = {
+constinit const Schema CScanEngineBasicSetting::kSchema = Checked({
     .element = L"ScanEngineBasicSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kScanEngineBasicSettingAttributes,
+});
 
-constinit const Attribute CScanEngineSSLSetting::kAttributes[] = {
+constexpr Attribute kScanEngineSSLSettingAttributes[] = {
     Attr<&CScanEngineSSLSetting::crlFileName_>(L"CRLFileName"),
     Attr<&CScanEngineSSLSetting::clientCerFileName_>(L"ClientCerFileName"),
     Attr<&CScanEngineSSLSetting::rootCAFileName_>(L"RootCAFileName"),
@@ -28,52 +28,52 @@ constinit const Attribute CScanEngineSSLSetting::kAttributes[] = {
     Attr<&CScanEngineSSLSetting::serverCerFileName_>(L"ServerCerFileName"),
     Attr<&CScanEngineSSLSetting::serverCertSubject_>(L"ServerCertSubject"),
 };
-constinit const Schema CScanEngineSSLSetting::kSchema = {
+constinit const Schema CScanEngineSSLSetting::kSchema = Checked({
     .element = L"ScanEngineSSLSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kScanEngineSSLSettingAttributes,
+});
 
-constinit const Attribute CIPNode::kAttributes[] = {
+constexpr Attribute kIPNodeAttributes[] = {
     Attr<&CIPNode::ipRange_>(L"IPRange"),
     Attr<&CIPNode::portNumber_>(L"PortNumber"),
 };
-constinit const Schema CIPNode::kSchema = {
+constinit const Schema CIPNode::kSchema = Checked({
     .element = L"IPNode",
     .dialect = kDialect,
-    .attributes = kAttributes,
+    .attributes = kIPNodeAttributes,
+});
+
+template <class C>
+constexpr Child kNetworkListsChildren[] = {
+    Elem<&C::ipNodes_>(L"IPNode"),
 };
 
-template <class C, class I>
-constinit const Child NetworkLists<C, I>::kChildren[] = {
-    Elem<&NetworkLists::ipNodes_>(L"IPNode"),
-};
-
-constinit const Attribute CScanEngineEnforceLists::kAttributes[] = {
+constexpr Attribute kScanEngineEnforceListsAttributes[] = {
     Attr<&CScanEngineEnforceLists::domainLists_>(L"DomainLists"),
     Attr<&CScanEngineEnforceLists::processNames_>(L"ProcessNames"),
 };
-constinit const Schema CScanEngineEnforceLists::kSchema = {
+constinit const Schema CScanEngineEnforceLists::kSchema = Checked({
     .element = L"ScanEngineEnforceLists",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kScanEngineEnforceListsAttributes,
+    .children = kNetworkListsChildren<CScanEngineEnforceLists>,
+});
 
-constinit const Attribute CScanEngineWhiteLists::kAttributes[] = {
+constexpr Attribute kScanEngineWhiteListsAttributes[] = {
     Attr<&CScanEngineWhiteLists::domainLists_>(L"DomainLists"),
     Attr<&CScanEngineWhiteLists::processNames_>(L"ProcessNames"),
     Attr<&CScanEngineWhiteLists::vpnDescList_>(L"VPNDescList"),
     Attr<&CScanEngineWhiteLists::sniHostList_>(L"SNIHostList"),
 };
-constinit const Schema CScanEngineWhiteLists::kSchema = {
+constinit const Schema CScanEngineWhiteLists::kSchema = Checked({
     .element = L"ScanEngineWhiteLists",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kScanEngineWhiteListsAttributes,
+    .children = kNetworkListsChildren<CScanEngineWhiteLists>,
+});
 
-constinit const Attribute CScanSetting::kAttributes[] = {
+constexpr Attribute kScanSettingAttributes[] = {
     Attr<&CScanSetting::context_>(L"Context"),
     Attr<&CScanSetting::dispServerHostname_>(L"DispServerHostname"),
     Attr<&CScanSetting::enableDetectHybrid_>(L"EnableDetectHybrid"),
@@ -86,52 +86,52 @@ constinit const Attribute CScanSetting::kAttributes[] = {
     Attr<&CScanSetting::bypassLocalIP_>(L"BypassLocalIP"),
     Attr<&CScanSetting::bypassPlainHostName_>(L"BypassPlainHostName"),
 };
-constinit const Child CScanSetting::kChildren[] = {
+constexpr Child kScanSettingChildren[] = {
     Elem<&CScanSetting::scanEngineEnforceLists_>(L"ScanEngineEnforceLists"),
     Elem<&CScanSetting::scanEngineWhiteLists_>(L"ScanEngineWhiteLists"),
 };
-constinit const Schema CScanSetting::kSchema = {
+constinit const Schema CScanSetting::kSchema = Checked({
     .element = L"ScanSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kScanSettingAttributes,
+    .children = kScanSettingChildren,
+});
 
-constinit const Attribute CClientRequestHeader::kAttributes[] = {
+constexpr Attribute kClientRequestHeaderAttributes[] = {
     Attr<&CClientRequestHeader::headerName_>(L"HeaderName"),
 };
-constinit const Schema CClientRequestHeader::kSchema = {
+constinit const Schema CClientRequestHeader::kSchema = Checked({
     .element = L"ClientRequestHeader",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kClientRequestHeaderAttributes,
+});
 
-constinit const Attribute CContentUploadSetting::kAttributes[] = {
+constexpr Attribute kContentUploadSettingAttributes[] = {
     Attr<&CContentUploadSetting::contentUpload_>(L"ContentUpload"),
     Attr<&CContentUploadSetting::maxSizeForScan_>(L"MaxSizeForScan"),
     Attr<&CContentUploadSetting::fileTypesToBlock_>(L"FileTypesToBlock"),
     Attr<&CContentUploadSetting::fileTypesToScan_>(L"FileTypesToScan"),
 };
-constinit const Child CContentUploadSetting::kChildren[] = {
+constexpr Child kContentUploadSettingChildren[] = {
     Elem<&CContentUploadSetting::clientRequestHeaders_>(L"ClientRequestHeader"),
 };
-constinit const Schema CContentUploadSetting::kSchema = {
+constinit const Schema CContentUploadSetting::kSchema = Checked({
     .element = L"ContentUploadSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kContentUploadSettingAttributes,
+    .children = kContentUploadSettingChildren,
+});
 
-constinit const Child CScanEngineConfiguration::kChildren[] = {
+constexpr Child kScanEngineConfigurationChildren[] = {
     Elem<&CScanEngineConfiguration::scanEngineBasicSetting_>(L"ScanEngineBasicSetting"),
     Elem<&CScanEngineConfiguration::scanEngineSSLSetting_>(L"ScanEngineSSLSetting"),
     Elem<&CScanEngineConfiguration::scanSetting_>(L"ScanSetting"),
     Elem<&CScanEngineConfiguration::contentUploadSetting_>(L"ContentUploadSetting"),
 };
-constinit const Schema CScanEngineConfiguration::kSchema = {
+constinit const Schema CScanEngineConfiguration::kSchema = Checked({
     .element = L"ScanEngineConfiguration",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kScanEngineConfigurationChildren,
+});
 
 }  // namespace NGConfInterface

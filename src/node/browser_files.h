@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "node/node.h"
+#include "node/accessors.h"
 
 namespace tolva::node {
 
@@ -13,31 +13,14 @@ namespace tolva::node {
 template <class C, class I>
 class BrowserFiles : public Node<C, I> {
  public:
-  ConfigResult GetFirefoxConfigCFGFileName(std::wstring* out) const override {
-    return firefoxConfigCFGFileName_.Get(out);
-  }
-  ConfigResult SetFirefoxConfigCFGFileName(const std::wstring* value) override {
-    return firefoxConfigCFGFileName_.Set(value);
-  }
-  ConfigResult GetFirefoxConfigJSFileName(std::wstring* out) const override {
-    return firefoxConfigJSFileName_.Get(out);
-  }
-  ConfigResult SetFirefoxConfigJSFileName(const std::wstring* value) override {
-    return firefoxConfigJSFileName_.Set(value);
-  }
-
- protected:
-  static const Attribute kAttributes[];
-
- private:
-  Optional<std::wstring> firefoxConfigCFGFileName_;
-  Optional<std::wstring> firefoxConfigJSFileName_;
+  TOLVA_OPTIONAL(std::wstring, FirefoxConfigCFGFileName, firefoxConfigCFGFileName_);
+  TOLVA_OPTIONAL(std::wstring, FirefoxConfigJSFileName, firefoxConfigJSFileName_);
 };
 
-template <class C, class I>
-constinit const Attribute BrowserFiles<C, I>::kAttributes[] = {
-    Attr<&BrowserFiles::firefoxConfigCFGFileName_>(L"FirefoxConfigCFGFileName"),
-    Attr<&BrowserFiles::firefoxConfigJSFileName_>(L"FirefoxConfigJSFileName"),
+template <class C>
+inline constexpr Attribute kBrowserFilesAttributes[] = {
+    Attr<&C::firefoxConfigCFGFileName_>(L"FirefoxConfigCFGFileName"),
+    Attr<&C::firefoxConfigJSFileName_>(L"FirefoxConfigJSFileName"),
 };
 
 }  // namespace tolva::node

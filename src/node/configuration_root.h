@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "node/node.h"
+#include "node/accessors.h"
 
 namespace tolva::node {
 
@@ -13,38 +13,20 @@ namespace tolva::node {
 template <class C, class I>
 class ConfigurationRoot : public Node<C, I> {
  public:
-  DWORD GetSchemaVersion() const override { return schemaVersion_; }
-  ConfigResult SetSchemaVersion(const DWORD* value) override {
-    return this->SetRequired(schemaVersion_, value);
-  }
-  const std::wstring& GetSN() const override { return sn_; }
-  ConfigResult SetSN(const std::wstring* value) override { return this->SetRequired(sn_, value); }
-  const std::wstring& GetName() const override { return name_; }
-  ConfigResult SetName(const std::wstring* value) override {
-    return this->SetRequired(name_, value);
-  }
-  ConfigResult GetUpdateDate(std::wstring* out) const override { return updateDate_.Get(out); }
-  ConfigResult SetUpdateDate(const std::wstring* value) override { return updateDate_.Set(value); }
-  ConfigResult GetRefId(std::wstring* out) const override { return refId_.Get(out); }
-  ConfigResult SetRefId(const std::wstring* value) override { return refId_.Set(value); }
-
- protected:
-  static const Attribute kIdentity[];
-
-  DWORD schemaVersion_ = 0;
-  std::wstring sn_;
-  std::wstring name_;
-  Optional<std::wstring> updateDate_;
-  Optional<std::wstring> refId_;
+  TOLVA_NUMBER(SchemaVersion, schemaVersion_);
+  TOLVA_STRING(SN, sn_);
+  TOLVA_STRING(Name, name_);
+  TOLVA_OPTIONAL(std::wstring, UpdateDate, updateDate_);
+  TOLVA_OPTIONAL(std::wstring, RefId, refId_);
 };
 
-template <class C, class I>
-constinit const Attribute ConfigurationRoot<C, I>::kIdentity[] = {
-    Attr<&ConfigurationRoot::schemaVersion_>(L"SchemaVersion"),
-    Attr<&ConfigurationRoot::sn_>(L"SN"),
-    Attr<&ConfigurationRoot::name_>(L"Name"),
-    Attr<&ConfigurationRoot::updateDate_>(L"UpdateDate"),
-    Attr<&ConfigurationRoot::refId_>(L"RefId"),
+template <class C>
+inline constexpr Attribute kIdentityAttributes[] = {
+    Attr<&C::schemaVersion_>(L"SchemaVersion"),
+    Attr<&C::sn_>(L"SN"),
+    Attr<&C::name_>(L"Name"),
+    Attr<&C::updateDate_>(L"UpdateDate"),
+    Attr<&C::refId_>(L"RefId"),
 };
 
 }  // namespace tolva::node

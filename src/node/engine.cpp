@@ -1,6 +1,5 @@
 #include "node/engine.h"
 
-#include <cassert>
 #include <cstdint>
 #include <cwchar>
 #include <string>
@@ -19,21 +18,23 @@ using xml::CXMLLiteManagerWriter;
 /// it.
 IElement& Mutable(const IElement& node) { return const_cast<IElement&>(node); }
 
-void ReportOr(OwnText own, std::wstring_view beginning, std::wstring_view element,
-              std::wstring_view attribute) {
-  if (own.IsSet()) {
-    Report(own.Get());
+/// Reports what the table says of a fault, or else what the rule says: a call of `rule`.
+template <class Rule>
+void ReportOr(const OwnReport& own, Rule rule) {
+  if (own.has_value()) {
+    Report(*own);
   } else {
-    ReportAttribute(beginning, element, attribute);
+    rule();
   }
 }
 
-void ReportOr(OwnText own, std::wstring_view beginning, std::wstring_view element) {
-  if (own.IsSet()) {
-    Report(own.Get());
-  } else {
-    ReportElement(beginning, element);
-  }
+void ReportAttributeOr(const OwnReport& own, std::wstring_view beginning, std::wstring_view element,
+                       std::wstring_view attribute) {
+  ReportOr(own, [&] { ReportAttribute(beginning, element, attribute); });
+}
+
+void ReportElementOr(const OwnReport& own, std::wstring_view beginning, std::wstring_view element) {
+  ReportOr(own, [&] { ReportElement(beginning, element); });
 }
 
 // ---- values ------------------------------------------------------------------------------------
@@ -58,7 +59,6 @@ void ClearString(std::wstring& text) {
 }
 
 void ClearValue(ValueType type, const FieldRef& field) {
-  if (field.present != nullptr) *field.present = 0;
   switch (type) {
     case ValueType::kNumber:
     case ValueType::kEnum:
@@ -111,7 +111,7 @@ ConfigResult WriteAttributes(const Schema& schema, IElement& node, CXMLLiteManag
     NumberText buffer;
     const xml::Text value = FormatValue(row, field, schema.dialect.numbers, buffer);
     const ConfigResult result = writer.WriteAttribute(row.name, value);
-    if (result != kSuccess && row.is_write_checked && !row.is_optional) {
+    if (result != kSuccess && !row.ignores_write_failure && !row.is_optional) {
       ReportAttribute(WriteFaultOf(row.type), schema.ReportedName(), row.name);
       return kFailed;
     }
@@ -150,7 +150,7 @@ ConfigResult WriteChild(const Child& row, IElement& node, IXMLLiteManager* manag
 ConfigResult WriteChildren(const Schema& schema, IElement& node, IXMLLiteManager* manager) {
   for (const Child& row : schema.children) {
     if (WriteChild(row, node, manager) == kSuccess) continue;
-    ReportOr(row.write_fault, WriteFaultOf(row.occurrence), row.name);
+    ReportElementOr(row.write_report, WriteFaultOf(row.occurrence), row.name);
     return kFailed;
   }
   return kSuccess;
@@ -242,16 +242,16 @@ ConfigResult ReadAttributes(const Schema& schema, IElement& node, CXMLLiteManage
       if (row.is_one_when_absent) {
         if (field.present != nullptr) *field.present = 1;
         NumberAt(field) = 1;
-      } else if (!row.is_optional && !row.is_kept_when_absent) {
-        ReportOr(row.read_fault, AbsentFaultOf(row, schema.dialect), schema.ReportedName(),
-                 row.name);
+      } else if (!row.is_optional && !row.may_be_absent) {
+        ReportAttributeOr(row.read_report, AbsentFaultOf(row, schema.dialect),
+                          schema.ReportedName(), row.name);
         return kFailed;
       }
       continue;
     }
     if (field.present != nullptr) *field.present = 1;
     if (!ParseValue(row, text, schema.dialect.numbers, field)) {
-      ReportOr(row.read_fault, MalformedFaultOf(row), schema.ReportedName(), row.name);
+      ReportAttributeOr(row.read_report, MalformedFaultOf(row), schema.ReportedName(), row.name);
       return kFailed;
     }
   }
@@ -278,11 +278,11 @@ ConfigResult ReadChild(const Child& row, INode& node, CXMLLiteManagerReader& rea
     // Every class of items reads by its table, and its row has the table's name.
     if (ReadClear(*row.schema, static_cast<INode&>(child), reader) == kSuccess) return kSuccess;
     node.Clear();
-    ReportOr(row.read_fault, kReadItem, row.name);
+    ReportElementOr(row.read_report, kReadItem, row.name);
     return kFailed;
   }
   if (child.ReadFromXMLMgr(&reader, 0) != kSuccess) {
-    ReportOr(row.read_fault, kReadChild, row.name);
+    ReportElementOr(row.read_report, kReadChild, row.name);
     return kFailed;
   }
   DWORD* const present = row.locate(node).present;
@@ -290,23 +290,15 @@ ConfigResult ReadChild(const Child& row, INode& node, CXMLLiteManagerReader& rea
   return kSuccess;
 }
 
-void ReportMissingChild(const Child& row) {
-  if (row.missing.IsSet()) {
-    Report(row.missing.Get());
-  } else {
-    ReportMissing(row.name);
-  }
-}
-
 /// `found` has a bit for each row of the table.
 ConfigResult CheckRequiredChildren(const Schema& schema, std::uint32_t found) {
-  for (const bool missed_first : {true, false}) {
+  for (const bool is_first : {true, false}) {
     std::uint32_t bit = 1;
     for (const Child& row : schema.children) {
-      const bool is_required = row.occurrence == Occurrence::kRequired && !row.is_dispensable;
+      const bool is_required = row.occurrence == Occurrence::kRequired && !row.may_be_absent;
       const bool is_missing = is_required && (found & bit) == 0;
-      if (is_missing && row.is_missed_first == missed_first) {
-        ReportMissingChild(row);
+      if (is_missing && row.is_reported_first == is_first) {
+        ReportOr(row.absence_report, [&row] { ReportMissing(row.name); });
         return kFailed;
       }
       bit <<= 1;
@@ -317,7 +309,6 @@ ConfigResult CheckRequiredChildren(const Schema& schema, std::uint32_t found) {
 
 ConfigResult ReadChildren(const Schema& schema, INode& node, CXMLLiteManagerReader& reader) {
   if (schema.children.empty()) return kSuccess;
-  assert(schema.children.size() <= 32);
   std::uint32_t found = 0;
   const Child* last = schema.children.data();
   int type = reader.is_empty_element() ? 0 : reader.NextNode();
@@ -392,7 +383,7 @@ ConfigResult ReadClear(const Schema& schema, INode& node, CXMLLiteManagerReader&
 
 ConfigResult WriteNode(const Schema& schema, const IElement& node, IXMLLiteManager* manager) {
   if (manager == nullptr) {
-    Report(schema.null_writer.IsSet() ? schema.null_writer.Get() : schema.dialect.null_writer);
+    Report(schema.null_writer_report.value_or(schema.dialect.null_writer));
     return kFailed;
   }
   CXMLLiteManagerWriter* const writer = xml::AsWriter(manager);
@@ -401,24 +392,16 @@ ConfigResult WriteNode(const Schema& schema, const IElement& node, IXMLLiteManag
   if (schema.content.locate != nullptr) return WriteContent(schema, fields, *writer);
 
   if (writer->StartElement(schema.element) != kSuccess) {
-    if (schema.add_fault.IsSet()) {
-      Report(schema.add_fault.Get());
-    } else {
-      ReportNotAdded(schema.ReportedName());
-    }
+    ReportOr(schema.add_report, [&schema] { ReportNotAdded(schema.ReportedName()); });
     return kFailed;
   }
   ConfigResult result = WriteAttributes(schema, fields, *writer);
   if (result != kSuccess) return result;
   result = WriteChildren(schema, fields, manager);
   if (result != kSuccess) return result;
-  const bool has_end_tag = !schema.children.empty() && !schema.is_closed_empty;
+  const bool has_end_tag = !schema.children.empty() && !schema.closes_as_empty_tag;
   if (writer->EndElement(has_end_tag ? L"" : nullptr) != kSuccess) {
-    if (schema.close_fault.IsSet()) {
-      Report(schema.close_fault.Get());
-    } else {
-      ReportNotClosed(schema.ReportedName());
-    }
+    ReportOr(schema.close_report, [&schema] { ReportNotClosed(schema.ReportedName()); });
     return kFailed;
   }
   return kSuccess;
@@ -426,7 +409,7 @@ ConfigResult WriteNode(const Schema& schema, const IElement& node, IXMLLiteManag
 
 ConfigResult ReadNode(const Schema& schema, INode& node, IXMLLiteManager* manager) {
   if (manager == nullptr) {
-    Report(schema.null_reader.IsSet() ? schema.null_reader.Get() : schema.dialect.null_reader);
+    Report(schema.null_reader_report.value_or(schema.dialect.null_reader));
     return kFailed;
   }
   CXMLLiteManagerReader* const reader = xml::AsReader(manager);
@@ -440,13 +423,21 @@ ConfigResult ReadNode(const Schema& schema, INode& node, IXMLLiteManager* manage
 void ClearNode(const Schema& schema, IElement& node) {
   for (const Attribute& row : schema.attributes) {
     const FieldRef field = row.locate(node);
-    ClearValue(row.type, field);
-    if (row.is_present_when_clear) *field.present = 1;
+    if (!row.keeps_value) ClearValue(row.type, field);
+    if (field.present != nullptr && !row.keeps_presence) {
+      *field.present = row.is_present_when_clear ? 1 : 0;
+    }
   }
   if (schema.content.locate != nullptr) {
-    ClearValue(schema.content.type, schema.content.locate(node));
+    const FieldRef field = schema.content.locate(node);
+    ClearValue(schema.content.type, field);
+    if (field.present != nullptr) *field.present = 0;
   }
-  for (const Child& row : schema.children) row.clear(node);
+  for (const Child& row : schema.children) {
+    DWORD* const present = row.locate(node).present;
+    if (present != nullptr && !row.keeps_presence) *present = 0;
+    row.clear(node);
+  }
 }
 
 void ReportNullValue(const Schema& schema, const IElement& node, const void* field) {

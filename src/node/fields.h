@@ -124,11 +124,6 @@ class LazyChild {
     return kSuccess;
   }
 
-  void Clear() {
-    present_ = 0;
-    if (child_ != nullptr) child_->Clear();
-  }
-
   /// Null while the child has not been made. A child that is present has been.
   C* Find() { return child_.get(); }
   C& Made() {

@@ -1,19 +1,25 @@
 // The table of an element: what the engine, and any other code that goes through the elements,
-// knows of it. A table is constant data, written beside its class:
+// knows of it. A table is constant data, written next to its class:
 //
-//   constinit const Attribute CTimeSlot::kAttributes[] = {
+//   constexpr Attribute kTimeSlotAttributes[] = {
 //       Attr<&CTimeSlot::weekday_>(L"Weekday"),
 //       Attr<&CTimeSlot::startTime_>(L"StartTime"),
 //   };
-//   constinit const Schema CTimeSlot::kSchema = {
-//       .element = L"TimeSlot", .dialect = kPolicy, .attributes = kAttributes};
+//   constinit const Schema CTimeSlot::kSchema = Checked({
+//       .element = L"TimeSlot",
+//       .dialect = kDialect,
+//       .attributes = kTimeSlotAttributes,
+//   });
 //
 // The rows stand in write order, which is also the order in which a read judges them. The type of
-// the field says what a row is (fields.h); what a row says beyond its name departs from the rule.
+// the field decides what kind of row it is (fields.h). Whatever a row states beyond its name
+// departs from the rule. A row or a table that contradicts itself does not compile.
 #pragma once
 
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -51,19 +57,20 @@ struct FieldRef {
   DWORD* present;  ///< null: always present
 };
 
-/// A report that replaces the one of the rule; unset: the rule's.
-class OwnText {
- public:
-  constexpr OwnText() = default;
-  /// An empty text is silence.
-  constexpr explicit OwnText(std::wstring_view text) : text_(text) {}
+/// The text of a report that an element has in place of the rule's. Empty text: no report.
+using OwnReport = std::optional<std::wstring_view>;
 
-  constexpr bool IsSet() const { return text_.data() != nullptr; }
-  constexpr std::wstring_view Get() const { return text_; }
+namespace internal {
 
- private:
-  std::wstring_view text_;
-};
+/// Not a constant expression: a table that calls it does not compile, and the compiler's message
+/// shows the reason.
+void TableIsWrong(const char* reason);
+
+consteval void Require(bool holds, const char* reason) {
+  if (!holds) TableIsWrong(reason);
+}
+
+}  // namespace internal
 
 /// One attribute of an element.
 struct Attribute {
@@ -73,35 +80,56 @@ struct Attribute {
   FieldRef (*locate)(IElement& node);
   EnumTexts enum_texts = {};
 
-  bool is_write_checked = true;        ///< a failed write ends the element's; required ones only
-  bool is_kept_when_absent = false;    ///< required, but its absence is no fault
-  bool is_one_when_absent = false;     ///< an absent switch reads as 1, and as present
-  bool is_present_when_clear = false;  ///< optional, but cleared it is present
-  OwnText read_fault = {};             ///< absent where required, or malformed
+  bool may_be_absent = false;          ///< required, but its absence does not fail the read
+  bool is_one_when_absent = false;     ///< when absent it reads as 1, and as present
+  bool ignores_write_failure = false;  ///< required, but a failed write does not fail the element's
 
-  constexpr Attribute Unchecked() const {
+  // What Clear does with the field.
+  bool is_present_when_clear = false;  ///< optional, but present after Clear
+  bool keeps_value = false;            ///< Clear leaves the value alone
+  bool keeps_presence = false;         ///< Clear leaves the presence flag alone
+
+  OwnReport read_report = {};  ///< required and absent, or malformed
+
+  consteval Attribute MayBeAbsent() const {
+    internal::Require(!is_optional, "an optional attribute may be absent in any case");
     Attribute row = *this;
-    row.is_write_checked = false;
+    row.may_be_absent = true;
     return row;
   }
-  constexpr Attribute KeptWhenAbsent() const {
-    Attribute row = *this;
-    row.is_kept_when_absent = true;
-    return row;
-  }
-  constexpr Attribute OneWhenAbsent() const {
+  consteval Attribute OneWhenAbsent() const {
+    internal::Require(type == ValueType::kNumber, "only a number can be 1 when it is absent");
     Attribute row = *this;
     row.is_one_when_absent = true;
     return row;
   }
-  constexpr Attribute PresentWhenClear() const {
+  consteval Attribute IgnoresWriteFailure() const {
+    internal::Require(!is_optional,
+                      "a failed write of an optional attribute is ignored in any case");
+    Attribute row = *this;
+    row.ignores_write_failure = true;
+    return row;
+  }
+  consteval Attribute PresentWhenClear() const {
+    internal::Require(is_optional, "a required attribute has no presence flag");
     Attribute row = *this;
     row.is_present_when_clear = true;
     return row;
   }
-  constexpr Attribute ReadFault(const wchar_t* text) const {
+  consteval Attribute KeepsValue() const {
     Attribute row = *this;
-    row.read_fault = OwnText(text);
+    row.keeps_value = true;
+    return row;
+  }
+  consteval Attribute KeepsPresence() const {
+    internal::Require(is_optional, "a required attribute has no presence flag");
+    Attribute row = *this;
+    row.keeps_presence = true;
+    return row;
+  }
+  consteval Attribute ReadReport(const wchar_t* text) const {
+    Attribute row = *this;
+    row.read_report = text;
     return row;
   }
 };
@@ -124,42 +152,52 @@ struct Child {
   const Schema* schema;  ///< the child's own table
   ChildRef (*locate)(IElement& node);
   IElement& (*make)(IElement& node);  ///< what is read into: the child, or a new item
-  void (*clear)(IElement& node);
+  void (*clear)(IElement& node);      ///< clears the child, or removes all items
 
-  bool is_missed_first = false;  ///< its absence is reported before that of the rows above it
-  bool is_dispensable = false;   ///< required and always written, but its absence is no fault
-  OwnText write_fault = {};
-  OwnText read_fault = {};
-  OwnText missing = {};
-  std::wstring_view before_write = {};  ///< told before it is written
-  std::wstring_view after_write = {};   ///< told when it has been
+  bool may_be_absent = false;      ///< required, but its absence does not fail the read
+  bool is_reported_first = false;  ///< its absence is reported before that of the rows above it
+  bool keeps_presence = false;     ///< Clear leaves the presence flag alone
+  OwnReport write_report = {};
+  OwnReport read_report = {};
+  OwnReport absence_report = {};
+  std::wstring_view before_write = {};  ///< reported before it is written
+  std::wstring_view after_write = {};   ///< reported after it has been written
 
-  constexpr Child MissedFirst() const {
+  consteval Child MayBeAbsent() const {
+    internal::Require(occurrence == Occurrence::kRequired, "only a required child can be missing");
     Child row = *this;
-    row.is_missed_first = true;
+    row.may_be_absent = true;
     return row;
   }
-  constexpr Child MayBeMissing() const {
+  consteval Child AbsenceReportedFirst() const {
+    internal::Require(occurrence == Occurrence::kRequired, "only a required child can be missing");
     Child row = *this;
-    row.is_dispensable = true;
+    row.is_reported_first = true;
     return row;
   }
-  constexpr Child WriteFault(const wchar_t* text) const {
+  consteval Child KeepsPresence() const {
+    internal::Require(occurrence == Occurrence::kOptional, "only an optional child has a flag");
     Child row = *this;
-    row.write_fault = OwnText(text);
+    row.keeps_presence = true;
     return row;
   }
-  constexpr Child ReadFault(const wchar_t* text) const {
+  consteval Child WriteReport(const wchar_t* text) const {
     Child row = *this;
-    row.read_fault = OwnText(text);
+    row.write_report = text;
     return row;
   }
-  constexpr Child Missing(const wchar_t* text) const {
+  consteval Child ReadReport(const wchar_t* text) const {
     Child row = *this;
-    row.missing = OwnText(text);
+    row.read_report = text;
     return row;
   }
-  constexpr Child Announced(const wchar_t* before, const wchar_t* after) const {
+  consteval Child AbsenceReport(const wchar_t* text) const {
+    internal::Require(occurrence == Occurrence::kRequired, "only a required child can be missing");
+    Child row = *this;
+    row.absence_report = text;
+    return row;
+  }
+  consteval Child Announced(const wchar_t* before, const wchar_t* after) const {
     Child row = *this;
     row.before_write = before;
     row.after_write = after;
@@ -167,7 +205,7 @@ struct Child {
   }
 };
 
-/// The text of an element that has its value there. Accessors call it `Content`.
+/// The text of an element whose value is its text. Accessors call it `Content`.
 struct Content {
   ValueType type = ValueType::kString;
   bool is_optional = false;
@@ -177,17 +215,19 @@ struct Content {
   bool is_always_written = false;       ///< optional: absent, it is written as an empty tag
   bool stops_at_first_end_tag = false;  ///< a read ends there, even within the element
 
-  constexpr Content LeadingDigits() const {
+  consteval Content LeadingDigits() const {
+    internal::Require(type == ValueType::kNumber, "only a number has leading digits");
     Content text = *this;
     text.takes_leading_digits = true;
     return text;
   }
-  constexpr Content AlwaysWritten() const {
+  consteval Content AlwaysWritten() const {
+    internal::Require(is_optional, "a required text is always written");
     Content text = *this;
     text.is_always_written = true;
     return text;
   }
-  constexpr Content StopsAtFirstEndTag() const {
+  consteval Content StopsAtFirstEndTag() const {
     Content text = *this;
     text.stops_at_first_end_tag = true;
     return text;
@@ -196,6 +236,9 @@ struct Content {
 
 /// An element.
 struct Schema {
+  /// An element has at most as many kinds of children: those that a read has found are bits.
+  static constexpr std::size_t kMostChildren = 32;
+
   const wchar_t* element;  ///< its name in the document
   const Dialect& dialect;
   std::span<const Attribute> attributes = {};
@@ -203,16 +246,52 @@ struct Schema {
   Content content = {};
 
   const wchar_t* reported_as = nullptr;  ///< its name in reports, where that is another
-  bool is_closed_empty = false;          ///< with children, but ended like an element without
-  OwnText add_fault = {};
-  OwnText close_fault = {};
-  OwnText null_writer = {};
-  OwnText null_reader = {};
+  bool closes_as_empty_tag = false;      ///< with children, but ended like an element without
+  OwnReport add_report = {};
+  OwnReport close_report = {};
+  OwnReport null_writer_report = {};
+  OwnReport null_reader_report = {};
 
   constexpr std::wstring_view ReportedName() const {
     return reported_as == nullptr ? element : reported_as;
   }
 };
+
+/// The table, if it is sound.
+consteval Schema Checked(const Schema& table) {
+  using internal::Require;
+  const auto is_name = [](std::wstring_view name) {
+    for (const wchar_t c : name) {
+      const bool is_letter = (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z');
+      if (!is_letter && (c < L'0' || c > L'9')) return false;
+    }
+    return !name.empty() && (name.front() < L'0' || name.front() > L'9');
+  };
+  Require(is_name(table.element), "the name of an element consists of letters and digits");
+  Require(table.children.size() <= Schema::kMostChildren,
+          "an element has 32 kinds of children at most");
+  const bool has_rows = !table.attributes.empty() || !table.children.empty();
+  Require(!has_rows || table.content.locate == nullptr,
+          "a text has neither attributes nor children");
+  for (std::size_t i = 0; i < table.attributes.size(); ++i) {
+    const std::wstring_view name = table.attributes[i].name;
+    Require(is_name(name), "the name of an attribute consists of letters and digits");
+    for (const Attribute& other : table.attributes.subspan(i + 1)) {
+      Require(name != other.name, "two attributes have the same name");
+    }
+    for (const Child& child : table.children) {
+      Require(name != child.name, "an attribute and a child have the same name");
+    }
+  }
+  for (std::size_t i = 0; i < table.children.size(); ++i) {
+    const std::wstring_view name = table.children[i].name;
+    Require(is_name(name), "the name of a child consists of letters and digits");
+    for (const Child& other : table.children.subspan(i + 1)) {
+      Require(name != other.name, "two children have the same name");
+    }
+  }
+  return table;
+}
 
 // ---- rows --------------------------------------------------------------------------------------
 
@@ -261,6 +340,12 @@ FieldRef LocateField(IElement& node) {
   return FieldTraits<Field>::Locate(FieldOf<Member>(node));
 }
 
+template <auto Member>
+constexpr Attribute PlainRow(const wchar_t* name) {
+  using Traits = FieldTraits<typename MemberOf<decltype(Member)>::Field>;
+  return {name, TypeOf<typename Traits::Value>(), Traits::kIsOptional, &LocateField<Member>};
+}
+
 template <class C>
 struct ChildTraits {
   using Element = C;
@@ -278,10 +363,7 @@ struct ChildTraits<OptionalChild<C>> {
     return {&field.child, &field.present, nullptr};
   }
   static IElement& Make(OptionalChild<C>& field) { return field.child; }
-  static void Clear(OptionalChild<C>& field) {
-    field.present = 0;
-    field.child.Clear();
-  }
+  static void Clear(OptionalChild<C>& field) { field.child.Clear(); }
 };
 
 template <class C>
@@ -290,7 +372,9 @@ struct ChildTraits<LazyChild<C>> {
   static constexpr Occurrence kOccurrence = Occurrence::kOptional;
   static ChildRef Locate(LazyChild<C>& field) { return {field.Find(), &field.present(), nullptr}; }
   static IElement& Make(LazyChild<C>& field) { return field.Made(); }
-  static void Clear(LazyChild<C>& field) { field.Clear(); }
+  static void Clear(LazyChild<C>& field) {
+    if (field.Find() != nullptr) field.Find()->Clear();
+  }
 };
 
 template <class C, class I>
@@ -324,16 +408,22 @@ void ClearChild(IElement& node) {
 
 /// The row of a number or string attribute.
 template <auto Member>
-constexpr Attribute Attr(const wchar_t* name) {
-  using Traits = internal::FieldTraits<typename internal::MemberOf<decltype(Member)>::Field>;
-  return {name, internal::TypeOf<typename Traits::Value>(), Traits::kIsOptional,
-          &internal::LocateField<Member>};
+consteval Attribute Attr(const wchar_t* name) {
+  return internal::PlainRow<Member>(name);
 }
 
 /// The row of an ENUM attribute.
 template <auto Member>
-constexpr Attribute Attr(const wchar_t* name, EnumTexts texts) {
-  Attribute row = Attr<Member>(name);
+consteval Attribute Attr(const wchar_t* name, EnumTexts texts) {
+  Attribute row = internal::PlainRow<Member>(name);
+  internal::Require(row.type == ValueType::kNumber, "the field of an ENUM is a DWORD");
+  internal::Require(!texts.texts.empty(), "an ENUM has texts");
+  for (std::size_t i = 0; i < texts.texts.size(); ++i) {
+    const std::wstring_view text = texts.texts[i];
+    for (const wchar_t* const other : texts.texts.subspan(i + 1)) {
+      internal::Require(text != other, "two values of an ENUM have the same text");
+    }
+  }
   row.type = ValueType::kEnum;
   row.enum_texts = texts;
   return row;
@@ -341,7 +431,7 @@ constexpr Attribute Attr(const wchar_t* name, EnumTexts texts) {
 
 /// The row of a child.
 template <auto Member>
-constexpr Child Elem(const wchar_t* name) {
+consteval Child Elem(const wchar_t* name) {
   using Traits = internal::ChildTraits<typename internal::MemberOf<decltype(Member)>::Field>;
   return {name,
           Traits::kOccurrence,
@@ -353,7 +443,7 @@ constexpr Child Elem(const wchar_t* name) {
 
 /// The value of an element that consists of text.
 template <auto Member>
-constexpr Content TextOf() {
+consteval Content TextOf() {
   using Traits = internal::FieldTraits<typename internal::MemberOf<decltype(Member)>::Field>;
   return {internal::TypeOf<typename Traits::Value>(), Traits::kIsOptional,
           &internal::LocateField<Member>};

@@ -2,7 +2,7 @@
 
 namespace PatchFileHistory {
 
-constinit const Attribute CWSModule::kAttributes[] = {
+constexpr Attribute kWSModuleAttributes[] = {
     Attr<&CWSModule::name_>(L"Name"),
     Attr<&CWSModule::version_>(L"Version"),
     Attr<&CWSModule::productID_>(L"ProductID"),
@@ -10,38 +10,38 @@ constinit const Attribute CWSModule::kAttributes[] = {
     Attr<&CWSModule::description_>(L"Description"),
     Attr<&CWSModule::installationDir_>(L"InstallationDir"),
 };
-constinit const Schema CWSModule::kSchema = {
+constinit const Schema CWSModule::kSchema = Checked({
     .element = L"WSModule",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kWSModuleAttributes,
+});
 
-constinit const Child CModuleListingArray::kChildren[] = {
+constexpr Child kModuleListingArrayChildren[] = {
     Elem<&CModuleListingArray::wsModules_>(L"WSModule"),
 };
-constinit const Schema CModuleListingArray::kSchema = {
+constinit const Schema CModuleListingArray::kSchema = Checked({
     .element = L"ModuleListingArray",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kModuleListingArrayChildren,
+});
 
-constinit const Attribute CPatchFileInfo::kAttributes[] = {
+constexpr Attribute kPatchFileInfoAttributes[] = {
     Attr<&CPatchFileInfo::name_>(L"Name"),
     Attr<&CPatchFileInfo::updateDate_>(L"UpdateDate"),
     Attr<&CPatchFileInfo::patchVersion_>(L"PatchVersion"),
     Attr<&CPatchFileInfo::productID_>(L"ProductID"),
 };
-constinit const Child CPatchFileInfo::kChildren[] = {
+constexpr Child kPatchFileInfoChildren[] = {
     Elem<&CPatchFileInfo::moduleListingArray_>(L"ModuleListingArray"),
 };
-constinit const Schema CPatchFileInfo::kSchema = {
+constinit const Schema CPatchFileInfo::kSchema = Checked({
     .element = L"PatchFileInfo",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kPatchFileInfoAttributes,
+    .children = kPatchFileInfoChildren,
+});
 
-constinit const Attribute CEndpointFilePatches::kAttributes[] = {
+constexpr Attribute kEndpointFilePatchesAttributes[] = {
     Attr<&CEndpointFilePatches::schemaVersion_>(L"SchemaVersion"),
     Attr<&CEndpointFilePatches::sn_>(L"SN"),
     Attr<&CEndpointFilePatches::name_>(L"Name"),
@@ -49,14 +49,14 @@ constinit const Attribute CEndpointFilePatches::kAttributes[] = {
     Attr<&CEndpointFilePatches::updateDate_>(L"UpdateDate"),
     Attr<&CEndpointFilePatches::refId_>(L"RefId"),
 };
-constinit const Child CEndpointFilePatches::kChildren[] = {
+constexpr Child kEndpointFilePatchesChildren[] = {
     Elem<&CEndpointFilePatches::patchFileInfos_>(L"PatchFileInfo"),
 };
-constinit const Schema CEndpointFilePatches::kSchema = {
+constinit const Schema CEndpointFilePatches::kSchema = Checked({
     .element = L"EndpointFilePatches",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kEndpointFilePatchesAttributes,
+    .children = kEndpointFilePatchesChildren,
+});
 
 }  // namespace PatchFileHistory

@@ -2,98 +2,98 @@
 
 namespace TolvaInterface {
 
-template <class C, class I>
-constinit const Attribute RuleChannel<C, I>::kAttributes[] = {
-    Attr<&RuleChannel::sid_>(L"Sid"),
-    Attr<&RuleChannel::cid_>(L"Cid"),
+template <class C>
+constexpr Attribute kRuleChannelAttributes[] = {
+    Attr<&C::sid_>(L"Sid"),
+    Attr<&C::cid_>(L"Cid"),
 };
-template <class C, class I>
-constinit const Child RuleChannel<C, I>::kChildren[] = {
-    Elem<&RuleChannel::appRules_>(L"AppRule"),
-    Elem<&RuleChannel::onlineApps_>(L"OnlineApps"),
+template <class C>
+constexpr Child kRuleChannelChildren[] = {
+    Elem<&C::appRules_>(L"AppRule"),
+    Elem<&C::onlineApps_>(L"OnlineApps"),
 };
 
-constinit const Schema CClipboardCopyCut::kSchema = {
+constinit const Schema CClipboardCopyCut::kSchema = Checked({
     .element = L"ClipboardCopyCut",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kRuleChannelAttributes<CClipboardCopyCut>,
+    .children = kRuleChannelChildren<CClipboardCopyCut>,
+});
 
-constinit const Schema CClipboardPaste::kSchema = {
+constinit const Schema CClipboardPaste::kSchema = Checked({
     .element = L"ClipboardPaste",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kRuleChannelAttributes<CClipboardPaste>,
+    .children = kRuleChannelChildren<CClipboardPaste>,
+});
 
-constinit const Schema CILPPrintScreen::kSchema = {
+constinit const Schema CILPPrintScreen::kSchema = Checked({
     .element = L"ILPPrintScreen",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kRuleChannelAttributes<CILPPrintScreen>,
+    .children = kRuleChannelChildren<CILPPrintScreen>,
+});
 
-constinit const Schema CILPAppFile::kSchema = {
+constinit const Schema CILPAppFile::kSchema = Checked({
     .element = L"ILPAppFile",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kRuleChannelAttributes<CILPAppFile>,
+    .children = kRuleChannelChildren<CILPAppFile>,
+});
 
-constinit const Attribute CPrinter::kAttributes[] = {
+constexpr Attribute kPrinterAttributes[] = {
     Attr<&CPrinter::name_>(L"Name"),
 };
-constinit const Schema CPrinter::kSchema = {
+constinit const Schema CPrinter::kSchema = Checked({
     .element = L"Printer",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kPrinterAttributes,
+});
 
-constinit const Child CTrustedPrinters::kChildren[] = {
+constexpr Child kTrustedPrintersChildren[] = {
     Elem<&CTrustedPrinters::printers_>(L"Printer"),
 };
-constinit const Schema CTrustedPrinters::kSchema = {
+constinit const Schema CTrustedPrinters::kSchema = Checked({
     .element = L"TrustedPrinters",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kTrustedPrintersChildren,
+});
 
-constinit const Attribute CILPPrinter::kAttributes[] = {
+constexpr Attribute kILPPrinterAttributes[] = {
     Attr<&CILPPrinter::sid_>(L"Sid"),
     Attr<&CILPPrinter::cid_>(L"Cid"),
     Attr<&CILPPrinter::alwaysEMF_>(L"AlwaysEMF"),
 };
-constinit const Child CILPPrinter::kChildren[] = {
+constexpr Child kILPPrinterChildren[] = {
     Elem<&CILPPrinter::appRules_>(L"AppRule"),
     Elem<&CILPPrinter::onlineApps_>(L"OnlineApps"),
     Elem<&CILPPrinter::trustedPrinters_>(L"TrustedPrinters"),
 };
-constinit const Schema CILPPrinter::kSchema = {
+constinit const Schema CILPPrinter::kSchema = Checked({
     .element = L"ILPPrinter",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kILPPrinterAttributes,
+    .children = kILPPrinterChildren,
+});
 
-constinit const Child CILPClipboard::kChildren[] = {
+constexpr Child kILPClipboardChildren[] = {
     Elem<&CILPClipboard::clipboardCopyCut_>(L"ClipboardCopyCut"),
     Elem<&CILPClipboard::clipboardPaste_>(L"ClipboardPaste"),
 };
-constinit const Schema CILPClipboard::kSchema = {
+constinit const Schema CILPClipboard::kSchema = Checked({
     .element = L"ILPClipboard",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kILPClipboardChildren,
+});
 
-constinit const Attribute CILPEmail::kAttributes[] = {
+constexpr Attribute kILPEmailAttributes[] = {
     Attr<&CILPEmail::sid_>(L"Sid"),
     Attr<&CILPEmail::cid_>(L"Cid"),
 };
-constinit const Schema CILPEmail::kSchema = {
+constinit const Schema CILPEmail::kSchema = Checked({
     .element = L"ILPEmail",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kILPEmailAttributes,
+});
 
 }  // namespace TolvaInterface

@@ -2,59 +2,59 @@
 
 namespace TolvaInterface {
 
-constinit const Attribute CArCondition::kAttributes[] = {
+constexpr Attribute kArConditionAttributes[] = {
     Attr<&CArCondition::appName_>(L"AppName"),
     Attr<&CArCondition::resFileDescription_>(L"ResFileDescription"),
     Attr<&CArCondition::resProductName_>(L"ResProductName"),
     Attr<&CArCondition::resCompany_>(L"ResCompany"),
     Attr<&CArCondition::os_>(L"OS"),
 };
-constinit const Schema CArCondition::kSchema = {
+constinit const Schema CArCondition::kSchema = Checked({
     .element = L"ArCondition",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kArConditionAttributes,
+});
 
-constinit const Attribute CUrlCondition::kAttributes[] = {
+constexpr Attribute kUrlConditionAttributes[] = {
     Attr<&CUrlCondition::url_>(L"URL"),
 };
-constinit const Schema CUrlCondition::kSchema = {
+constinit const Schema CUrlCondition::kSchema = Checked({
     .element = L"UrlCondition",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kUrlConditionAttributes,
+});
 
-constinit const Attribute CAppRule::kAttributes[] = {
+constexpr Attribute kAppRuleAttributes[] = {
     Attr<&CAppRule::action_>(L"Action", {kRuleActions}),
     Attr<&CAppRule::appid_>(L"Appid"),
     Attr<&CAppRule::allowAccessAfterFileCreation_>(L"AllowAccessAfterFileCreation"),
 };
-constinit const Schema CAppRule::kSchema = {
+constinit const Schema CAppRule::kSchema = Checked({
     .element = L"AppRule",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kAppRuleAttributes,
+    .children = kArConditionsChildren<CAppRule>,
+});
 
-constinit const Attribute COnlineApps::kAttributes[] = {
+constexpr Attribute kOnlineAppsAttributes[] = {
     Attr<&COnlineApps::action_>(L"Action", {kRuleActions}),
     Attr<&COnlineApps::appid_>(L"Appid"),
 };
-constinit const Child COnlineApps::kChildren[] = {
+constexpr Child kOnlineAppsChildren[] = {
     Elem<&COnlineApps::arConditions_>(L"ArCondition"),
     Elem<&COnlineApps::urlConditions_>(L"UrlCondition"),
 };
-constinit const Schema COnlineApps::kSchema = {
+constinit const Schema COnlineApps::kSchema = Checked({
     .element = L"OnlineApps",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kOnlineAppsAttributes,
+    .children = kOnlineAppsChildren,
+});
 
-constinit const Schema CBypassedApps::kSchema = {
+constinit const Schema CBypassedApps::kSchema = Checked({
     .element = L"BypassedApps",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kArConditionsChildren<CBypassedApps>,
+});
 
 }  // namespace TolvaInterface

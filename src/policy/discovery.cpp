@@ -8,7 +8,7 @@ constexpr const wchar_t* kScanModes[] = {L"FULL", L"DIFFERENTIAL", L"ALTERNATIVE
 
 }  // namespace
 
-constinit const Attribute CFileFilter::kAttributes[] = {
+constexpr Attribute kFileFilterAttributes[] = {
     Attr<&CFileFilter::include_>(L"Include"),
     Attr<&CFileFilter::exclude_>(L"Exclude"),
     Attr<&CFileFilter::age_>(L"Age"),
@@ -20,22 +20,22 @@ constinit const Attribute CFileFilter::kAttributes[] = {
     Attr<&CFileFilter::driveType_>(L"DriveType"),
     Attr<&CFileFilter::recursive_>(L"Recursive"),
 };
-constinit const Schema CFileFilter::kSchema = {
+constinit const Schema CFileFilter::kSchema = Checked({
     .element = L"FileFilter",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kFileFilterAttributes,
+});
 
-constinit const Attribute CDiscoveryAction::kAttributes[] = {
-    Attr<&CDiscoveryAction::action_>(L"Action", {kActions}),
+constexpr Attribute kDiscoveryActionAttributes[] = {
+    Attr<&CDiscoveryAction::action_>(L"Action", {kActions}).KeepsValue(),
 };
-constinit const Schema CDiscoveryAction::kSchema = {
+constinit const Schema CDiscoveryAction::kSchema = Checked({
     .element = L"DiscoveryAction",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kDiscoveryActionAttributes,
+});
 
-constinit const Attribute CDiscoverySettings::kAttributes[] = {
+constexpr Attribute kDiscoverySettingsAttributes[] = {
     Attr<&CDiscoverySettings::fullScanInterval_>(L"FullScanInterval"),
     Attr<&CDiscoverySettings::pauseOnNotIdle_>(L"PauseOnNotIdle"),
     Attr<&CDiscoverySettings::idleTimeout_>(L"IdleTimeout"),
@@ -44,47 +44,47 @@ constinit const Attribute CDiscoverySettings::kAttributes[] = {
     Attr<&CDiscoverySettings::preserveFileAccessTime_>(L"PreserveFileAccessTime"),
     Attr<&CDiscoverySettings::fullScanOnFingerprintUpdate_>(L"FullScanOnFingerprintUpdate"),
 };
-constinit const Schema CDiscoverySettings::kSchema = {
+constinit const Schema CDiscoverySettings::kSchema = Checked({
     .element = L"DiscoverySettings",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kDiscoverySettingsAttributes,
+});
 
-constinit const Attribute CDiscoveryJob::kAttributes[] = {
+constexpr Attribute kDiscoveryJobAttributes[] = {
     Attr<&CDiscoveryJob::id_>(L"Id"),
     Attr<&CDiscoveryJob::sid_>(L"Sid"),
     Attr<&CDiscoveryJob::cid_>(L"Cid"),
     Attr<&CDiscoveryJob::taskid_>(L"Taskid"),
 };
-constinit const Child CDiscoveryJob::kChildren[] = {
+constexpr Child kDiscoveryJobChildren[] = {
     Elem<&CDiscoveryJob::schedule_>(L"Schedule"),
     Elem<&CDiscoveryJob::fileFilter_>(L"FileFilter"),
     Elem<&CDiscoveryJob::discoveryAction_>(L"DiscoveryAction"),
     Elem<&CDiscoveryJob::discoverySettings_>(L"DiscoverySettings"),
 };
-constinit const Schema CDiscoveryJob::kSchema = {
+constinit const Schema CDiscoveryJob::kSchema = Checked({
     .element = L"DiscoveryJob",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kDiscoveryJobAttributes,
+    .children = kDiscoveryJobChildren,
+});
 
-constinit const Child CDiscoveryJobs::kChildren[] = {
+constexpr Child kDiscoveryJobsChildren[] = {
     Elem<&CDiscoveryJobs::discoveryJobs_>(L"DiscoveryJob"),
 };
-constinit const Schema CDiscoveryJobs::kSchema = {
+constinit const Schema CDiscoveryJobs::kSchema = Checked({
     .element = L"DiscoveryJobs",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kDiscoveryJobsChildren,
+});
 
-constinit const Child CDiscovery::kChildren[] = {
+constexpr Child kDiscoveryChildren[] = {
     Elem<&CDiscovery::discoveryJobs_>(L"DiscoveryJobs"),
 };
-constinit const Schema CDiscovery::kSchema = {
+constinit const Schema CDiscovery::kSchema = Checked({
     .element = L"Discovery",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kDiscoveryChildren,
+});
 
 }  // namespace TolvaInterface

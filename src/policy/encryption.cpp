@@ -2,35 +2,35 @@
 
 namespace TolvaInterface {
 
-constinit const Attribute CPrimaryKey::kAttributes[] = {
+constexpr Attribute kPrimaryKeyAttributes[] = {
     Attr<&CPrimaryKey::keyID_>(L"KeyID"),
     Attr<&CPrimaryKey::key_>(L"Key"),
     Attr<&CPrimaryKey::fileHeader_>(L"FileHeader"),
 };
-constinit const Schema CPrimaryKey::kSchema = {
+constinit const Schema CPrimaryKey::kSchema = Checked({
     .element = L"PrimaryKey",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kPrimaryKeyAttributes,
+});
 
-constinit const Attribute COldKey::kAttributes[] = {
+constexpr Attribute kOldKeyAttributes[] = {
     Attr<&COldKey::keyID_>(L"KeyID"),
     Attr<&COldKey::key_>(L"Key"),
 };
-constinit const Schema COldKey::kSchema = {
+constinit const Schema COldKey::kSchema = Checked({
     .element = L"OldKey",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kOldKeyAttributes,
+});
 
-constinit const Child CEncryption::kChildren[] = {
+constexpr Child kEncryptionChildren[] = {
     Elem<&CEncryption::primaryKey_>(L"PrimaryKey"),
     Elem<&CEncryption::oldKeys_>(L"OldKey"),
 };
-constinit const Schema CEncryption::kSchema = {
+constinit const Schema CEncryption::kSchema = Checked({
     .element = L"Encryption",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kEncryptionChildren,
+});
 
 }  // namespace TolvaInterface

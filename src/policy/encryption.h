@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "node/node.h"
+#include "node/accessors.h"
 #include "policy/document.h"
 
 namespace TolvaInterface {
@@ -14,61 +14,25 @@ class CPrimaryKey final : public Node<CPrimaryKey, IPrimaryKey> {
  public:
   static const Schema kSchema;
 
-  DWORD GetKeyID() const override { return keyID_; }
-  ConfigResult SetKeyID(const DWORD* value) override { return SetRequired(keyID_, value); }
-  const std::wstring& GetKey() const override { return key_; }
-  ConfigResult SetKey(const std::wstring* value) override { return SetRequired(key_, value); }
-  const std::wstring& GetFileHeader() const override { return fileHeader_; }
-  ConfigResult SetFileHeader(const std::wstring* value) override {
-    return SetRequired(fileHeader_, value);
-  }
-
- private:
-  static const Attribute kAttributes[];
-
-  DWORD keyID_ = 0;
-  std::wstring key_;
-  std::wstring fileHeader_;
+  TOLVA_NUMBER(KeyID, keyID_);
+  TOLVA_STRING(Key, key_);
+  TOLVA_STRING(FileHeader, fileHeader_);
 };
 
 class COldKey final : public Node<COldKey, IOldKey> {
  public:
   static const Schema kSchema;
 
-  DWORD GetKeyID() const override { return keyID_; }
-  ConfigResult SetKeyID(const DWORD* value) override { return SetRequired(keyID_, value); }
-  const std::wstring& GetKey() const override { return key_; }
-  ConfigResult SetKey(const std::wstring* value) override { return SetRequired(key_, value); }
-
- private:
-  static const Attribute kAttributes[];
-
-  DWORD keyID_ = 0;
-  std::wstring key_;
+  TOLVA_NUMBER(KeyID, keyID_);
+  TOLVA_STRING(Key, key_);
 };
 
 class CEncryption final : public Node<CEncryption, IEncryption> {
  public:
   static const Schema kSchema;
 
-  IPrimaryKey* GetPrimaryKey() override { return &primaryKey_; }
-  ConfigResult SetPrimaryKey(const IPrimaryKey* child) override {
-    return SetRequiredChild(primaryKey_, child);
-  }
-  DWORD GetOldKeyCount() const override { return oldKeys_.Count(); }
-  IOldKey* GetOldKeyAt(DWORD index) override { return oldKeys_.At(index); }
-  ConfigResult AddOldKey(const IOldKey* item) override { return oldKeys_.Add(item); }
-  ConfigResult InsertOldKeyAt(DWORD index, const IOldKey* item) override {
-    return oldKeys_.InsertAt(index, item);
-  }
-  void RemoveOldKeyAt(DWORD index) override { oldKeys_.RemoveAt(index); }
-  void RemoveAllOldKey() override { oldKeys_.RemoveAll(); }
-
- private:
-  static const Child kChildren[];
-
-  CPrimaryKey primaryKey_;
-  ChildList<COldKey> oldKeys_;
+  TOLVA_CHILD(CPrimaryKey, PrimaryKey, primaryKey_);
+  TOLVA_CHILDREN(COldKey, OldKey, oldKeys_);
 };
 
 }  // namespace TolvaInterface

@@ -8,13 +8,13 @@ constexpr const wchar_t* kPromptActions[] = {L"ALLOW", L"BLOCK", L"BLOCK_REVIEW"
 
 }  // namespace
 
-constinit const Attribute CILPProtection::kAttributes[] = {
+constexpr Attribute kILPProtectionAttributes[] = {
     Attr<&CILPProtection::closeActionOnAnalysisFailed_>(L"CloseActionOnAnalysisFailed"),
     Attr<&CILPProtection::disableBlockingCapabilities_>(L"DisableBlockingCapabilities"),
     Attr<&CILPProtection::enableMonitoringRemoteBypass_>(L"EnableMonitoringRemoteBypass"),
     Attr<&CILPProtection::enableTamperProtection_>(L"EnableTamperProtection"),
 };
-constinit const Child CILPProtection::kChildren[] = {
+constexpr Child kILPProtectionChildren[] = {
     Elem<&CILPProtection::ilpRemovableMedia_>(L"ILPRemovableMedia"),
     Elem<&CILPProtection::ilpRemoteMedia_>(L"ILPRemoteMedia"),
     Elem<&CILPProtection::ilpClipboard_>(L"ILPClipboard"),
@@ -26,43 +26,43 @@ constinit const Child CILPProtection::kChildren[] = {
     Elem<&CILPProtection::ilpEmail_>(L"ILPEmail"),
     Elem<&CILPProtection::ilpOpticalMedia_>(L"ILPOpticalMedia"),
     Elem<&CILPProtection::ilpInLineProxy_>(L"ILPInlineProxy")
-        .WriteFault(L"XMLManager: write optional element failed. element:ILPInLineProxy")
-        .ReadFault(L"XMLManager: read require element failed. element:ILPInLineProxy")
+        .WriteReport(L"XMLManager: write optional element failed. element:ILPInLineProxy")
+        .ReadReport(L"XMLManager: read require element failed. element:ILPInLineProxy")
         .Announced(L"XMLManager: writingelement:ILPInLineProxy",
                    L"XMLManager: writingelement:ILPInLineProxy was sucessful"),
 };
-constinit const Schema CILPProtection::kSchema = {
+constinit const Schema CILPProtection::kSchema = Checked({
     .element = L"ILPProtection",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kILPProtectionAttributes,
+    .children = kILPProtectionChildren,
+});
 
-constinit const Attribute CLocation::kAttributes[] = {
+constexpr Attribute kLocationAttributes[] = {
     Attr<&CLocation::name_>(L"Name"),
     Attr<&CLocation::desc_>(L"Desc"),
     Attr<&CLocation::criteriaCPSconnection_>(L"CriteriaCPSconnection"),
 };
-constinit const Child CLocation::kChildren[] = {
+constexpr Child kLocationChildren[] = {
     Elem<&CLocation::ilpProtection_>(L"ILPProtection"),
 };
-constinit const Schema CLocation::kSchema = {
+constinit const Schema CLocation::kSchema = Checked({
     .element = L"Location",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kLocationAttributes,
+    .children = kLocationChildren,
+});
 
-constinit const Child CLocationArray::kChildren[] = {
+constexpr Child kLocationArrayChildren[] = {
     Elem<&CLocationArray::locations_>(L"Location"),
 };
-constinit const Schema CLocationArray::kSchema = {
+constinit const Schema CLocationArray::kSchema = Checked({
     .element = L"LocationArray",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kLocationArrayChildren,
+});
 
-constinit const Attribute CConfirmDialogTime::kAttributes[] = {
+constexpr Attribute kConfirmDialogTimeAttributes[] = {
     Attr<&CConfirmDialogTime::lanMaxTime_>(L"LanMaxTime"),
     Attr<&CConfirmDialogTime::printFileMaxTime_>(L"PrintFileMaxTime"),
     Attr<&CConfirmDialogTime::removableMaxTime_>(L"RemovableMaxTime"),
@@ -71,13 +71,13 @@ constinit const Attribute CConfirmDialogTime::kAttributes[] = {
     Attr<&CConfirmDialogTime::clipboardMaxTime_>(L"ClipboardMaxTime"),
     Attr<&CConfirmDialogTime::emailMaxTime_>(L"EmailMaxTime"),
 };
-constinit const Schema CConfirmDialogTime::kSchema = {
+constinit const Schema CConfirmDialogTime::kSchema = Checked({
     .element = L"ConfirmDialogTime",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kConfirmDialogTimeAttributes,
+});
 
-constinit const Attribute CUserInterface::kAttributes[] = {
+constexpr Attribute kUserInterfaceAttributes[] = {
     Attr<&CUserInterface::mode_>(L"Mode", {kModes}),
     Attr<&CUserInterface::enableSuperBypass_>(L"EnableSuperBypass"),
     Attr<&CUserInterface::enableRemoteBypass_>(L"EnableRemoteBypass"),
@@ -96,64 +96,64 @@ constinit const Attribute CUserInterface::kAttributes[] = {
     Attr<&CUserInterface::showDetailsOnDataReviewCenter_>(L"ShowDetailsOnDataReviewCenter"),
     Attr<&CUserInterface::showDataReviewCenter_>(L"ShowDataReviewCenter"),
 };
-constinit const Child CUserInterface::kChildren[] = {
+constexpr Child kUserInterfaceChildren[] = {
     Elem<&CUserInterface::confirmDialogTime_>(L"ConfirmDialogTime"),
 };
-constinit const Schema CUserInterface::kSchema = {
+constinit const Schema CUserInterface::kSchema = Checked({
     .element = L"UserInterface",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kUserInterfaceAttributes,
+    .children = kUserInterfaceChildren,
+});
 
-constinit const Attribute CLog::kAttributes[] = {
+constexpr Attribute kLogAttributes[] = {
     Attr<&CLog::maxLogSize_>(L"MaxLogSize"),
 };
-constinit const Schema CLog::kSchema = {
+constinit const Schema CLog::kSchema = Checked({
     .element = L"Log",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kLogAttributes,
+});
 
-constinit const Attribute CTamperProtection::kAttributes[] = {
+constexpr Attribute kTamperProtectionAttributes[] = {
     Attr<&CTamperProtection::enable_>(L"Enable"),
 };
-constinit const Schema CTamperProtection::kSchema = {
+constinit const Schema CTamperProtection::kSchema = Checked({
     .element = L"TamperProtection",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kTamperProtectionAttributes,
+});
 
-constinit const Schema CExcludedApps::kSchema = {
+constinit const Schema CExcludedApps::kSchema = Checked({
     .element = L"ExcludedApps",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kArConditionsChildren<CExcludedApps>,
+});
 
-constinit const Attribute CContainedFiles::kAttributes[] = {
+constexpr Attribute kContainedFilesAttributes[] = {
     Attr<&CContainedFiles::lifeTime_>(L"LifeTime"),
     Attr<&CContainedFiles::upperLimit_>(L"UpperLimit"),
     Attr<&CContainedFiles::minDiskSpace_>(L"MinDiskSpace"),
     Attr<&CContainedFiles::ignoreSpaceLimit_>(L"IgnoreSpaceLimit"),
 };
-constinit const Schema CContainedFiles::kSchema = {
+constinit const Schema CContainedFiles::kSchema = Checked({
     .element = L"ContainedFiles",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kContainedFilesAttributes,
+});
 
-constinit const Attribute CTelemetryCollection::kAttributes[] = {
+constexpr Attribute kTelemetryCollectionAttributes[] = {
     Attr<&CTelemetryCollection::enable_>(L"Enable"),
 };
-constinit const Schema CTelemetryCollection::kSchema = {
+constinit const Schema CTelemetryCollection::kSchema = Checked({
     .element = L"TelemetryCollection",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .null_writer = OwnText(kWriteRequiredManager),
-    .null_reader = OwnText(kReadRequiredManager),
-};
+    .attributes = kTelemetryCollectionAttributes,
+    .null_writer_report = kWriteRequiredManager,
+    .null_reader_report = kReadRequiredManager,
+});
 
-constinit const Attribute CILPClientConfiguration::kAttributes[] = {
+constexpr Attribute kILPClientConfigurationAttributes[] = {
     Attr<&CILPClientConfiguration::schemaVersion_>(L"SchemaVersion"),
     Attr<&CILPClientConfiguration::sn_>(L"SN"),
     Attr<&CILPClientConfiguration::name_>(L"Name"),
@@ -161,7 +161,7 @@ constinit const Attribute CILPClientConfiguration::kAttributes[] = {
     Attr<&CILPClientConfiguration::refId_>(L"RefId"),
     Attr<&CILPClientConfiguration::bypassVersion_>(L"BypassVersion"),
 };
-constinit const Child CILPClientConfiguration::kChildren[] = {
+constexpr Child kILPClientConfigurationChildren[] = {
     Elem<&CILPClientConfiguration::locationArray_>(L"LocationArray"),
     Elem<&CILPClientConfiguration::userInterface_>(L"UserInterface"),
     Elem<&CILPClientConfiguration::log_>(L"Log"),
@@ -172,14 +172,14 @@ constinit const Child CILPClientConfiguration::kChildren[] = {
     Elem<&CILPClientConfiguration::encryption_>(L"Encryption"),
     Elem<&CILPClientConfiguration::telemetryCollection_>(L"TelemetryCollection"),
     Elem<&CILPClientConfiguration::activeDirectory_>(L"ActiveDirectory")
-        .WriteFault(L"XMLManager: write element failed. element:ActiveDirectory")
-        .ReadFault(L"XMLManager: read element failed. element:ActiveDirectory"),
+        .WriteReport(L"XMLManager: write element failed. element:ActiveDirectory")
+        .ReadReport(L"XMLManager: read element failed. element:ActiveDirectory"),
 };
-constinit const Schema CILPClientConfiguration::kSchema = {
+constinit const Schema CILPClientConfiguration::kSchema = Checked({
     .element = L"ILPClientConfiguration",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kILPClientConfigurationAttributes,
+    .children = kILPClientConfigurationChildren,
+});
 
 }  // namespace TolvaInterface

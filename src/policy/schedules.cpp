@@ -10,96 +10,88 @@ constexpr const wchar_t* kTimeTypes[] = {L"LOCAL", L"UTC"};
 
 }  // namespace
 
-constinit const Attribute CStartAt::kAttributes[] = {
+constexpr Attribute kStartAtAttributes[] = {
     Attr<&CStartAt::time_>(L"Time"),
     Attr<&CStartAt::date_>(L"Date"),
 };
-constinit const Schema CStartAt::kSchema = {
+constinit const Schema CStartAt::kSchema = Checked({
     .element = L"StartAt",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kStartAtAttributes,
+});
 
-constinit const Attribute CStopAt::kAttributes[] = {
+constexpr Attribute kStopAtAttributes[] = {
     Attr<&CStopAt::date_>(L"Date"),
     Attr<&CStopAt::occurrences_>(L"Occurrences"),
 };
-constinit const Schema CStopAt::kSchema = {
+constinit const Schema CStopAt::kSchema = Checked({
     .element = L"StopAt",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kStopAtAttributes,
+});
 
-constinit const Attribute CTimeSlot::kAttributes[] = {
+constexpr Attribute kTimeSlotAttributes[] = {
     Attr<&CTimeSlot::weekday_>(L"Weekday"),
     Attr<&CTimeSlot::startTime_>(L"StartTime"),
     Attr<&CTimeSlot::endTime_>(L"EndTime"),
 };
-constinit const Schema CTimeSlot::kSchema = {
+constinit const Schema CTimeSlot::kSchema = Checked({
     .element = L"TimeSlot",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kTimeSlotAttributes,
+});
 
-constinit const Child CAvailableTimeSlots::kChildren[] = {
+constexpr Child kAvailableTimeSlotsChildren[] = {
     Elem<&CAvailableTimeSlots::timeSlots_>(L"TimeSlot"),
 };
-constinit const Schema CAvailableTimeSlots::kSchema = {
+constinit const Schema CAvailableTimeSlots::kSchema = Checked({
     .element = L"AvailableTimeSlots",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kAvailableTimeSlotsChildren,
+});
 
-constinit const Attribute CRecurring::kAttributes[] = {
+constexpr Attribute kRecurringAttributes[] = {
     Attr<&CRecurring::mask_>(L"Mask"),
     Attr<&CRecurring::frequence_>(L"Frequence"),
 };
-constinit const Child CRecurring::kChildren[] = {
+constexpr Child kRecurringChildren[] = {
     Elem<&CRecurring::startAt_>(L"StartAt"),
     Elem<&CRecurring::stopAt_>(L"StopAt"),
     Elem<&CRecurring::availableTimeSlots_>(L"AvailableTimeSlots"),
 };
-constinit const Schema CRecurring::kSchema = {
+constinit const Schema CRecurring::kSchema = Checked({
     .element = L"Recurring",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kRecurringAttributes,
+    .children = kRecurringChildren,
+});
 
-constinit const Attribute CInitialRecur::kAttributes[] = {
+constexpr Attribute kInitialRecurAttributes[] = {
     Attr<&CInitialRecur::type_>(L"Type", {kInitialTypes}),
     Attr<&CInitialRecur::time_>(L"Time"),
     Attr<&CInitialRecur::date_>(L"Date"),
 };
-constinit const Schema CInitialRecur::kSchema = {
+constinit const Schema CInitialRecur::kSchema = Checked({
     .element = L"InitialRecur",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kInitialRecurAttributes,
+});
 
-constinit const Attribute CSchedule::kAttributes[] = {
-    Attr<&CSchedule::recurType_>(L"RecurType", {kRecurTypes}),
+constexpr Attribute kScheduleAttributes[] = {
+    Attr<&CSchedule::recurType_>(L"RecurType", {kRecurTypes}).KeepsValue(),
     Attr<&CSchedule::duration_>(L"Duration"),
-    Attr<&CSchedule::timeType_>(L"TimeType", {kTimeTypes}),
+    Attr<&CSchedule::timeType_>(L"TimeType", {kTimeTypes}).KeepsValue(),
     Attr<&CSchedule::continuousSchGap_>(L"ContinuousSchGap"),
 };
-constinit const Child CSchedule::kChildren[] = {
+constexpr Child kScheduleChildren[] = {
     Elem<&CSchedule::recurring_>(L"Recurring"),
     Elem<&CSchedule::initialRecur_>(L"InitialRecur"),
 };
-constinit const Schema CSchedule::kSchema = {
+constinit const Schema CSchedule::kSchema = Checked({
     .element = L"Schedule",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
-
-void CSchedule::Clear() {
-  const DWORD recur_type = recurType_;
-  const DWORD time_type = timeType_.value;
-  Node::Clear();
-  recurType_ = recur_type;
-  timeType_.value = time_type;
-}
+    .attributes = kScheduleAttributes,
+    .children = kScheduleChildren,
+});
 
 }  // namespace TolvaInterface

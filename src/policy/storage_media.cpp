@@ -2,86 +2,86 @@
 
 namespace TolvaInterface {
 
-constinit const Attribute CDeviceRule::kAttributes[] = {
+constexpr Attribute kDeviceRuleAttributes[] = {
     Attr<&CDeviceRule::action_>(L"Action", {kRuleActions}),
     Attr<&CDeviceRule::deviceName_>(L"DeviceName"),
     Attr<&CDeviceRule::serialNumber_>(L"SerialNumber"),
     Attr<&CDeviceRule::vendorID_>(L"VendorID"),
 };
-constinit const Schema CDeviceRule::kSchema = {
+constinit const Schema CDeviceRule::kSchema = Checked({
     .element = L"DeviceRule",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kDeviceRuleAttributes,
+});
 
-constinit const Attribute CRemoteDriveRule::kAttributes[] = {
+constexpr Attribute kRemoteDriveRuleAttributes[] = {
     Attr<&CRemoteDriveRule::action_>(L"Action", {kRuleActions}),
     Attr<&CRemoteDriveRule::shareName_>(L"ShareName"),
 };
-constinit const Schema CRemoteDriveRule::kSchema = {
+constinit const Schema CRemoteDriveRule::kSchema = Checked({
     .element = L"RemoteDriveRule",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kRemoteDriveRuleAttributes,
+});
 
-constinit const Attribute CILPFixedMedia::kAttributes[] = {
+constexpr Attribute kILPFixedMediaAttributes[] = {
     Attr<&CILPFixedMedia::sid_>(L"Sid"),
     Attr<&CILPFixedMedia::cid_>(L"Cid"),
 };
-constinit const Child CILPFixedMedia::kChildren[] = {
+constexpr Child kILPFixedMediaChildren[] = {
     Elem<&CILPFixedMedia::onlineApps_>(L"OnlineApps"),
 };
-constinit const Schema CILPFixedMedia::kSchema = {
+constinit const Schema CILPFixedMedia::kSchema = Checked({
     .element = L"ILPFixedMedia",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kILPFixedMediaAttributes,
+    .children = kILPFixedMediaChildren,
+});
 
-constinit const Attribute CILPOpticalMedia::kAttributes[] = {
+constexpr Attribute kILPOpticalMediaAttributes[] = {
     Attr<&CILPOpticalMedia::sid_>(L"Sid"),
     Attr<&CILPOpticalMedia::cid_>(L"Cid"),
 };
-constinit const Child CILPOpticalMedia::kChildren[] = {
+constexpr Child kILPOpticalMediaChildren[] = {
     Elem<&CILPOpticalMedia::bypassedApps_>(L"BypassedApps"),
 };
-constinit const Schema CILPOpticalMedia::kSchema = {
+constinit const Schema CILPOpticalMedia::kSchema = Checked({
     .element = L"ILPOpticalMedia",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kILPOpticalMediaAttributes,
+    .children = kILPOpticalMediaChildren,
+});
 
-constinit const Attribute CILPRemovableMedia::kAttributes[] = {
+constexpr Attribute kILPRemovableMediaAttributes[] = {
     Attr<&CILPRemovableMedia::sid_>(L"Sid"),
     Attr<&CILPRemovableMedia::cid_>(L"Cid"),
 };
-constinit const Child CILPRemovableMedia::kChildren[] = {
+constexpr Child kILPRemovableMediaChildren[] = {
     Elem<&CILPRemovableMedia::deviceRules_>(L"DeviceRule"),
     Elem<&CILPRemovableMedia::bypassedApps_>(L"BypassedApps"),
     Elem<&CILPRemovableMedia::onlineApps_>(L"OnlineApps"),
 };
-constinit const Schema CILPRemovableMedia::kSchema = {
+constinit const Schema CILPRemovableMedia::kSchema = Checked({
     .element = L"ILPRemovableMedia",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kILPRemovableMediaAttributes,
+    .children = kILPRemovableMediaChildren,
+});
 
-constinit const Attribute CILPRemoteMedia::kAttributes[] = {
+constexpr Attribute kILPRemoteMediaAttributes[] = {
     Attr<&CILPRemoteMedia::sid_>(L"Sid"),
     Attr<&CILPRemoteMedia::cid_>(L"Cid"),
 };
-constinit const Child CILPRemoteMedia::kChildren[] = {
+constexpr Child kILPRemoteMediaChildren[] = {
     Elem<&CILPRemoteMedia::remoteDriveRules_>(L"RemoteDriveRule"),
     Elem<&CILPRemoteMedia::bypassedApps_>(L"BypassedApps"),
     Elem<&CILPRemoteMedia::onlineApps_>(L"OnlineApps"),
 };
-constinit const Schema CILPRemoteMedia::kSchema = {
+constinit const Schema CILPRemoteMedia::kSchema = Checked({
     .element = L"ILPRemoteMedia",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kILPRemoteMediaAttributes,
+    .children = kILPRemoteMediaChildren,
+});
 
 }  // namespace TolvaInterface

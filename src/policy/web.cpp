@@ -7,150 +7,143 @@ constexpr const wchar_t* kBrowserNames[] = {L"CHROME", L"FIREFOX", L"EDGE"};
 
 }  // namespace
 
-constinit const Attribute CWebAccessRule::kAttributes[] = {
+constexpr Attribute kWebAccessRuleAttributes[] = {
     Attr<&CWebAccessRule::action_>(L"Action", {kRuleActions}),
     Attr<&CWebAccessRule::destinationHost_>(L"DestinationHost"),
 };
-constinit const Schema CWebAccessRule::kSchema = {
+constinit const Schema CWebAccessRule::kSchema = Checked({
     .element = L"WebAccessRule",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kWebAccessRuleAttributes,
+});
 
-constinit const Attribute CBrowserExtension::kAttributes[] = {
+constexpr Attribute kBrowserExtensionAttributes[] = {
     Attr<&CBrowserExtension::browserName_>(L"BrowserName", {kBrowserNames}),
     Attr<&CBrowserExtension::enableExtension_>(L"EnableExtension"),
     Attr<&CBrowserExtension::enableMonitorMode_>(L"EnableMonitorMode"),
 };
-constinit const Schema CBrowserExtension::kSchema = {
+constinit const Schema CBrowserExtension::kSchema = Checked({
     .element = L"BrowserExtension",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kBrowserExtensionAttributes,
+});
 
-constinit const Child CBrowserSettings::kChildren[] = {
+constexpr Child kBrowserSettingsChildren[] = {
     Elem<&CBrowserSettings::browserExtensions_>(L"BrowserExtension"),
 };
-constinit const Schema CBrowserSettings::kSchema = {
+constinit const Schema CBrowserSettings::kSchema = Checked({
     .element = L"BrowserSettings",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kBrowserSettingsChildren,
+});
 
-constinit const Attribute CILPWebApp::kAttributes[] = {
+constexpr Attribute kILPWebAppAttributes[] = {
     Attr<&CILPWebApp::sid_>(L"Sid"),
     Attr<&CILPWebApp::cid_>(L"Cid"),
 };
-constinit const Child CILPWebApp::kChildren[] = {
+constexpr Child kILPWebAppChildren[] = {
     Elem<&CILPWebApp::webAccessRules_>(L"WebAccessRule"),
     Elem<&CILPWebApp::onlineApps_>(L"OnlineApps"),
     Elem<&CILPWebApp::browserSettings_>(L"BrowserSettings"),
 };
-constinit const Schema CILPWebApp::kSchema = {
+constinit const Schema CILPWebApp::kSchema = Checked({
     .element = L"ILPWebApp",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kILPWebAppAttributes,
+    .children = kILPWebAppChildren,
+});
 
-constinit const Schema CIncludeApps::kSchema = {
+constinit const Schema CIncludeApps::kSchema = Checked({
     .element = L"IncludeApps",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kArConditionsChildren<CIncludeApps>,
+});
 
-constinit const Attribute CExcludeDomain::kAttributes[] = {
+constexpr Attribute kExcludeDomainAttributes[] = {
     Attr<&CExcludeDomain::url_>(L"URL"),
 };
-constinit const Schema CExcludeDomain::kSchema = {
+constinit const Schema CExcludeDomain::kSchema = Checked({
     .element = L"ExcludeDomain",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kExcludeDomainAttributes,
+});
 
-constinit const Child CExcludeDomains::kChildren[] = {
+constexpr Child kExcludeDomainsChildren[] = {
     Elem<&CExcludeDomains::excludeDomains_>(L"ExcludeDomain"),
 };
-constinit const Schema CExcludeDomains::kSchema = {
+constinit const Schema CExcludeDomains::kSchema = Checked({
     .element = L"ExcludeDomains",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kExcludeDomainsChildren,
+});
 
-constinit const Attribute CExcludeJSInjectDomain::kAttributes[] = {
+constexpr Attribute kExcludeJSInjectDomainAttributes[] = {
     Attr<&CExcludeJSInjectDomain::url_>(L"URL"),
 };
-constinit const Schema CExcludeJSInjectDomain::kSchema = {
+constinit const Schema CExcludeJSInjectDomain::kSchema = Checked({
     .element = L"ExcludeDomain",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .add_fault = OwnText(L"JSExcudeDomain: fail to add element"),
-    .close_fault = OwnText(L"JSExcudeDomain: fail to close element"),
-};
+    .attributes = kExcludeJSInjectDomainAttributes,
+    .add_report = L"JSExcudeDomain: fail to add element",
+    .close_report = L"JSExcudeDomain: fail to close element",
+});
 
-constinit const Child CExcludeJSInjectDomains::kChildren[] = {
+constexpr Child kExcludeJSInjectDomainsChildren[] = {
     Elem<&CExcludeJSInjectDomains::excludeJSInjectDomains_>(L"ExcludeDomain")
-        .WriteFault(L"")
-        .ReadFault(L"JSExcudeDomains: read  multiple element failed."),
+        .WriteReport(L"")
+        .ReadReport(L"JSExcudeDomains: read  multiple element failed."),
 };
-constinit const Schema CExcludeJSInjectDomains::kSchema = {
+constinit const Schema CExcludeJSInjectDomains::kSchema = Checked({
     .element = L"ExcludeJSInjectionDomains",
     .dialect = kDialect,
-    .children = kChildren,
-    .add_fault = OwnText(L""),
-    .close_fault = OwnText(L""),
-    .null_writer = OwnText(L"JSExcudeDomain: WriteToXMLMgr require xmlmanager pointer is NULL."),
-    .null_reader = OwnText(L"JSExcudeDomain: ReadFromXMLMgr require xmlmanager pointer is NULL."),
-};
+    .children = kExcludeJSInjectDomainsChildren,
+    .add_report = L"",
+    .close_report = L"",
+    .null_writer_report = L"JSExcudeDomain: WriteToXMLMgr require xmlmanager pointer is NULL.",
+    .null_reader_report = L"JSExcudeDomain: ReadFromXMLMgr require xmlmanager pointer is NULL.",
+});
 
-constinit const Attribute CLocalProxy::kAttributes[] = {
+constexpr Attribute kLocalProxyAttributes[] = {
     Attr<&CLocalProxy::ip_>(L"IP"),
     Attr<&CLocalProxy::port_>(L"Port"),
 };
-constinit const Schema CLocalProxy::kSchema = {
+constinit const Schema CLocalProxy::kSchema = Checked({
     .element = L"LocalProxy",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kLocalProxyAttributes,
+});
 
-constinit const Child CLocalProxies::kChildren[] = {
+constexpr Child kLocalProxiesChildren[] = {
     Elem<&CLocalProxies::localProxies_>(L"LocalProxy"),
 };
-constinit const Schema CLocalProxies::kSchema = {
+constinit const Schema CLocalProxies::kSchema = Checked({
     .element = L"LocalProxies",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kLocalProxiesChildren,
+});
 
-constinit const Attribute CILPInLineProxy::kAttributes[] = {
-    Attr<&CILPInLineProxy::enable_>(L"Enable").OneWhenAbsent(),
-    Attr<&CILPInLineProxy::enableDriverWebTraffic_>(L"EnableDriverWebTraffic").OneWhenAbsent(),
-    Attr<&CILPInLineProxy::systemPAC_>(L"SystemPAC").OneWhenAbsent(),
+constexpr Attribute kILPInLineProxyAttributes[] = {
+    Attr<&CILPInLineProxy::enable_>(L"Enable").OneWhenAbsent().KeepsPresence(),
+    Attr<&CILPInLineProxy::enableDriverWebTraffic_>(L"EnableDriverWebTraffic")
+        .OneWhenAbsent()
+        .KeepsPresence(),
+    Attr<&CILPInLineProxy::systemPAC_>(L"SystemPAC").OneWhenAbsent().KeepsPresence(),
 };
-constinit const Child CILPInLineProxy::kChildren[] = {
-    Elem<&CILPInLineProxy::includeApps_>(L"IncludeApps"),
-    Elem<&CILPInLineProxy::excludeDomains_>(L"ExcludeDomains"),
-    Elem<&CILPInLineProxy::localProxies_>(L"LocalProxies"),
+constexpr Child kILPInLineProxyChildren[] = {
+    Elem<&CILPInLineProxy::includeApps_>(L"IncludeApps").KeepsPresence(),
+    Elem<&CILPInLineProxy::excludeDomains_>(L"ExcludeDomains").KeepsPresence(),
+    Elem<&CILPInLineProxy::localProxies_>(L"LocalProxies").KeepsPresence(),
     Elem<&CILPInLineProxy::excludeJSInjectDomains_>(L"ExcludeJSInjectionDomains")
-        .WriteFault(L"XMLManager: write optional element failed. element:LocalProxies")
-        .ReadFault(L"XMLManager: read require element failed. element:ExcludeJSInjectDomains"),
+        .KeepsPresence()
+        .WriteReport(L"XMLManager: write optional element failed. element:LocalProxies")
+        .ReadReport(L"XMLManager: read require element failed. element:ExcludeJSInjectDomains"),
 };
-constinit const Schema CILPInLineProxy::kSchema = {
+constinit const Schema CILPInLineProxy::kSchema = Checked({
     .element = L"ILPInlineProxy",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
+    .attributes = kILPInLineProxyAttributes,
+    .children = kILPInLineProxyChildren,
     .reported_as = L"ILPInLineProxy",
-};
-
-void CILPInLineProxy::Clear() {
-  enable_.value = 0;
-  enableDriverWebTraffic_.value = 0;
-  systemPAC_.value = 0;
-  includeApps_.child.Clear();
-  excludeDomains_.child.Clear();
-  localProxies_.child.Clear();
-  excludeJSInjectDomains_.child.Clear();
-}
+});
 
 }  // namespace TolvaInterface

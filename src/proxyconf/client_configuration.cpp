@@ -2,159 +2,159 @@
 
 namespace ProxyClientConfig {
 
-constinit const Attribute CPACFile::kAttributes[] = {
+constexpr Attribute kPACFileAttributes[] = {
     Attr<&CPACFile::url_>(L"URL"),
 };
-constinit const Schema CPACFile::kSchema = {
+constinit const Schema CPACFile::kSchema = Checked({
     .element = L"PACFile",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kPACFileAttributes,
+});
 
-constinit const Attribute CAppWhiteList::kAttributes[] = {
+constexpr Attribute kAppWhiteListAttributes[] = {
     Attr<&CAppWhiteList::appNames_>(L"AppNames"),
 };
-constinit const Schema CAppWhiteList::kSchema = {
+constinit const Schema CAppWhiteList::kSchema = Checked({
     .element = L"AppWhiteList",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kAppWhiteListAttributes,
+});
 
-constinit const Child CProxySetting::kChildren[] = {
+constexpr Child kProxySettingChildren[] = {
     Elem<&CProxySetting::pacFile_>(L"PACFile"),
     Elem<&CProxySetting::activeDirectory_>(L"ActiveDirectory")
-        .WriteFault(L"XMLManager: write require element failed. element:ActiveDirectory"),
+        .WriteReport(L"XMLManager: write require element failed. element:ActiveDirectory"),
     Elem<&CProxySetting::appWhiteList_>(L"AppWhiteList"),
 };
-constinit const Schema CProxySetting::kSchema = {
+constinit const Schema CProxySetting::kSchema = Checked({
     .element = L"ProxySetting",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kProxySettingChildren,
+});
 
-constinit const Attribute CUserInterface::kAttributes[] = {
+constexpr Attribute kUserInterfaceAttributes[] = {
     Attr<&CUserInterface::uiSilentMode_>(L"UISilentMode"),
 };
-constinit const Schema CUserInterface::kSchema = {
+constinit const Schema CUserInterface::kSchema = Checked({
     .element = L"UserInterface",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kUserInterfaceAttributes,
+});
 
-constinit const Attribute CDownload::kAttributes[] = {
+constexpr Attribute kDownloadAttributes[] = {
     Attr<&CDownload::newVersion_>(L"NewVersion"),
 };
-constinit const Schema CDownload::kSchema = {
+constinit const Schema CDownload::kSchema = Checked({
     .element = L"Download",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kDownloadAttributes,
+});
 
-constinit const Attribute CUpdate::kAttributes[] = {
+constexpr Attribute kUpdateAttributes[] = {
     Attr<&CUpdate::frequency_>(L"Frequency"),
 };
-constinit const Child CUpdate::kChildren[] = {
+constexpr Child kUpdateChildren[] = {
     Elem<&CUpdate::download_>(L"Download"),
 };
-constinit const Schema CUpdate::kSchema = {
+constinit const Schema CUpdate::kSchema = Checked({
     .element = L"Update",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kUpdateAttributes,
+    .children = kUpdateChildren,
+});
 
-constinit const Schema CFirefoxSetting::kSchema = {
+constinit const Schema CFirefoxSetting::kSchema = Checked({
     .element = L"FirefoxSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kBrowserFilesAttributes<CFirefoxSetting>,
+});
 
-constinit const Attribute CClientSetting::kAttributes[] = {
+constexpr Attribute kClientSettingAttributes[] = {
     Attr<&CClientSetting::enableTamperProtection_>(L"EnableTamperProtection"),
     Attr<&CClientSetting::enableTelemetry_>(L"EnableTelemetry")
         .PresentWhenClear()
-        .ReadFault(L"XMLManager: read dword/bool Attribute failed. element:ClientSetting, "
-                   L"attr:EnableTelemetry"),
+        .ReadReport(L"XMLManager: read dword/bool Attribute failed. element:ClientSetting, "
+                    L"attr:EnableTelemetry"),
     Attr<&CClientSetting::adminPasswordHash_>(L"AdminPasswordHash"),
 };
-constinit const Child CClientSetting::kChildren[] = {
+constexpr Child kClientSettingChildren[] = {
     Elem<&CClientSetting::userInterface_>(L"UserInterface"),
     Elem<&CClientSetting::update_>(L"Update"),
     Elem<&CClientSetting::firefoxSetting_>(L"FirefoxSetting"),
 };
-constinit const Schema CClientSetting::kSchema = {
+constinit const Schema CClientSetting::kSchema = Checked({
     .element = L"ClientSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kClientSettingAttributes,
+    .children = kClientSettingChildren,
+});
 
-constinit const Attribute CIEProxySetting::kAttributes[] = {
+constexpr Attribute kIEProxySettingAttributes[] = {
     Attr<&CIEProxySetting::proxySetting_>(L"ProxySetting"),
 };
-constinit const Schema CIEProxySetting::kSchema = {
+constinit const Schema CIEProxySetting::kSchema = Checked({
     .element = L"IEProxySetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kIEProxySettingAttributes,
+});
 
-constinit const Attribute CIEUserProxySetting::kAttributes[] = {
+constexpr Attribute kIEUserProxySettingAttributes[] = {
     Attr<&CIEUserProxySetting::userID_>(L"UserID"),
     Attr<&CIEUserProxySetting::proxySetting_>(L"ProxySetting"),
     Attr<&CIEUserProxySetting::currentUserProxyURL_>(L"CurrentUserProxyURL"),
 };
-constinit const Schema CIEUserProxySetting::kSchema = {
+constinit const Schema CIEUserProxySetting::kSchema = Checked({
     .element = L"IEUserProxySetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kIEUserProxySettingAttributes,
+});
 
-constinit const Child CUserProxySetting::kChildren[] = {
+constexpr Child kUserProxySettingChildren[] = {
     Elem<&CUserProxySetting::ieUserProxySettings_>(L"IEUserProxySetting"),
 };
-constinit const Schema CUserProxySetting::kSchema = {
+constinit const Schema CUserProxySetting::kSchema = Checked({
     .element = L"UserProxySetting",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kUserProxySettingChildren,
+});
 
-constinit const Attribute CLocalProxySetting::kAttributes[] = {
+constexpr Attribute kLocalProxySettingAttributes[] = {
     Attr<&CLocalProxySetting::enableLocalProxySetting_>(L"EnableLocalProxySetting"),
     Attr<&CLocalProxySetting::saveNetworkSettingMode_>(L"SaveNetworkSettingMode"),
 };
-constinit const Child CLocalProxySetting::kChildren[] = {
+constexpr Child kLocalProxySettingChildren[] = {
     Elem<&CLocalProxySetting::ieProxySetting_>(L"IEProxySetting"),
     Elem<&CLocalProxySetting::userProxySetting_>(L"UserProxySetting"),
 };
-constinit const Schema CLocalProxySetting::kSchema = {
+constinit const Schema CLocalProxySetting::kSchema = Checked({
     .element = L"LocalProxySetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kLocalProxySettingAttributes,
+    .children = kLocalProxySettingChildren,
+});
 
-constinit const Attribute CLogUploadSetting::kAttributes[] = {
+constexpr Attribute kLogUploadSettingAttributes[] = {
     Attr<&CLogUploadSetting::logUploadURL_>(L"LogUploadURL"),
     Attr<&CLogUploadSetting::logUploadFrequency_>(L"LogUploadFrequency"),
 };
-constinit const Schema CLogUploadSetting::kSchema = {
+constinit const Schema CLogUploadSetting::kSchema = Checked({
     .element = L"LogUploadSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kLogUploadSettingAttributes,
+});
 
-constinit const Child CIPXYClientConfiguration::kChildren[] = {
+constexpr Child kIPXYClientConfigurationChildren[] = {
     Elem<&CIPXYClientConfiguration::proxySetting_>(L"ProxySetting"),
     Elem<&CIPXYClientConfiguration::clientSetting_>(L"ClientSetting"),
     Elem<&CIPXYClientConfiguration::localProxySetting_>(L"LocalProxySetting"),
     Elem<&CIPXYClientConfiguration::logUploadSetting_>(L"LogUploadSetting"),
 };
-constinit const Schema CIPXYClientConfiguration::kSchema = {
+constinit const Schema CIPXYClientConfiguration::kSchema = Checked({
     .element = L"IPXYClientConfiguration",
     .dialect = kDialect,
-    .attributes = kIdentity,
-    .children = kChildren,
-};
+    .attributes = kIdentityAttributes<CIPXYClientConfiguration>,
+    .children = kIPXYClientConfigurationChildren,
+});
 
 ConfigResult CProxySetting::GetActiveDirectory(ClientConfig::IActiveDirectory** out) {
   return Store<ClientConfig::IActiveDirectory*>(&activeDirectory_.child, out);

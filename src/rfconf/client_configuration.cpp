@@ -2,47 +2,47 @@
 
 namespace RFConfInterface {
 
-constinit const Attribute CRFServer::kAttributes[] = {
+constexpr Attribute kRFServerAttributes[] = {
     Attr<&CRFServer::hostName_>(L"HostName"),
     Attr<&CRFServer::portNumber_>(L"PortNumber"),
 };
-constinit const Schema CRFServer::kSchema = {
+constinit const Schema CRFServer::kSchema = Checked({
     .element = L"RFServer",
     .dialect = kDialect,
-    .attributes = kAttributes,
+    .attributes = kRFServerAttributes,
+});
+
+template <class C>
+constexpr Child kRFServerListChildren[] = {
+    Elem<&C::rfServers_>(L"RFServer"),
 };
 
-template <class C, class I>
-constinit const Child RFServerList<C, I>::kChildren[] = {
-    Elem<&RFServerList::rfServers_>(L"RFServer"),
-};
-
-constinit const Schema CInternalRFServerArray::kSchema = {
+constinit const Schema CInternalRFServerArray::kSchema = Checked({
     .element = L"InternalRFServerArray",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kRFServerListChildren<CInternalRFServerArray>,
+});
 
-constinit const Schema CExternalRFServerArray::kSchema = {
+constinit const Schema CExternalRFServerArray::kSchema = Checked({
     .element = L"ExternalRFServerArray",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kRFServerListChildren<CExternalRFServerArray>,
+});
 
-constinit const Attribute CInternalConnection::kAttributes[] = {
+constexpr Attribute kInternalConnectionAttributes[] = {
     Attr<&CInternalConnection::heartbeatRetryInterval_>(L"HeartbeatRetryInterval"),
 };
-constinit const Child CInternalConnection::kChildren[] = {
+constexpr Child kInternalConnectionChildren[] = {
     Elem<&CInternalConnection::internalRFServerArray_>(L"InternalRFServerArray"),
 };
-constinit const Schema CInternalConnection::kSchema = {
+constinit const Schema CInternalConnection::kSchema = Checked({
     .element = L"InternalConnection",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kInternalConnectionAttributes,
+    .children = kInternalConnectionChildren,
+});
 
-constinit const Attribute CExternalConnection::kAttributes[] = {
+constexpr Attribute kExternalConnectionAttributes[] = {
     Attr<&CExternalConnection::heartbeatRetryInterval_>(L"HeartbeatRetryInterval"),
     Attr<&CExternalConnection::failClosed_>(L"FailClosed"),
     Attr<&CExternalConnection::failClosedTimeout_>(L"FailClosedTimeout"),
@@ -50,83 +50,83 @@ constinit const Attribute CExternalConnection::kAttributes[] = {
     Attr<&CExternalConnection::filterFTP_>(L"FilterFTP"),
     Attr<&CExternalConnection::urlLookupAndLog_>(L"URLLookupAndLog"),
 };
-constinit const Child CExternalConnection::kChildren[] = {
+constexpr Child kExternalConnectionChildren[] = {
     Elem<&CExternalConnection::externalRFServerArray_>(L"ExternalRFServerArray"),
 };
-constinit const Schema CExternalConnection::kSchema = {
+constinit const Schema CExternalConnection::kSchema = Checked({
     .element = L"ExternalConnection",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kExternalConnectionAttributes,
+    .children = kExternalConnectionChildren,
+});
 
-constinit const Child CConnection::kChildren[] = {
+constexpr Child kConnectionChildren[] = {
     Elem<&CConnection::internalConnection_>(L"InternalConnection"),
     Elem<&CConnection::externalConnection_>(L"ExternalConnection"),
 };
-constinit const Schema CConnection::kSchema = {
+constinit const Schema CConnection::kSchema = Checked({
     .element = L"Connection",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kConnectionChildren,
+});
 
-constinit const Attribute CUserInterface::kAttributes[] = {
+constexpr Attribute kUserInterfaceAttributes[] = {
     Attr<&CUserInterface::uiSilentMode_>(L"UISilentMode"),
     Attr<&CUserInterface::uiTimeout_>(L"UITimeout"),
 };
-constinit const Schema CUserInterface::kSchema = {
+constinit const Schema CUserInterface::kSchema = Checked({
     .element = L"UserInterface",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kUserInterfaceAttributes,
+});
 
-constinit const Attribute CClientSetting::kAttributes[] = {
+constexpr Attribute kClientSettingAttributes[] = {
     Attr<&CClientSetting::enableTamperProtection_>(L"EnableTamperProtection"),
     Attr<&CClientSetting::enableTelemetry_>(L"EnableTelemetry")
-        .KeptWhenAbsent()
-        .ReadFault(L"XMLManager: read dword/bool Attribute failed. element:ClientSetting, "
-                   L"attr:EnableTelemetry"),
+        .MayBeAbsent()
+        .ReadReport(L"XMLManager: read dword/bool Attribute failed. element:ClientSetting, "
+                    L"attr:EnableTelemetry"),
     Attr<&CClientSetting::disableFiltering_>(L"DisableFiltering"),
     Attr<&CClientSetting::adminPasswordHash_>(L"AdminPasswordHash"),
 };
-constinit const Child CClientSetting::kChildren[] = {
+constexpr Child kClientSettingChildren[] = {
     Elem<&CClientSetting::userInterface_>(L"UserInterface"),
 };
-constinit const Schema CClientSetting::kSchema = {
+constinit const Schema CClientSetting::kSchema = Checked({
     .element = L"ClientSetting",
     .dialect = kDialect,
-    .attributes = kAttributes,
-    .children = kChildren,
-};
+    .attributes = kClientSettingAttributes,
+    .children = kClientSettingChildren,
+});
 
-constinit const Attribute CRFURLCondition::kAttributes[] = {
+constexpr Attribute kRFURLConditionAttributes[] = {
     Attr<&CRFURLCondition::siteURL_>(L"SiteURL"),
 };
-constinit const Schema CRFURLCondition::kSchema = {
+constinit const Schema CRFURLCondition::kSchema = Checked({
     .element = L"RFURLCondition",
     .dialect = kDialect,
-    .attributes = kAttributes,
-};
+    .attributes = kRFURLConditionAttributes,
+});
 
-constinit const Child CRFTrustedSites::kChildren[] = {
+constexpr Child kRFTrustedSitesChildren[] = {
     Elem<&CRFTrustedSites::rfURLConditions_>(L"RFURLCondition"),
 };
-constinit const Schema CRFTrustedSites::kSchema = {
+constinit const Schema CRFTrustedSites::kSchema = Checked({
     .element = L"RFTrustedSites",
     .dialect = kDialect,
-    .children = kChildren,
-};
+    .children = kRFTrustedSitesChildren,
+});
 
-constinit const Child CRFClientConfiguration::kChildren[] = {
+constexpr Child kRFClientConfigurationChildren[] = {
     Elem<&CRFClientConfiguration::connection_>(L"Connection"),
-    Elem<&CRFClientConfiguration::clientSetting_>(L"ClientSetting").MissedFirst(),
+    Elem<&CRFClientConfiguration::clientSetting_>(L"ClientSetting").AbsenceReportedFirst(),
     Elem<&CRFClientConfiguration::rfTrustedSites_>(L"RFTrustedSites"),
 };
-constinit const Schema CRFClientConfiguration::kSchema = {
+constinit const Schema CRFClientConfiguration::kSchema = Checked({
     .element = L"IRFClientConfiguration",
     .dialect = kDialect,
-    .attributes = kIdentity,
-    .children = kChildren,
-};
+    .attributes = kIdentityAttributes<CRFClientConfiguration>,
+    .children = kRFClientConfigurationChildren,
+});
 
 }  // namespace RFConfInterface

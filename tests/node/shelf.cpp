@@ -28,50 +28,50 @@ constexpr const wchar_t* kFinishes[] = {L"RAW", L"OIL", L"WAX"};
 
 }  // namespace
 
-constinit const Schema CTitle::kSchema = {
-    .element = L"Title", .dialect = kSigned, .content = TextOf<&CTitle::content>()};
-constinit const Schema CPages::kSchema = {
-    .element = L"Pages", .dialect = kSigned, .content = TextOf<&CPages::content>()};
-constinit const Schema CRemark::kSchema = {
-    .element = L"Remark", .dialect = kSigned, .content = TextOf<&CRemark::content>()};
+constinit const Schema CTitle::kSchema =
+    Checked({.element = L"Title", .dialect = kSigned, .content = TextOf<&CTitle::content>()});
+constinit const Schema CPages::kSchema =
+    Checked({.element = L"Pages", .dialect = kSigned, .content = TextOf<&CPages::content>()});
+constinit const Schema CRemark::kSchema =
+    Checked({.element = L"Remark", .dialect = kSigned, .content = TextOf<&CRemark::content>()});
 
-constinit const Child CBook::kChildren[] = {
+constexpr Child kBookChildren[] = {
     Elem<&CBook::pages>(L"Pages"),
-    Elem<&CBook::title>(L"Title").MissedFirst(),
+    Elem<&CBook::title>(L"Title").AbsenceReportedFirst(),
     Elem<&CBook::remark>(L"Remark"),
     Elem<&CBook::lamp>(L"Lamp"),
 };
-constinit const Schema CBook::kSchema = {
-    .element = L"Book", .dialect = kSigned, .children = kChildren};
+constinit const Schema CBook::kSchema =
+    Checked({.element = L"Book", .dialect = kSigned, .children = kBookChildren});
 
-constinit const Attribute CLamp::kAttributes[] = {
-    Attr<&CLamp::colour>(L"Colour", {kWoods, L"OTHER"}),
+constexpr Attribute kLampAttributes[] = {
+    Attr<&CLamp::colour>(L"Colour", {kWoods, L"OTHER"}).KeepsValue(),
     Attr<&CLamp::watts>(L"Watts"),
 };
-constinit const Schema CLamp::kSchema = {
+constinit const Schema CLamp::kSchema = Checked({
     .element = L"Lamp",
     .dialect = kSigned,
-    .attributes = kAttributes,
+    .attributes = kLampAttributes,
     .reported_as = L"LAMP",
-    .close_fault = OwnText(L"lamp not closed"),
-};
+    .close_report = L"lamp not closed",
+});
 
-constinit const Child CLabels::kChildren[] = {
-    Elem<&CLabels::titles>(L"Title").WriteFault(L"").ReadFault(L"a label failed"),
+constexpr Child kLabelsChildren[] = {
+    Elem<&CLabels::titles>(L"Title").WriteReport(L"").ReadReport(L"a label failed"),
 };
-constinit const Schema CLabels::kSchema = {
+constinit const Schema CLabels::kSchema = Checked({
     .element = L"Labels",
     .dialect = kUnsigned,
-    .children = kChildren,
-    .is_closed_empty = true,
-    .add_fault = OwnText(L""),
-    .close_fault = OwnText(L""),
-    .null_writer = OwnText(L"no writer for labels"),
-    .null_reader = OwnText(L"no reader for labels"),
-};
+    .children = kLabelsChildren,
+    .closes_as_empty_tag = true,
+    .add_report = L"",
+    .close_report = L"",
+    .null_writer_report = L"no writer for labels",
+    .null_reader_report = L"no reader for labels",
+});
 
-constinit const Schema CStamp::kSchema = {
-    .element = L"Stamp", .dialect = kSigned, .content = TextOf<&CStamp::text>()};
+constinit const Schema CStamp::kSchema =
+    Checked({.element = L"Stamp", .dialect = kSigned, .content = TextOf<&CStamp::text>()});
 
 ConfigResult CStamp::WriteToXMLMgr(IXMLLiteManager* manager, int /*reserved*/,
                                    int /*position*/) const {
@@ -86,7 +86,7 @@ ConfigResult CStamp::ReadFromXMLMgr(IXMLLiteManager* manager, int /*reserved*/) 
   return 0;
 }
 
-constinit const Attribute CShelf::kAttributes[] = {
+constexpr Attribute kShelfAttributes[] = {
     Attr<&CShelf::number>(L"Number"),
     Attr<&CShelf::name>(L"Name"),
     Attr<&CShelf::wood>(L"Wood", {kWoods}),
@@ -94,23 +94,23 @@ constinit const Attribute CShelf::kAttributes[] = {
     Attr<&CShelf::place>(L"Place"),
     Attr<&CShelf::finish>(L"Finish", {kFinishes}),
     Attr<&CShelf::worth>(L"Value"),
-    Attr<&CShelf::level>(L"Level").KeptWhenAbsent().Unchecked(),
+    Attr<&CShelf::level>(L"Level").MayBeAbsent().IgnoresWriteFailure(),
     Attr<&CShelf::locked>(L"Locked").OneWhenAbsent(),
-    Attr<&CShelf::watched>(L"Watched").PresentWhenClear().ReadFault(L"watched is no number"),
+    Attr<&CShelf::watched>(L"Watched").PresentWhenClear().ReadReport(L"watched is no number"),
 };
-constinit const Child CShelf::kChildren[] = {
-    Elem<&CShelf::lamp>(L"Lamp").WriteFault(L"dark").Missing(L"no lamp"),
+constexpr Child kShelfChildren[] = {
+    Elem<&CShelf::lamp>(L"Lamp").WriteReport(L"dark").AbsenceReport(L"no lamp"),
     Elem<&CShelf::title>(L"Title"),
     Elem<&CShelf::books>(L"Book"),
-    Elem<&CShelf::labels>(L"Labels").ReadFault(L"no labels"),
+    Elem<&CShelf::labels>(L"Labels").ReadReport(L"no labels"),
     Elem<&CShelf::stamp>(L"Stamp"),
 };
-constinit const Schema CShelf::kSchema = {
+constinit const Schema CShelf::kSchema = Checked({
     .element = L"Shelf",
     .dialect = kUnsigned,
-    .attributes = kAttributes,
-    .children = kChildren,
-    .add_fault = OwnText(L"no shelf"),
-};
+    .attributes = kShelfAttributes,
+    .children = kShelfChildren,
+    .add_report = L"no shelf",
+});
 
 }  // namespace shelf

@@ -43,17 +43,8 @@ class CRemark final : public NodeOf<CRemark> {
 class CLamp final : public NodeOf<CLamp> {
  public:
   static const tolva::node::Schema kSchema;
-  void Clear() override {
-    const DWORD kept = colour;
-    NodeOf<CLamp>::Clear();
-    colour = kept;
-  }
-
   DWORD colour = 0;
   tolva::node::Optional<DWORD> watts;
-
- private:
-  static const tolva::node::Attribute kAttributes[];
 };
 
 class CBook final : public NodeOf<CBook> {
@@ -65,9 +56,6 @@ class CBook final : public NodeOf<CBook> {
   CTitle title;
   tolva::node::OptionalChild<CRemark> remark;
   tolva::node::LazyChild<CLamp> lamp;
-
- private:
-  static const tolva::node::Child kChildren[];
 };
 
 /// A list that fails in silence, and whose items are elements of another name than its own.
@@ -75,9 +63,6 @@ class CLabels final : public NodeOf<CLabels> {
  public:
   static const tolva::node::Schema kSchema;
   tolva::node::ChildList<CTitle> titles;
-
- private:
-  static const tolva::node::Child kChildren[];
 };
 
 /// Not an INode: it has no `Clear` and no `CopyFrom`.
@@ -113,10 +98,6 @@ class CShelf final : public NodeOf<CShelf> {
   tolva::node::ChildList<CBook> books;
   tolva::node::OptionalChild<CLabels> labels;
   CStamp stamp;
-
- private:
-  static const tolva::node::Attribute kAttributes[];
-  static const tolva::node::Child kChildren[];
 };
 
 }  // namespace shelf

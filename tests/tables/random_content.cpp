@@ -131,18 +131,58 @@ bool AreEqual(const Schema& table, const IElement& left, const IElement& right) 
   return true;
 }
 
-void Reveal(const Schema& table, IElement& node) {
-  for (const Attribute& row : table.attributes) {
-    const FieldRef field = row.locate(node);
-    if (field.present != nullptr) *field.present = 1;
+namespace {
+
+bool IsDefault(ValueType type, const FieldRef& field) {
+  switch (type) {
+    case ValueType::kLongNumber:
+      return *static_cast<std::uint64_t*>(field.value) == 0;
+    case ValueType::kString:
+      return static_cast<std::wstring*>(field.value)->empty();
+    default:
+      return *static_cast<DWORD*>(field.value) == 0;
   }
-  if (table.content.is_optional) *table.content.locate(node).present = 1;
+}
+
+bool IsCleared(const Attribute& row, const FieldRef& field, const FieldRef* before) {
+  const FieldRef value = {field.value, nullptr};
+  const bool value_holds =
+      !row.keeps_value ? IsDefault(row.type, field)
+                       : before == nullptr || AreEqual(row.type, value, {before->value, nullptr});
+  if (!value_holds || field.present == nullptr) return value_holds;
+  if (!row.keeps_presence) return *field.present == (row.is_present_when_clear ? 1U : 0U);
+  return before == nullptr || *field.present == *before->present;
+}
+
+}  // namespace
+
+bool IsCleared(const Schema& table, IElement& node, IElement* before) {
+  for (const Attribute& row : table.attributes) {
+    const FieldRef old = before == nullptr ? FieldRef() : row.locate(*before);
+    if (!IsCleared(row, row.locate(node), before == nullptr ? nullptr : &old)) return false;
+  }
+  if (table.content.locate != nullptr) {
+    const FieldRef field = table.content.locate(node);
+    if (!IsDefault(table.content.type, field)) return false;
+    if (field.present != nullptr && *field.present != 0) return false;
+  }
   for (const Child& row : table.children) {
     const ChildRef child = row.locate(node);
-    if (child.items != nullptr) continue;
-    Reveal(*row.schema, row.make(node));
-    if (child.present != nullptr) *child.present = 1;
+    const ChildRef old = before == nullptr ? ChildRef() : row.locate(*before);
+    if (child.items != nullptr) {
+      if (child.items->Size() != 0) return false;
+      continue;
+    }
+    if (child.present != nullptr) {
+      const bool is_kept = row.keeps_presence;
+      if (!is_kept && *child.present != 0) return false;
+      if (is_kept && before != nullptr && *child.present != *old.present) return false;
+    }
+    if (child.element != nullptr && !IsCleared(*row.schema, *child.element, old.element)) {
+      return false;
+    }
   }
+  return true;
 }
 
 }  // namespace tolva::test

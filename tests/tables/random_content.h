@@ -29,7 +29,8 @@ class RandomContent {
 /// Whether two nodes of a class hold the same.
 bool AreEqual(const node::Schema& table, const node::IElement& left, const node::IElement& right);
 
-/// Makes everything optional present, with whatever it holds.
-void Reveal(const node::Schema& table, node::IElement& node);
+/// Whether a node holds nothing but defaults, not even where it cannot be seen for now, apart from
+/// what its table says that Clear keeps: this has to be what `before` has; null: anything.
+bool IsCleared(const node::Schema& table, node::IElement& node, node::IElement* before);
 
 }  // namespace tolva::test
