@@ -62,8 +62,7 @@ constexpr Attribute kClientSettingAttributes[] = {
     Attr<&CClientSetting::enableTamperProtection_>(L"EnableTamperProtection"),
     Attr<&CClientSetting::enableTelemetry_>(L"EnableTelemetry")
         .PresentWhenClear()
-        .ReadReport(L"XMLManager: read dword/bool Attribute failed. element:ClientSetting, "
-                    L"attr:EnableTelemetry"),
+        .ReadReport(kReadEnableTelemetry),
 };
 constexpr Child kClientSettingChildren[] = {
     Elem<&CClientSetting::userInterface_>(L"UserInterface"),

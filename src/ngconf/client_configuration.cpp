@@ -58,8 +58,8 @@ constexpr Child kClientManagementChildren[] = {
     Elem<&CClientManagement::ngUserSetting_>(L"NGUserSetting"),
     Elem<&CClientManagement::ngFirefoxSetting_>(L"NGFirefoxSetting"),
     Elem<&CClientManagement::activeDirectory_>(L"ActiveDirectory")
-        .WriteReport(L"XMLManager: write element failed. element:ActiveDirectory")
-        .ReadReport(L"XMLManager: read element failed. element:ActiveDirectory"),
+        .WriteReport(kWriteActiveDirectory)
+        .ReadReport(kReadActiveDirectory),
 };
 constinit const Schema CClientManagement::kSchema = Checked({
     .element = L"ClientManagement",

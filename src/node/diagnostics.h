@@ -65,6 +65,14 @@ inline constexpr std::wstring_view kReadRequireManager =
 inline constexpr std::wstring_view kReadRequiredManager =
     L"XMLManager: ReadFromXMLMgr required xmlmanager pointer is NULL.";
 
+// of children and attributes that several documents have in common
+inline constexpr std::wstring_view kWriteActiveDirectory =
+    L"XMLManager: write element failed. element:ActiveDirectory";
+inline constexpr std::wstring_view kReadActiveDirectory =
+    L"XMLManager: read element failed. element:ActiveDirectory";
+inline constexpr std::wstring_view kReadEnableTelemetry =
+    L"XMLManager: read dword/bool Attribute failed. element:ClientSetting, attr:EnableTelemetry";
+
 // ---- reporting: every function hands one text to the diagnostic callback ------------------------
 
 /// The text as it stands; an empty one is silence.

@@ -127,7 +127,7 @@ struct Attribute {
     row.keeps_presence = true;
     return row;
   }
-  consteval Attribute ReadReport(const wchar_t* text) const {
+  consteval Attribute ReadReport(std::wstring_view text) const {
     Attribute row = *this;
     row.read_report = text;
     return row;
@@ -181,23 +181,23 @@ struct Child {
     row.keeps_presence = true;
     return row;
   }
-  consteval Child WriteReport(const wchar_t* text) const {
+  consteval Child WriteReport(std::wstring_view text) const {
     Child row = *this;
     row.write_report = text;
     return row;
   }
-  consteval Child ReadReport(const wchar_t* text) const {
+  consteval Child ReadReport(std::wstring_view text) const {
     Child row = *this;
     row.read_report = text;
     return row;
   }
-  consteval Child AbsenceReport(const wchar_t* text) const {
+  consteval Child AbsenceReport(std::wstring_view text) const {
     internal::Require(occurrence == Occurrence::kRequired, "only a required child can be missing");
     Child row = *this;
     row.absence_report = text;
     return row;
   }
-  consteval Child Announced(const wchar_t* before, const wchar_t* after) const {
+  consteval Child Announced(std::wstring_view before, std::wstring_view after) const {
     Child row = *this;
     row.before_write = before;
     row.after_write = after;

@@ -172,8 +172,8 @@ constexpr Child kILPClientConfigurationChildren[] = {
     Elem<&CILPClientConfiguration::encryption_>(L"Encryption"),
     Elem<&CILPClientConfiguration::telemetryCollection_>(L"TelemetryCollection"),
     Elem<&CILPClientConfiguration::activeDirectory_>(L"ActiveDirectory")
-        .WriteReport(L"XMLManager: write element failed. element:ActiveDirectory")
-        .ReadReport(L"XMLManager: read element failed. element:ActiveDirectory"),
+        .WriteReport(kWriteActiveDirectory)
+        .ReadReport(kReadActiveDirectory),
 };
 constinit const Schema CILPClientConfiguration::kSchema = Checked({
     .element = L"ILPClientConfiguration",

@@ -73,8 +73,7 @@ constexpr Attribute kClientSettingAttributes[] = {
     Attr<&CClientSetting::enableTamperProtection_>(L"EnableTamperProtection"),
     Attr<&CClientSetting::enableTelemetry_>(L"EnableTelemetry")
         .PresentWhenClear()
-        .ReadReport(L"XMLManager: read dword/bool Attribute failed. element:ClientSetting, "
-                    L"attr:EnableTelemetry"),
+        .ReadReport(kReadEnableTelemetry),
     Attr<&CClientSetting::adminPasswordHash_>(L"AdminPasswordHash"),
 };
 constexpr Child kClientSettingChildren[] = {

@@ -84,8 +84,7 @@ constexpr Attribute kClientSettingAttributes[] = {
     Attr<&CClientSetting::enableTamperProtection_>(L"EnableTamperProtection"),
     Attr<&CClientSetting::enableTelemetry_>(L"EnableTelemetry")
         .MayBeAbsent()
-        .ReadReport(L"XMLManager: read dword/bool Attribute failed. element:ClientSetting, "
-                    L"attr:EnableTelemetry"),
+        .ReadReport(kReadEnableTelemetry),
     Attr<&CClientSetting::disableFiltering_>(L"DisableFiltering"),
     Attr<&CClientSetting::adminPasswordHash_>(L"AdminPasswordHash"),
 };

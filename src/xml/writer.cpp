@@ -21,19 +21,19 @@ bool IsRefusal(HRESULT result) {
 
 /// Makes a call of the platform's writer.
 template <class Call>
-HRESULT CXMLLiteManagerWriter::Ask(Call call) {
+HRESULT CXMLLiteManagerWriter::Invoke(Call call) {
   const HRESULT fault = NextWriterFault();
   return FAILED(fault) ? fault : call();
 }
 
 /// Makes a call that adds to the document.
 template <class Call>
-ConfigResult CXMLLiteManagerWriter::Write(Call call) {
+ConfigResult CXMLLiteManagerWriter::Emit(Call call) {
   if (!stream_) {
     SetLastResult(E_UNEXPECTED);
     return kFailed;
   }
-  const HRESULT result = Ask(call);
+  const HRESULT result = Invoke(call);
   if (SUCCEEDED(result)) return kSuccess;
   if (SUCCEEDED(loss_) && !IsRefusal(result)) loss_ = result;
   SetLastResult(result);
@@ -72,9 +72,9 @@ ConfigResult CXMLLiteManagerWriter::OpenFile(const wchar_t* path) try {
     SetLastResult(result);
     return kFailed;
   }
-  result = Ask([this] { return writer_->SetOutput(stream_.Get()); });
+  result = Invoke([this] { return writer_->SetOutput(stream_.Get()); });
   if (SUCCEEDED(result)) {
-    result = Ask([this] { return writer_->WriteStartDocument(XmlStandalone_Omit); });
+    result = Invoke([this] { return writer_->WriteStartDocument(XmlStandalone_Omit); });
   }
   if (FAILED(result)) {
     Release();
@@ -101,7 +101,7 @@ ConfigResult CXMLLiteManagerWriter::Close() {
 /// Ends the document and brings it to the file, as far as that succeeds; returns the first failure.
 HRESULT CXMLLiteManagerWriter::Finish() {
   const HRESULT ended = EndDocument();
-  const HRESULT flushed = Ask([this] { return writer_->Flush(); });
+  const HRESULT flushed = Invoke([this] { return writer_->Flush(); });
   if (FAILED(ended) && !IsRefusal(ended)) return ended;
   // The document is complete, or nothing can be added to it any more.
   const HRESULT stored = FAILED(flushed) ? flushed : stream_->Commit(STGC_DEFAULT);
@@ -110,7 +110,7 @@ HRESULT CXMLLiteManagerWriter::Finish() {
 
 HRESULT CXMLLiteManagerWriter::EndDocument() {
   if (is_ended_) return S_OK;
-  const HRESULT result = Ask([this] { return writer_->WriteEndDocument(); });
+  const HRESULT result = Invoke([this] { return writer_->WriteEndDocument(); });
   is_ended_ = SUCCEEDED(result);
   return result;
 }
@@ -125,35 +125,34 @@ void CXMLLiteManagerWriter::Release() {
 
 ConfigResult CXMLLiteManagerWriter::StartElement(const wchar_t* name) {
   if (!IsSet(name)) return kInvalidArgument;
-  return Write([&] { return writer_->WriteStartElement(nullptr, name, nullptr); });
+  return Emit([&] { return writer_->WriteStartElement(nullptr, name, nullptr); });
 }
 
 ConfigResult CXMLLiteManagerWriter::WriteAttribute(const wchar_t* name, Text value) {
   if (!IsSet(name)) return kInvalidArgument;
   if (Check(value) != kSuccess) return kFailed;
-  return Write(
-      [&] { return writer_->WriteAttributeString(nullptr, name, nullptr, value.c_str()); });
+  return Emit([&] { return writer_->WriteAttributeString(nullptr, name, nullptr, value.c_str()); });
 }
 
 ConfigResult CXMLLiteManagerWriter::EndElement(Text text) {
   if (Check(text) != kSuccess) return kFailed;
   if (!text.IsEmpty()) {
-    const ConfigResult result = Write([&] { return writer_->WriteString(text.c_str()); });
+    const ConfigResult result = Emit([&] { return writer_->WriteString(text.c_str()); });
     if (result != kSuccess) return result;
   }
   const ConfigResult result = text.IsNull()
-                                  ? Write([this] { return writer_->WriteEndElement(); })
-                                  : Write([this] { return writer_->WriteFullEndElement(); });
+                                  ? Emit([this] { return writer_->WriteEndElement(); })
+                                  : Emit([this] { return writer_->WriteFullEndElement(); });
   if (result != kSuccess) return result;
   // The line feed is for people; its failure is reported, but is none of the element's.
-  Write([this] { return writer_->WriteWhitespace(L"\n"); });
+  Emit([this] { return writer_->WriteWhitespace(L"\n"); });
   return kSuccess;
 }
 
 ConfigResult CXMLLiteManagerWriter::WriteElementString(const wchar_t* name, Text text) {
   if (!IsSet(name)) return kInvalidArgument;
   if (Check(text) != kSuccess) return kFailed;
-  return Write([&] { return writer_->WriteElementString(nullptr, name, nullptr, text.c_str()); });
+  return Emit([&] { return writer_->WriteElementString(nullptr, name, nullptr, text.c_str()); });
 }
 
 /// Only characters that XML allows: a zero within the text is none, and would hide what follows it.

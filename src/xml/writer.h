@@ -33,9 +33,9 @@ class CXMLLiteManagerWriter final : public CXMLLiteManager {
 
  private:
   template <class Call>
-  HRESULT Ask(Call call);
+  HRESULT Invoke(Call call);
   template <class Call>
-  ConfigResult Write(Call call);
+  ConfigResult Emit(Call call);
   ConfigResult Check(Text text);
   HRESULT EndDocument();
   HRESULT Finish();
