@@ -74,7 +74,7 @@ class CdetectedValues final : public Node<CdetectedValues, IdetectedValues> {
   TOLVA_CHILDREN(CdetectedValue, DetectedValue, detectedValues_);
 };
 
-/// No INode: it is written by its table, but reads in its own way.
+/// Not an INode. It is written by its table but reads in its own way.
 class CcustomDisplayText final : public IcustomDisplayText {
  public:
   static const Schema kSchema;
@@ -87,7 +87,7 @@ class CcustomDisplayText final : public IcustomDisplayText {
     return tolva::kSuccess;
   }
 
-  /// For the violation's own.
+  /// Called when the violation is cleared.
   void Clear() { content_.clear(); }
   std::wstring content_;
 };

@@ -3,7 +3,7 @@
 namespace ClientConfig {
 namespace {
 
-using namespace tolva::node;  // the language of the tables
+using namespace tolva::node;  // for the tables
 
 constexpr Dialect kDialect = {
     .numbers = Numbers::kSigned,

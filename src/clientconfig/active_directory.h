@@ -21,8 +21,7 @@ class CActiveDirectory final : public tolva::node::Node<CActiveDirectory, IActiv
  public:
   static const tolva::node::Schema kSchema;
 
-  /// The root copies nothing, unlike its child. (As a field of another document's class it is
-  /// copied like any other.)
+  /// Copies nothing, unlike its child. (As a field of another class it is copied like any other.)
   IActiveDirectory& CopyFrom(const IActiveDirectory& /*other*/) override { return *this; }
 
   TOLVA_CHILD(CDefaultDomain, DefaultDomain, defaultDomain_);

@@ -1,4 +1,4 @@
-// The exported functions that make managers, install the callback and reach the last-error value.
+// The exported functions that are not factories.
 #include <tolva/xml/manager.h>
 
 #include <memory>

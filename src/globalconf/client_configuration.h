@@ -50,7 +50,7 @@ class CSetting final : public Node<CSetting, ISetting> {
   TOLVA_OPTIONAL(DWORD, MinimumMacBuild, minimumMacBuild_);
 };
 
-/// The lists of settings: one class for all, `C` and `I` being the class and the interface of one.
+/// Base of a list of settings `C`, which implements `I`.
 template <class C, class I>
 class SettingList : public Node<C, I> {
  public:

@@ -52,7 +52,7 @@ constinit const Schema CEndPointMessage::kSchema = Checked({
     .children = kEndPointMessageChildren,
 });
 
-// Here the items' class is complete.
+// The class of the items is complete here.
 CEndpointLocalMsg::CEndpointLocalMsg() = default;
 CEndpointLocalMsg::CEndpointLocalMsg(const CEndpointLocalMsg& other) = default;
 CEndpointLocalMsg::CEndpointLocalMsg(CEndpointLocalMsg&& other) noexcept = default;

@@ -57,7 +57,7 @@ class CClientManagement final : public Node<CClientManagement, IClientManagement
   static const Schema kSchema;
 
   TOLVA_OPTIONAL(DWORD, EnableTrayIconMenu, enableTrayIconMenu_);
-  /// In no table: reading, writing and clearing leave it alone.
+  /// In no table, so reading, writing and clearing do not touch it.
   TOLVA_OPTIONAL(DWORD, ReservedSetting, reservedSetting_);
   TOLVA_PRESENCE(ActiveDirectory, activeDirectory_);
   ConfigResult GetDefaultDomainEnabled(DWORD* out) const override;

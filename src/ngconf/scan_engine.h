@@ -47,7 +47,7 @@ class CIPNode final : public Node<CIPNode, IIPNode> {
   TOLVA_STRING(PortNumber, portNumber_);
 };
 
-/// What the lists of what is enforced and what is exempt have in common.
+/// What the enforce list and the white list have in common.
 template <class C, class I>
 class NetworkLists : public Node<C, I> {
  public:

@@ -1,6 +1,6 @@
-// The accessors of an element's class, a line for each attribute and child: the field, and the
-// functions by which callers reach it. The forms, their results and what they copy are those that
-// tolva/node/node.h describes.
+// The accessors of an element's class. One line per attribute or child declares the field and the
+// functions that callers reach it by. tolva/node/node.h describes the forms, their results and what
+// they copy.
 //
 //   class CTimeSlot final : public Node<CTimeSlot, ITimeSlot> {
 //    public:
@@ -10,8 +10,8 @@
 //     TOLVA_STRING(StartTime, startTime_);
 //   };
 //
-// The fields are public within the library: callers see the interface alone. An accessor that
-// departs from its form is written by hand, beside the others.
+// The fields are public within the library; callers see only the interface. An accessor that
+// departs from its form is written by hand, next to the others.
 #pragma once
 
 #include <string>
@@ -25,7 +25,7 @@
   ConfigResult Set##X(const DWORD* value) override { return this->SetRequired(field, value); } \
   DWORD field = 0
 
-/// A required number whose getter stores it where the caller says.
+/// A required number whose getter has an out parameter.
 #define TOLVA_STORED_NUMBER(X, field)                                                          \
   ConfigResult Get##X(DWORD* out) const override { return tolva::node::Store(field, out); }    \
   ConfigResult Set##X(const DWORD* value) override { return this->SetRequired(field, value); } \
@@ -59,14 +59,14 @@
   ConfigResult Set##Y(const C::Interface* child) override { return field.Set(child); } \
   tolva::node::OptionalChild<C> field
 
-/// An optional child that is made when it is first needed.
+/// An optional child that is created on first use.
 #define TOLVA_LAZY_CHILD(C, Y, field)                                                  \
   ConfigResult Get##Y(C::Interface** out) override { return field.Get(out); }          \
   ConfigResult Set##Y(const C::Interface* child) override { return field.Set(child); } \
   tolva::node::LazyChild<C> field
 
-/// The presence flag of the optional child that `field` holds. The flag keeps any value that is not
-/// 0; the accessors of the child itself stand beside it.
+/// The presence flag of the optional child in `field`. The flag keeps any nonzero value. The
+/// accessors of the child itself are declared separately.
 #define TOLVA_PRESENCE(Y, field)                                                                \
   ConfigResult Get##Y##Present(DWORD* out) const override { return field.GetPresent(out); }     \
   ConfigResult Set##Y##Present(const DWORD* value) override { return field.SetPresent(value); } \

@@ -1,4 +1,4 @@
-// The common part of the elements that name a browser's configuration files.
+// What elements that name a browser's configuration files have in common.
 #pragma once
 
 #include <tolva/node/browser_files.h>
@@ -9,7 +9,7 @@
 
 namespace tolva::node {
 
-/// All of an element's class `C` but its name; it implements `I`.
+/// Base of an element's class `C`, which implements `I`.
 template <class C, class I>
 class BrowserFiles : public Node<C, I> {
  public:

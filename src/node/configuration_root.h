@@ -1,4 +1,4 @@
-// The common part of the roots of the agent's configurations.
+// What the root elements of the configurations have in common.
 #pragma once
 
 #include <tolva/node/configuration_root.h>
@@ -9,7 +9,7 @@
 
 namespace tolva::node {
 
-/// The base of a root's class `C`, which implements `I`.
+/// Base of a root's class `C`, which implements `I`.
 template <class C, class I>
 class ConfigurationRoot : public Node<C, I> {
  public:

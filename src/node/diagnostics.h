@@ -1,12 +1,12 @@
-// The texts of the diagnostics, each once. Their wording, slips and inconsistencies included, is
-// what callers and their tools know: it is never mended.
+// The texts of the diagnostics, each once. Callers and their tools rely on the wording, with all
+// its slips and inconsistencies: never correct it.
 #pragma once
 
 #include <string_view>
 
 namespace tolva::node {
 
-// ---- beginnings, which the names of an element and perhaps an attribute follow -----------------
+// ---- beginnings, followed by the name of an element and perhaps of an attribute ----------------
 
 // setting
 inline constexpr std::wstring_view kSetAttributeParam =
@@ -34,7 +34,7 @@ inline constexpr std::wstring_view kWriteStringContent =
 inline constexpr std::wstring_view kWriteNumberContent =
     L"XMLManager: write required content DWORD/BOOL failed.";
 
-// reading; most documents report an absent string as if it were an ENUM
+// reading; most documents report a missing string as if it were an ENUM
 inline constexpr std::wstring_view kReadNumber =
     L"XMLManager: read required dword/bool Attribute failed.";
 inline constexpr std::wstring_view kReadString =
@@ -65,7 +65,7 @@ inline constexpr std::wstring_view kReadRequireManager =
 inline constexpr std::wstring_view kReadRequiredManager =
     L"XMLManager: ReadFromXMLMgr required xmlmanager pointer is NULL.";
 
-// of children and attributes that several documents have in common
+// for children and attributes that several documents share
 inline constexpr std::wstring_view kWriteActiveDirectory =
     L"XMLManager: write element failed. element:ActiveDirectory";
 inline constexpr std::wstring_view kReadActiveDirectory =
@@ -73,9 +73,9 @@ inline constexpr std::wstring_view kReadActiveDirectory =
 inline constexpr std::wstring_view kReadEnableTelemetry =
     L"XMLManager: read dword/bool Attribute failed. element:ClientSetting, attr:EnableTelemetry";
 
-// ---- reporting: every function hands one text to the diagnostic callback ------------------------
+// ---- reporting: each function passes one text to the diagnostic callback -----------------------
 
-/// The text as it stands; an empty one is silence.
+/// Reports the text unchanged; reports nothing if it is empty.
 void Report(std::wstring_view text);
 
 /// "<beginning> element:<element>, attr:<attribute>"

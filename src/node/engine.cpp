@@ -14,11 +14,11 @@ using namespace platform;  // see platform.h
 using xml::CXMLLiteManagerReader;
 using xml::CXMLLiteManagerWriter;
 
-/// The rows locate fields for reading and writing alike; who has a constant node does not change
-/// it.
+/// Rows locate fields for reading and writing alike. Callers with a const node do not modify it.
 IElement& Mutable(const IElement& node) { return const_cast<IElement&>(node); }
 
-/// Reports what the table says of a fault, or else what the rule says: a call of `rule`.
+/// Reports the table's own text if it has one, otherwise calls `rule`, which reports the standard
+/// text.
 template <class Rule>
 void ReportOr(const OwnReport& own, Rule rule) {
   if (own.has_value()) {
@@ -52,7 +52,7 @@ bool IsPresent(const FieldRef& field) { return field.present == nullptr || *fiel
 void ClearString(std::wstring& text) {
   constexpr std::size_t kWorthKeeping = 4096;
   if (text.capacity() > kWorthKeeping) {
-    std::wstring().swap(text);  // assignment would keep the memory
+    std::wstring().swap(text);  // an assignment would keep the memory
   } else {
     text.clear();
   }
@@ -86,7 +86,7 @@ std::wstring_view WriteFaultOf(ValueType type) {
   }
 }
 
-/// The text of a value; `buffer` holds that of a number.
+/// The text of a value. `buffer` holds the text of a number.
 xml::Text FormatValue(const Attribute& row, const FieldRef& field, Numbers numbers,
                       NumberText& buffer) {
   switch (row.type) {
@@ -156,7 +156,7 @@ ConfigResult WriteChildren(const Schema& schema, IElement& node, IXMLLiteManager
   return kSuccess;
 }
 
-/// An element that is a value: written in one step.
+/// Writes an element whose value is its text.
 ConfigResult WriteContent(const Schema& schema, IElement& node, CXMLLiteManagerWriter& writer) {
   const Content& content = schema.content;
   const FieldRef field = content.locate(node);
@@ -174,7 +174,7 @@ ConfigResult WriteContent(const Schema& schema, IElement& node, CXMLLiteManagerW
 
 // ---- reading -----------------------------------------------------------------------------------
 
-/// Clears a node unless the read has succeeded: after a failure and when memory runs out.
+/// Clears a node unless the read succeeds. Covers failures and exceptions.
 class ClearOnFailure {
  public:
   explicit ClearOnFailure(INode& node) : node_(&node) {}
@@ -190,7 +190,7 @@ class ClearOnFailure {
   INode* node_;
 };
 
-/// Most names differ in their first character already.
+/// Most names already differ in the first character.
 bool AreEqual(const wchar_t* left, const wchar_t* right) {
   return *left == *right && std::wcscmp(left, right) == 0;
 }
@@ -258,8 +258,8 @@ ConfigResult ReadAttributes(const Schema& schema, IElement& node, CXMLLiteManage
   return kSuccess;
 }
 
-/// The row of the child that the reader stands on, sought from `last` on, the row of the one before
-/// it: writers keep to the order. Null: the element knows none of that name.
+/// Finds the row of the child with this name, or null. The search starts at `last`, the row of the
+/// previous child, because most documents keep the order of the rows.
 const Child* FindChild(const Schema& schema, const wchar_t* name, const Child* last) {
   const Child* const end = schema.children.data() + schema.children.size();
   const Child* row = last;
@@ -275,7 +275,7 @@ ConfigResult ReadClear(const Schema& schema, INode& node, CXMLLiteManagerReader&
 ConfigResult ReadChild(const Child& row, INode& node, CXMLLiteManagerReader& reader) {
   IElement& child = row.make(node);
   if (row.occurrence == Occurrence::kRepeated) {
-    // Every class of items reads by its table, and its row has the table's name.
+    // Items read by their tables, and the row has the name of the table.
     if (ReadClear(*row.schema, static_cast<INode&>(child), reader) == kSuccess) return kSuccess;
     node.Clear();
     ReportElementOr(row.read_report, kReadItem, row.name);
@@ -290,7 +290,7 @@ ConfigResult ReadChild(const Child& row, INode& node, CXMLLiteManagerReader& rea
   return kSuccess;
 }
 
-/// `found` has a bit for each row of the table.
+/// `found` has a bit for each row.
 ConfigResult CheckRequiredChildren(const Schema& schema, std::uint32_t found) {
   for (const bool is_first : {true, false}) {
     std::uint32_t bit = 1;
@@ -328,7 +328,7 @@ ConfigResult ReadChildren(const Schema& schema, INode& node, CXMLLiteManagerRead
   return CheckRequiredChildren(schema, found);
 }
 
-/// An element that is a value. Only a missing text gives -102.
+/// Reads an element whose value is its text. Only a missing text gives -102.
 ConfigResult ReadContent(const Schema& schema, IElement& node, CXMLLiteManagerReader& reader) {
   const Content& content = schema.content;
   if (content.locate == nullptr) return kSuccess;
@@ -354,7 +354,7 @@ ConfigResult ReadContent(const Schema& schema, IElement& node, CXMLLiteManagerRe
   return kFailed;
 }
 
-/// Leaves the reader where the node's parent expects it.
+/// Moves the reader to where the parent of the node expects it.
 void Finish(const Schema& schema, CXMLLiteManagerReader& reader) {
   if (!schema.content.stops_at_first_end_tag) {
     reader.FinishElement();
@@ -367,7 +367,7 @@ void Finish(const Schema& schema, CXMLLiteManagerReader& reader) {
   } while (type != XmlNodeType_EndElement && type != XmlNodeType_None);
 }
 
-/// Reads the reader's element, which is one of the table's, into a node that holds nothing yet.
+/// Reads the current element, whose name has been checked, into a node that is clear.
 ConfigResult ReadClear(const Schema& schema, INode& node, CXMLLiteManagerReader& reader) {
   ClearOnFailure cleaner(node);
   ConfigResult result = ReadAttributes(schema, node, reader);

@@ -1,4 +1,4 @@
-// What every node does, by its table, which has to be that of its class.
+// What every node does, driven by the table of its class.
 #pragma once
 
 #include "node/schema.h"
@@ -7,7 +7,7 @@ namespace tolva::node {
 
 ConfigResult WriteNode(const Schema& schema, const IElement& node, IXMLLiteManager* manager);
 
-/// A class that clears itself in its own way is cleared so, at the start and after a failure.
+/// Clears the node before it reads, and again if it fails.
 ConfigResult ReadNode(const Schema& schema, INode& node, IXMLLiteManager* manager);
 
 void ClearNode(const Schema& schema, IElement& node);
@@ -15,7 +15,7 @@ void ClearNode(const Schema& schema, IElement& node);
 /// Reports that a setter was given null for the required field at `field`.
 void ReportNullValue(const Schema& schema, const IElement& node, const void* field);
 
-/// Likewise for the required child.
+/// Reports that a setter was given null for the required child.
 void ReportNullChild(const Schema& schema, const IElement& node, const IElement* child);
 
 }  // namespace tolva::node

@@ -1,14 +1,14 @@
-// What the classes of elements are made of: fields whose types say how often something occurs.
+// The fields of element classes. The type of a field says how often the thing occurs.
 //
 //   DWORD x_;                      required number or ENUM attribute
 //   std::wstring x_;               required string attribute
 //   Optional<T> x_;                optional attribute
 //   CY y_;                         required child
 //   OptionalChild<CY> y_;          optional child
-//   LazyChild<CY> y_;              optional child that is large, in an element that occurs often
+//   LazyChild<CY> y_;              optional child, large and mostly absent
 //   ChildList<CY> y_;              repeated child
 //
-// All are values: copying a class copies everything below it.
+// All of them are values: copying a class copies everything below it.
 #pragma once
 
 #include <tolva/node/node.h>
@@ -21,8 +21,8 @@
 
 namespace tolva::node {
 
-/// Copies a node's fields; `from` may be the node itself or one below it. When memory runs out,
-/// `to` is as it was.
+/// Copies a node's fields. `from` may be `to` itself or a node below it. `to` is unchanged if
+/// memory runs out.
 template <class C>
 void Assign(C& to, const C& from) {
   if (&to == &from) return;
@@ -30,7 +30,7 @@ void Assign(C& to, const C& from) {
   to = std::move(copy);
 }
 
-/// Stores a value where a caller wants it; null: the caller only asks.
+/// Stores a value in an out parameter, which may be null.
 template <class T>
 ConfigResult Store(const T& value, T* out) {
   if (out != nullptr) *out = value;
@@ -58,7 +58,7 @@ struct Optional {
   DWORD present = 0;
 };
 
-/// An optional child, and whether it is present. The child is there either way.
+/// An optional child, and whether it is present. The object exists either way.
 template <class C>
 struct OptionalChild {
   using Interface = typename C::Interface;
@@ -75,7 +75,7 @@ struct OptionalChild {
     return kSuccess;
   }
 
-  // The forms of the accessors of the presence flag alone, which keeps any value that is not 0.
+  // Accessors of the presence flag alone. The flag keeps any nonzero value.
 
   ConfigResult GetPresent(DWORD* out) const { return Store(present, out); }
   ConfigResult SetPresent(const DWORD* value) {
@@ -87,8 +87,8 @@ struct OptionalChild {
   DWORD present = 0;
 };
 
-/// An optional child that is made when it is first needed, and kept from then on. An element that
-/// occurs often and mostly goes without the child is small with it.
+/// An optional child that is created on first use and then kept. It saves memory in elements that
+/// occur often and mostly do without the child.
 template <class C>
 class LazyChild {
  public:
@@ -101,7 +101,7 @@ class LazyChild {
   LazyChild(LazyChild&&) noexcept = default;
   LazyChild& operator=(const LazyChild& other) { return *this = LazyChild(other); }
   LazyChild& operator=(LazyChild&& other) noexcept {
-    // A child stays where it is: callers may have its address.
+    // Callers may hold the address of an existing child, so it stays where it is.
     if (child_ == nullptr) {
       child_ = std::move(other.child_);
     } else {
@@ -124,7 +124,7 @@ class LazyChild {
     return kSuccess;
   }
 
-  /// Null while the child has not been made. A child that is present has been.
+  /// Null until the child is created. A child that is present has been created.
   C* Find() { return child_.get(); }
   C& Made() {
     if (child_ == nullptr) child_ = std::make_unique<C>();
@@ -137,13 +137,13 @@ class LazyChild {
   DWORD present_ = 0;
 };
 
-/// A repeated child, as far as it can be handled without knowing its class.
+/// The items of a repeated child, seen without knowing their class.
 class ItemList {
  public:
   virtual std::size_t Size() const = 0;
   virtual const IElement& Item(std::size_t index) const = 0;
 
-  /// Adds an item with default values, which are those that Clear gives it.
+  /// Appends an item with default values. They are the values that Clear would give it.
   virtual INode& Append() = 0;
   virtual void RemoveAll() = 0;
 
@@ -156,8 +156,8 @@ class ItemList {
   ~ItemList() = default;
 };
 
-/// The items of a repeated child, in order. A class that holds items of a class not yet complete,
-/// as in a recursive document, names their interface `I`.
+/// The items of a repeated child, in order. If `C` is not yet complete, as in a recursive document,
+/// the interface `I` has to be named.
 template <class C, class I = typename C::Interface>
 class ChildList final : public ItemList {
  public:
@@ -176,7 +176,7 @@ class ChildList final : public ItemList {
   ChildList& operator=(ChildList&&) noexcept = default;
   ~ChildList() = default;
 
-  // The forms of the accessors of a repeated child.
+  // Accessors of a repeated child.
 
   DWORD Count() const { return static_cast<DWORD>(items_.size()); }
   Interface* At(DWORD index) { return index < items_.size() ? items_[index].get() : nullptr; }

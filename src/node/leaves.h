@@ -1,4 +1,4 @@
-// The classes of elements whose value is their text: all but their names.
+// Bases of the classes of elements whose value is their text.
 #pragma once
 
 #include <tolva/node/leaves.h>

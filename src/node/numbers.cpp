@@ -6,7 +6,7 @@ namespace tolva::node {
 namespace {
 
 struct Digits {
-  std::uint64_t value;  ///< at most the limit given
+  std::uint64_t value;  ///< at most the given limit
   const wchar_t* end;
 };
 
@@ -19,7 +19,7 @@ Digits ReadDigits(const wchar_t* text, std::uint64_t limit) {
   return {value, text};
 }
 
-/// Where the conversion of a 32-bit number saturates.
+/// The limit at which the conversion of a 32-bit number saturates.
 std::uint64_t LimitOf(Numbers numbers) {
   return numbers == Numbers::kSigned
              ? static_cast<std::uint64_t>(std::numeric_limits<std::int32_t>::max())

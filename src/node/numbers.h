@@ -20,13 +20,13 @@ using NumberText = std::array<wchar_t, 24>;
 const wchar_t* FormatNumber(DWORD value, Numbers numbers, NumberText& text);
 const wchar_t* FormatLongNumber(std::uint64_t value, NumberText& text);
 
-// A number is written as the digits '0' to '9', in any quantity; none at all read as 0. False for a
-// text with any other character, a sign or a blank included, and `*value` is then as it was.
+// A number is any quantity of digits '0' to '9'; an empty text reads as 0. Parsing fails on any
+// other character, including signs and spaces, and then leaves `*value` unchanged.
 
 bool ParseNumber(const wchar_t* text, Numbers numbers, DWORD* value);
 bool ParseLongNumber(const wchar_t* text, std::uint64_t* value);
 
-/// What the digits at the front of the text say; whatever follows them is ignored.
+/// The value of the leading digits. Ignores whatever follows them.
 DWORD ParseLeadingDigits(const wchar_t* text, Numbers numbers);
 
 }  // namespace tolva::node

@@ -1,5 +1,5 @@
 // The table of an element: what the engine, and any other code that goes through the elements,
-// knows of it. A table is constant data, written next to its class:
+// knows about it. A table is constant data, next to the class:
 //
 //   constexpr Attribute kTimeSlotAttributes[] = {
 //       Attr<&CTimeSlot::weekday_>(L"Weekday"),
@@ -11,9 +11,9 @@
 //       .attributes = kTimeSlotAttributes,
 //   });
 //
-// The rows stand in write order, which is also the order in which a read judges them. The type of
-// the field decides what kind of row it is (fields.h). Whatever a row states beyond its name
-// departs from the rule. A row or a table that contradicts itself does not compile.
+// Rows are in write order. A read validates them in the same order. The type of the field decides
+// what kind of row it is (fields.h). Whatever a row states beyond its name
+// departs from the standard behavior. A row or table that contradicts itself does not compile.
 #pragma once
 
 #include <concepts>
@@ -37,32 +37,32 @@ class Node;
 /// What the elements of one document have in common.
 struct Dialect {
   Numbers numbers;
-  std::wstring_view null_writer;    ///< told of a null manager
-  std::wstring_view null_reader;    ///< likewise
-  std::wstring_view null_value;     ///< how the report of a null value begins
-  std::wstring_view absent_string;  ///< how the report of an absent required string begins
+  std::wstring_view null_writer;    ///< reported when a write gets a null manager
+  std::wstring_view null_reader;    ///< reported when a read does
+  std::wstring_view null_value;     ///< beginning of the report of a null value
+  std::wstring_view absent_string;  ///< beginning of the report of a missing required string
 };
 
-/// The texts of an ENUM attribute; a value is an index.
+/// The texts of an ENUM attribute. A value is an index into them.
 struct EnumTexts {
   std::span<const wchar_t* const> texts;
-  const wchar_t* otherwise = L"";  ///< written for a value beyond them
+  const wchar_t* otherwise = L"";  ///< written for any other value
 };
 
 enum class ValueType : std::uint8_t { kNumber, kLongNumber, kString, kEnum };
 
-/// Where a value lies in a node.
+/// Where a value is stored in a node.
 struct FieldRef {
   void* value;     ///< DWORD, std::uint64_t or std::wstring
   DWORD* present;  ///< null: always present
 };
 
-/// The text of a report that an element has in place of the rule's. Empty text: no report.
+/// A report text that replaces the standard one. An empty text means no report.
 using OwnReport = std::optional<std::wstring_view>;
 
 namespace internal {
 
-/// Not a constant expression: a table that calls it does not compile, and the compiler's message
+/// Calling this is not a constant expression, so the table does not compile. The compiler's message
 /// shows the reason.
 void TableIsWrong(const char* reason);
 
@@ -80,16 +80,17 @@ struct Attribute {
   FieldRef (*locate)(IElement& node);
   EnumTexts enum_texts = {};
 
-  bool may_be_absent = false;          ///< required, but its absence does not fail the read
-  bool is_one_when_absent = false;     ///< when absent it reads as 1, and as present
-  bool ignores_write_failure = false;  ///< required, but a failed write does not fail the element's
+  bool may_be_absent = false;       ///< required, but its absence does not fail the read
+  bool is_one_when_absent = false;  ///< when absent it reads as 1, and as present
+  bool ignores_write_failure =
+      false;  ///< required, but a failed write is no failure of the element
 
   // What Clear does with the field.
   bool is_present_when_clear = false;  ///< optional, but present after Clear
   bool keeps_value = false;            ///< Clear leaves the value alone
   bool keeps_presence = false;         ///< Clear leaves the presence flag alone
 
-  OwnReport read_report = {};  ///< required and absent, or malformed
+  OwnReport read_report = {};  ///< missing though required, or malformed
 
   consteval Attribute MayBeAbsent() const {
     internal::Require(!is_optional, "an optional attribute may be absent in any case");
@@ -136,32 +137,32 @@ struct Attribute {
 
 enum class Occurrence : std::uint8_t { kRequired, kOptional, kRepeated };
 
-/// Where a child lies in a node.
+/// Where a child is stored in a node.
 struct ChildRef {
-  IElement* element;  ///< the child; null: it is repeated, or absent and has not been made
-  DWORD* present;     ///< for an optional one
-  ItemList* items;    ///< for a repeated one
+  IElement* element;  ///< null if the child is repeated, or not created yet
+  DWORD* present;     ///< null unless the child is optional
+  ItemList* items;    ///< null unless the child is repeated
 };
 
 struct Schema;
 
-/// One child of an element, or one kind of children.
+/// One kind of child of an element.
 struct Child {
   const wchar_t* name;
   Occurrence occurrence;
   const Schema* schema;  ///< the child's own table
   ChildRef (*locate)(IElement& node);
-  IElement& (*make)(IElement& node);  ///< what is read into: the child, or a new item
+  IElement& (*make)(IElement& node);  ///< what to read into: the child, or a new item
   void (*clear)(IElement& node);      ///< clears the child, or removes all items
 
   bool may_be_absent = false;      ///< required, but its absence does not fail the read
-  bool is_reported_first = false;  ///< its absence is reported before that of the rows above it
+  bool is_reported_first = false;  ///< reported before missing children of earlier rows
   bool keeps_presence = false;     ///< Clear leaves the presence flag alone
   OwnReport write_report = {};
   OwnReport read_report = {};
   OwnReport absence_report = {};
-  std::wstring_view before_write = {};  ///< reported before it is written
-  std::wstring_view after_write = {};   ///< reported after it has been written
+  std::wstring_view before_write = {};  ///< reported before the child is written
+  std::wstring_view after_write = {};   ///< reported after the child has been written
 
   consteval Child MayBeAbsent() const {
     internal::Require(occurrence == Occurrence::kRequired, "only a required child can be missing");
@@ -209,11 +210,11 @@ struct Child {
 struct Content {
   ValueType type = ValueType::kString;
   bool is_optional = false;
-  FieldRef (*locate)(IElement& node) = nullptr;  ///< null: the element has no such value
+  FieldRef (*locate)(IElement& node) = nullptr;  ///< null if the element has no text value
 
-  bool takes_leading_digits = false;    ///< a number: whatever follows its digits is ignored
-  bool is_always_written = false;       ///< optional: absent, it is written as an empty tag
-  bool stops_at_first_end_tag = false;  ///< a read ends there, even within the element
+  bool takes_leading_digits = false;    ///< number: ignores what follows the digits
+  bool is_always_written = false;       ///< optional: if absent, an empty tag is written
+  bool stops_at_first_end_tag = false;  ///< a read stops there, even inside the element
 
   consteval Content LeadingDigits() const {
     internal::Require(type == ValueType::kNumber, "only a number has leading digits");
@@ -236,7 +237,7 @@ struct Content {
 
 /// An element.
 struct Schema {
-  /// An element has at most as many kinds of children: those that a read has found are bits.
+  /// A read keeps a bit for each kind of child that it has found.
   static constexpr std::size_t kMostChildren = 32;
 
   const wchar_t* element;  ///< its name in the document
@@ -245,8 +246,8 @@ struct Schema {
   std::span<const Child> children = {};
   Content content = {};
 
-  const wchar_t* reported_as = nullptr;  ///< its name in reports, where that is another
-  bool closes_as_empty_tag = false;      ///< with children, but ended like an element without
+  const wchar_t* reported_as = nullptr;  ///< its name in reports, if different
+  bool closes_as_empty_tag = false;      ///< though it has children
   OwnReport add_report = {};
   OwnReport close_report = {};
   OwnReport null_writer_report = {};
@@ -257,7 +258,7 @@ struct Schema {
   }
 };
 
-/// The table, if it is sound.
+/// Returns the table. Does not compile if the table is wrong.
 consteval Schema Checked(const Schema& table) {
   using internal::Require;
   const auto is_name = [](std::wstring_view name) {
@@ -306,7 +307,7 @@ struct MemberOf<FieldType ClassType::*> {
   using Field = FieldType;
 };
 
-/// What a field's type tells of its row.
+/// What the type of a field says about its row.
 template <class T>
 struct FieldTraits {
   using Value = T;

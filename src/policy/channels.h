@@ -11,8 +11,7 @@
 
 namespace TolvaInterface {
 
-/// The channels with rules: one class for all, `C` and `I` being the class and the interface of
-/// one.
+/// Base of a channel with rules `C`, which implements `I`.
 template <class C, class I>
 class RuleChannel : public Node<C, I> {
  public:

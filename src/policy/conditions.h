@@ -28,7 +28,7 @@ class CUrlCondition final : public Node<CUrlCondition, IUrlCondition> {
   TOLVA_OPTIONAL(std::wstring, URL, url_);
 };
 
-/// The applications in an element of class `C`, which implements `I`.
+/// Base of a list of applications `C`, which implements `I`.
 template <class C, class I>
 class ArConditions : public Node<C, I> {
  public:

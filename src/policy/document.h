@@ -5,7 +5,7 @@
 
 namespace TolvaInterface {
 
-using namespace tolva::node;  // the language of classes and tables
+using namespace tolva::node;  // for classes and tables
 
 inline constexpr Dialect kDialect = {
     .numbers = Numbers::kUnsigned,

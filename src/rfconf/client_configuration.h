@@ -19,7 +19,7 @@ class CRFServer final : public Node<CRFServer, IRFServer> {
   TOLVA_NUMBER(PortNumber, portNumber_);
 };
 
-/// The lists of servers: one class for both, `C` and `I` being the class and the interface of one.
+/// Base of a list of servers `C`, which implements `I`.
 template <class C, class I>
 class RFServerList : public Node<C, I> {
  public:

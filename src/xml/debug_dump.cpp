@@ -12,7 +12,7 @@ std::atomic<DebugDumpCallback> debug_dump_callback = nullptr;
 void SetDebugDumpCallback(DebugDumpCallback callback) noexcept { debug_dump_callback = callback; }
 
 void DebugDump(const wchar_t* text) {
-  // Loaded once: another thread may remove the callback meanwhile.
+  // Loaded once, because another thread may remove the callback at any time.
   const DebugDumpCallback callback = debug_dump_callback;
   if (callback != nullptr) callback(text);
 }

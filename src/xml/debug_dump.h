@@ -8,7 +8,7 @@ using DebugDumpCallback = void (*)(const wchar_t*);
 /// Replaces the process's callback; null removes it.
 void SetDebugDumpCallback(DebugDumpCallback callback) noexcept;
 
-/// Hands a text to the callback, if there is one, unchanged.
+/// Passes the text to the callback, if there is one.
 void DebugDump(const wchar_t* text);
 
 }  // namespace tolva::xml

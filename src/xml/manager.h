@@ -7,7 +7,7 @@
 
 namespace tolva::xml {
 
-// The platform's interfaces go by their plain names, wherever they come from.
+// The interfaces of the platform are used by their plain names, wherever they come from.
 using namespace platform;
 
 /// Holds the byte stream of the document that is open.
@@ -36,7 +36,7 @@ class CXMLLiteManager : public IXMLLiteManager {
   const Kind kind_;
 };
 
-/// Stores the code of a failed platform call for the caller to look up.
+/// Stores the code of a failed platform call as last error.
 inline void SetLastResult(HRESULT result) { SetLastError(static_cast<DWORD>(result)); }
 
 }  // namespace tolva::xml

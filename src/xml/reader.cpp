@@ -8,7 +8,7 @@
 namespace tolva::xml {
 namespace {
 
-// Last errors that are results of the library or plain numbers, not HRESULTs.
+// Last-error values that are not HRESULTs.
 constexpr auto kNoSuitableNode = DWORD{1};
 constexpr auto kNoSuchAttribute = static_cast<DWORD>(kAttributeAbsent);
 constexpr auto kNotOnAnElement = static_cast<DWORD>(kInvalidArgument);
@@ -60,7 +60,7 @@ ConfigResult CXMLLiteManagerReader::OpenFromString(const wchar_t* xml_text) {
       WideCharToMultiByte(CP_UTF8, 0, xml_text, wide_size, nullptr, 0, nullptr, nullptr);
   if (size == 0) return kInvalidArgument;
 
-  // The zero byte behind the text becomes part of the document, which has ended by then.
+  // The terminating zero is part of the stream. It comes after the end of the document.
   std::vector<char> text;
   try {
     text.resize(static_cast<std::size_t>(size) + 1);
@@ -78,8 +78,8 @@ ConfigResult CXMLLiteManagerReader::OpenFromString(const wchar_t* xml_text) {
   return MoveToRoot(SetConvertedInput(*reader_.Get(), stream));
 }
 
-/// The tail of both opens. An input without an element is found out by the root node, which does
-/// not find its name.
+/// The common end of both opens. Input without an element is no failure here: the root node notices
+/// it, because the name differs.
 ConfigResult CXMLLiteManagerReader::MoveToRoot(HRESULT input_result) try {
   if (FAILED(input_result)) {
     SetLastResult(input_result);
@@ -240,7 +240,7 @@ ConfigResult CXMLLiteManagerReader::ReadToEnd() {
     result = reader_->Read(&type);
   }
   node_type_ = XmlNodeType_None;
-  // Behind a string there is a zero, on which every parser stumbles.
+  // A parser rejects the terminating zero of a string.
   if (result == S_FALSE) return kSuccess;
   if (is_string_ && EndsAtTerminator(*reader_.Get(), *stream_.Get())) return kSuccess;
   SetLastResult(result);

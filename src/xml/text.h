@@ -1,4 +1,4 @@
-// A wide text to be written.
+// A wide text to write.
 #pragma once
 
 #include <cwchar>
@@ -6,9 +6,8 @@
 
 namespace tolva::xml {
 
-/// Zero-terminated characters of known number, or none at all: what the platform's writer takes,
-/// with the length by which a zero within the text is noticed. Refers to characters that the caller
-/// keeps.
+/// A zero-terminated string with its length, or null. The platform's writer takes the string; the
+/// length reveals an embedded zero. Does not own the characters.
 class Text {
  public:
   /// `characters` may be null.

@@ -12,7 +12,7 @@ namespace {
 bool IsSet(const wchar_t* name) { return name != nullptr && *name != 0; }
 
 /// Whether a call failed because of what it was asked to write, not because of the stream or the
-/// system: what has been written before is whole then.
+/// system. What was written before is then intact.
 bool IsRefusal(HRESULT result) {
   return (static_cast<std::uint32_t>(result) & 0xFFFF0000U) == 0xC00C0000U;
 }
@@ -57,7 +57,7 @@ CXMLLiteManagerWriter::~CXMLLiteManagerWriter() {
   try {
     CXMLLiteManagerWriter::Close();
   } catch (const std::bad_alloc&) {
-    // The document stays as far as it came.
+    // The file keeps what has been written so far.
   }
   if (stream_) Release();
 }
@@ -91,19 +91,19 @@ ConfigResult CXMLLiteManagerWriter::Close() {
   if (!stream_) return kSuccess;
   const HRESULT result = Finish();
   const HRESULT failure = FAILED(loss_) ? loss_ : result;
-  // What is lost does not come back when the rest is written once more.
+  // Trying again does not bring back what is lost.
   if (FAILED(loss_) || SUCCEEDED(result)) Release();
   if (SUCCEEDED(failure)) return kSuccess;
   SetLastResult(failure);
   return kFailed;
 }
 
-/// Ends the document and brings it to the file, as far as that succeeds; returns the first failure.
+/// Ends, flushes and commits the document as far as possible. Returns the first failure.
 HRESULT CXMLLiteManagerWriter::Finish() {
   const HRESULT ended = EndDocument();
   const HRESULT flushed = Invoke([this] { return writer_->Flush(); });
   if (FAILED(ended) && !IsRefusal(ended)) return ended;
-  // The document is complete, or nothing can be added to it any more.
+  // The document is complete, or can never be completed.
   const HRESULT stored = FAILED(flushed) ? flushed : stream_->Commit(STGC_DEFAULT);
   return FAILED(ended) ? ended : stored;
 }
@@ -115,7 +115,7 @@ HRESULT CXMLLiteManagerWriter::EndDocument() {
   return result;
 }
 
-/// Lets the file go, whatever state it is in.
+/// Releases the file, whatever its state.
 void CXMLLiteManagerWriter::Release() {
   writer_->SetOutput(nullptr);
   is_ended_ = false;
@@ -144,7 +144,7 @@ ConfigResult CXMLLiteManagerWriter::EndElement(Text text) {
                                   ? Emit([this] { return writer_->WriteEndElement(); })
                                   : Emit([this] { return writer_->WriteFullEndElement(); });
   if (result != kSuccess) return result;
-  // The line feed is for people; its failure is reported, but is none of the element's.
+  // The line feed is for human readers. Its failure sets the last error but not the result.
   Emit([this] { return writer_->WriteWhitespace(L"\n"); });
   return kSuccess;
 }
@@ -155,8 +155,8 @@ ConfigResult CXMLLiteManagerWriter::WriteElementString(const wchar_t* name, Text
   return Emit([&] { return writer_->WriteElementString(nullptr, name, nullptr, text.c_str()); });
 }
 
-/// Only characters that XML allows: a zero within the text is none, and would hide what follows it.
-/// Without a document the call that follows says so.
+/// Validates characters. An embedded zero is not allowed, and would hide what follows. If no
+/// document is open, the caller's next step reports that instead.
 ConfigResult CXMLLiteManagerWriter::Check(Text text) {
   if (!stream_) return kSuccess;
   const wchar_t* at = FindForbidden(text.begin(), text.end());

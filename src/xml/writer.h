@@ -6,11 +6,11 @@
 
 namespace tolva::xml {
 
-/// The platform's writer knows what is open; the manager remembers whether the document has been
-/// ended, and whether a part of it is lost. Characters that XML does not allow are refused before
+/// The platform's writer tracks the open elements. The manager remembers whether the document has
+/// been ended and whether part of it is lost. Characters that XML does not allow are refused before
 /// the platform's writer is called, with -101 and last error WC_E_XMLCHARACTER or
-/// WR_E_INVALIDSURROGATEPAIR. Without an open document every operation but `OpenFile` and `Close`
-/// gives -101 and last error E_UNEXPECTED.
+/// WR_E_INVALIDSURROGATEPAIR. Without an open document every operation except `OpenFile` and
+/// `Close` returns -101 with last error E_UNEXPECTED.
 class CXMLLiteManagerWriter final : public CXMLLiteManager {
  public:
   CXMLLiteManagerWriter();
@@ -19,16 +19,16 @@ class CXMLLiteManagerWriter final : public CXMLLiteManager {
   ConfigResult OpenFile(const wchar_t* path) override;
   ConfigResult Close() override;
 
-  // -102 for a null or empty name, -101 when the platform refuses.
+  // Each returns -102 for a null or empty name and -101 if the platform refuses.
 
   ConfigResult StartElement(const wchar_t* name);
   ConfigResult WriteAttribute(const wchar_t* name, Text value);
 
-  /// Ends the innermost element: as an empty tag when `text` is null and the element has no
-  /// content, else with an end tag, behind the text.
+  /// Writes the text and ends the innermost element. If `text` is null and the element has no
+  /// content, it becomes an empty tag.
   ConfigResult EndElement(Text text);
 
-  /// An element of text alone; null text gives an empty tag.
+  /// Writes an element that contains only text. Null text gives an empty tag.
   ConfigResult WriteElementString(const wchar_t* name, Text text);
 
  private:
@@ -42,11 +42,11 @@ class CXMLLiteManagerWriter final : public CXMLLiteManager {
   void Release();
 
   ComPtr<IXmlWriter> writer_;
-  bool is_ended_ = false;  ///< the open document has been ended, but perhaps not flushed
-  HRESULT loss_ = S_OK;    ///< the first failure by which a part of the document may be lost
+  bool is_ended_ = false;  ///< the document has been ended, but perhaps not flushed
+  HRESULT loss_ = S_OK;    ///< first failure that may have lost part of the document
 };
 
-/// The writer that a node was given; null when it was given a reader.
+/// The writer behind `manager`, or null if it is a reader.
 inline CXMLLiteManagerWriter* AsWriter(IXMLLiteManager* manager) {
   auto* const own = static_cast<CXMLLiteManager*>(manager);
   return own->kind() == CXMLLiteManager::Kind::kWriter ? static_cast<CXMLLiteManagerWriter*>(own)
