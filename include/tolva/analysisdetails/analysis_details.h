@@ -142,12 +142,18 @@ class Iviolations : public tolva::node::INode {
   virtual void RemoveAllViolation() = 0;
 };
 
+/// The values of `address`'s `type`.
+enum AddressType : DWORD {
+  kAddressTypeEmailAddress = 0,  ///< "EmailAddress"
+  kAddressTypeOther = 1,         ///< "Other"
+};
+
 /// Element `address`: a destination. `Clear` leaves `type` as it was, 0 at first.
 class Iaddress : public tolva::node::INode {
  public:
   virtual Iaddress& CopyFrom(const Iaddress& other) = 0;
 
-  /// `type`: 0 "EmailAddress", 1 "Other". Required.
+  /// `type`: an AddressType. Required.
   virtual DWORD GetType() const = 0;
   virtual ConfigResult SetType(const DWORD* value) = 0;
 
@@ -184,13 +190,20 @@ class Idestinations : public tolva::node::INode {
   virtual void RemoveAllAddresses() = 0;
 };
 
+/// The values of `extractedContent`'s `type`.
+enum ExtractedContentType : DWORD {
+  kExtractedContentTypeSubject = 0,     ///< "Subject"
+  kExtractedContentTypeAttachment = 1,  ///< "Attachment"
+  kExtractedContentTypeOther = 2,       ///< "Other"
+};
+
 /// Element `extractedContent`: a part of what was analysed. `Clear` leaves `type` as it was, 0 at
 /// first.
 class IextractedContent : public tolva::node::INode {
  public:
   virtual IextractedContent& CopyFrom(const IextractedContent& other) = 0;
 
-  /// `type`: 0 "Subject", 1 "Attachment", 2 "Other". Required.
+  /// `type`: an ExtractedContentType. Required.
   virtual DWORD GetType() const = 0;
   virtual ConfigResult SetType(const DWORD* value) = 0;
 

@@ -63,13 +63,19 @@ class IAutoUpdate : public tolva::node::INode {
   virtual ConfigResult SetUpdateServer(const IUpdateServer* child) = 0;
 };
 
+/// The values of `Setting`'s `AppName`.
+enum AppName : DWORD {
+  kAppNameReserved = 0,  ///< "RESERVED"
+  kAppNameChrome = 1,    ///< "CHROME"
+  kAppNameFirefox = 2,   ///< "FIREFOX"
+};
+
 /// Element `Setting`: an application. `Clear` leaves `AppName` as it was.
 class ISetting : public tolva::node::INode {
  public:
   virtual ISetting& CopyFrom(const ISetting& other) = 0;
 
-  /// `AppName`: 0 "RESERVED", 1 "CHROME", 2 "FIREFOX"; any other number is written as "FIREFOX".
-  /// Required.
+  /// `AppName`: which application, an AppName; any other number is written as "FIREFOX". Required.
   virtual DWORD GetAppName() const = 0;
   virtual ConfigResult SetAppName(const DWORD* value) = 0;
 

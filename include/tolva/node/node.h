@@ -31,8 +31,16 @@
 // the digits 0 to 9 alone, any number of them (none: 0). Unsigned ones keep the low 32 bits of what
 // they read. Signed ones read as 2147483647 at most; from 2147483648 up they are written with a
 // minus sign, and cannot be read back then. Signed are the numbers of the Active Directory, CI,
-// remote filtering, installation and patch history documents. A number outside an ENUM's table is
-// kept, and written as an empty value unless the interface says otherwise.
+// remote filtering, installation and patch history documents.
+//
+// The value of an ENUM is one of the constants of the enumeration that its accessors' comment
+// names; the text behind each constant is what a document says for it:
+//
+//   const DWORD action = TolvaInterface::kBlock;
+//   rule->SetAction(&action);
+//
+// Any other number is kept, and written as an empty value unless the interface says otherwise; any
+// other text fails the read.
 //
 // Nodes passed in have to be nodes of this library: another implementation of an interface is a
 // caller's error that is not noticed.

@@ -12,8 +12,7 @@
 
 namespace TolvaInterface {
 
-/// What is done with an operation: the values of the rules' `Action`, to be held in a DWORD, and
-/// how a document spells them.
+/// What is done with an operation: the values of the rules' `Action`.
 enum RuleAction : DWORD {
   kUseContentPolicyAction = 0,  ///< "USE_CONTENT_POLICY_ACTION"
   kAllow = 1,                   ///< "ALLOW"

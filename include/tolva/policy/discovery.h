@@ -66,14 +66,26 @@ class IFileFilter : public tolva::node::INode {
 };
 #pragma pop_macro("GetDriveType")
 
+/// The values of `DiscoveryAction`'s `Action`.
+enum DiscoveryAction : DWORD {
+  kDiscoveryActionAnalyze = 0,  ///< "ANALYZE"
+};
+
 /// Element `DiscoveryAction`. `Clear` leaves `Action` as it was.
 class IDiscoveryAction : public tolva::node::INode {
  public:
   virtual IDiscoveryAction& CopyFrom(const IDiscoveryAction& other) = 0;
 
-  /// `Action`: 0 "ANALYZE". Required.
+  /// `Action`: a DiscoveryAction. Required.
   virtual DWORD GetAction() const = 0;
   virtual ConfigResult SetAction(const DWORD* value) = 0;
+};
+
+/// The values of `DiscoverySettings`'s `ScanMode`.
+enum ScanMode : DWORD {
+  kScanModeFull = 0,          ///< "FULL"
+  kScanModeDifferential = 1,  ///< "DIFFERENTIAL"
+  kScanModeAlternative = 2,   ///< "ALTERNATIVE"
 };
 
 /// Element `DiscoverySettings`: how a job proceeds.
@@ -97,7 +109,7 @@ class IDiscoverySettings : public tolva::node::INode {
   virtual ConfigResult GetPauseOnBattery(DWORD* out) const = 0;
   virtual ConfigResult SetPauseOnBattery(const DWORD* value) = 0;
 
-  /// `ScanMode`: 0 "FULL", 1 "DIFFERENTIAL", 2 "ALTERNATIVE". Optional.
+  /// `ScanMode`: a ScanMode. Optional.
   virtual ConfigResult GetScanMode(DWORD* out) const = 0;
   virtual ConfigResult SetScanMode(const DWORD* value) = 0;
 

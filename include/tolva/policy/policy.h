@@ -156,12 +156,26 @@ class IConfirmDialogTime : public tolva::node::INode {
   virtual ConfigResult SetEmailMaxTime(const DWORD* value) = 0;
 };
 
+/// The values of `UserInterface`'s `Mode`.
+enum UserInterfaceMode : DWORD {
+  kUserInterfaceModeNormal = 0,      ///< "NORMAL"
+  kUserInterfaceModeSilent = 1,      ///< "SILENT"
+  kUserInterfaceModeUnattended = 2,  ///< "UNATTENDED"
+};
+
+/// The values of `UserInterface`'s `DefaultActionOnUserPromptTimeout`.
+enum UserPromptTimeoutAction : DWORD {
+  kUserPromptTimeoutActionAllow = 0,        ///< "ALLOW"
+  kUserPromptTimeoutActionBlock = 1,        ///< "BLOCK"
+  kUserPromptTimeoutActionBlockReview = 2,  ///< "BLOCK_REVIEW"
+};
+
 /// Element `UserInterface`: what the user sees of the agent, and may do.
 class IUserInterface : public tolva::node::INode {
  public:
   virtual IUserInterface& CopyFrom(const IUserInterface& other) = 0;
 
-  /// `Mode`: 0 "NORMAL", 1 "SILENT", 2 "UNATTENDED". Required.
+  /// `Mode`: a UserInterfaceMode. Required.
   virtual DWORD GetMode() const = 0;
   virtual ConfigResult SetMode(const DWORD* value) = 0;
 
@@ -185,7 +199,7 @@ class IUserInterface : public tolva::node::INode {
   virtual ConfigResult GetLocalBypassButtonTimeout(DWORD* out) const = 0;
   virtual ConfigResult SetLocalBypassButtonTimeout(const DWORD* value) = 0;
 
-  /// `DefaultActionOnUserPromptTimeout`: 0 "ALLOW", 1 "BLOCK", 2 "BLOCK_REVIEW". Optional.
+  /// `DefaultActionOnUserPromptTimeout`: a UserPromptTimeoutAction. Optional.
   virtual ConfigResult GetDefaultActionOnUserPromptTimeout(DWORD* out) const = 0;
   virtual ConfigResult SetDefaultActionOnUserPromptTimeout(const DWORD* value) = 0;
 

@@ -98,12 +98,18 @@ class IRecurring : public tolva::node::INode {
   virtual ConfigResult SetAvailableTimeSlots(const IAvailableTimeSlots* child) = 0;
 };
 
+/// The values of `InitialRecur`'s `Type`.
+enum InitialRecurType : DWORD {
+  kInitialRecurTypeNow = 0,   ///< "NOW"
+  kInitialRecurTypeTime = 1,  ///< "TIME"
+};
+
 /// Element `InitialRecur`: the first run.
 class IInitialRecur : public tolva::node::INode {
  public:
   virtual IInitialRecur& CopyFrom(const IInitialRecur& other) = 0;
 
-  /// `Type`: 0 "NOW", 1 "TIME". Required.
+  /// `Type`: an InitialRecurType. Required.
   virtual DWORD GetType() const = 0;
   virtual ConfigResult SetType(const DWORD* value) = 0;
 
@@ -116,13 +122,28 @@ class IInitialRecur : public tolva::node::INode {
   virtual ConfigResult SetDate(const std::wstring* value) = 0;
 };
 
+/// The values of `Schedule`'s `RecurType`.
+enum RecurType : DWORD {
+  kRecurTypeOnce = 0,          ///< "ONCE"
+  kRecurTypeDaily = 1,         ///< "DAILY"
+  kRecurTypeWeekly = 2,        ///< "WEEKLY"
+  kRecurTypeMonthly = 3,       ///< "MONTHLY"
+  kRecurTypeContinuously = 4,  ///< "CONTINUOUSLY"
+};
+
+/// The values of `Schedule`'s `TimeType`.
+enum TimeType : DWORD {
+  kTimeTypeLocal = 0,  ///< "LOCAL"
+  kTimeTypeUtc = 1,    ///< "UTC"
+};
+
 /// Element `Schedule`. `Clear` leaves `RecurType` and the value of `TimeType` as they were;
 /// `TimeType` becomes absent.
 class ISchedule : public tolva::node::INode {
  public:
   virtual ISchedule& CopyFrom(const ISchedule& other) = 0;
 
-  /// `RecurType`: 0 "ONCE", 1 "DAILY", 2 "WEEKLY", 3 "MONTHLY", 4 "CONTINUOUSLY". Required.
+  /// `RecurType`: how the task recurs, a RecurType. Required.
   virtual DWORD GetRecurType() const = 0;
   virtual ConfigResult SetRecurType(const DWORD* value) = 0;
 
@@ -130,7 +151,7 @@ class ISchedule : public tolva::node::INode {
   virtual ConfigResult GetDuration(DWORD* out) const = 0;
   virtual ConfigResult SetDuration(const DWORD* value) = 0;
 
-  /// `TimeType`: 0 "LOCAL", 1 "UTC". Optional.
+  /// `TimeType`: which time is meant, a TimeType. Optional.
   virtual ConfigResult GetTimeType(DWORD* out) const = 0;
   virtual ConfigResult SetTimeType(const DWORD* value) = 0;
 

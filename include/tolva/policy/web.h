@@ -15,6 +15,13 @@
 
 namespace TolvaInterface {
 
+/// The values of `BrowserExtension`'s `BrowserName`.
+enum BrowserName : DWORD {
+  kBrowserNameChrome = 0,   ///< "CHROME"
+  kBrowserNameFirefox = 1,  ///< "FIREFOX"
+  kBrowserNameEdge = 2,     ///< "EDGE"
+};
+
 /// Element `WebAccessRule`: an action for a destination.
 class IWebAccessRule : public tolva::node::INode {
  public:
@@ -34,7 +41,7 @@ class IBrowserExtension : public tolva::node::INode {
  public:
   virtual IBrowserExtension& CopyFrom(const IBrowserExtension& other) = 0;
 
-  /// `BrowserName`: 0 "CHROME", 1 "FIREFOX", 2 "EDGE". Required.
+  /// `BrowserName`: which browser, a BrowserName. Required.
   virtual DWORD GetBrowserName() const = 0;
   virtual ConfigResult SetBrowserName(const DWORD* value) = 0;
 
