@@ -11,10 +11,17 @@ int main() {
   SetTolvaDebugDumpCallBack([](const wchar_t* text) { std::printf("%ls\n", text); });
   IXMLLiteManager* reader = tolvaCreateXMLManager(0);
   std::unique_ptr<ClientConfig::IActiveDirectory> root(ClientConfig::ActiveDir_CreateNewInstance());
+  tolvaSetLastError(0);
   ConfigResult result = reader->OpenFile(L"active-directory.xml");
   if (result == 0) result = root->ReadFromXMLMgr(reader);
-  if (result == 0) std::printf("domain: %ls\n", root->GetDefaultDomain()->GetName().c_str());
+  if (result == 0) result = tolvaReadToEnd(reader);  // the rest, which no node looks at
+  const auto error = static_cast<unsigned>(tolvaGetLastError());
   tolvaDestroyXMLManager(reader);
-  return result;
+  if (result == 0) {
+    std::printf("domain: %ls\n", root->GetDefaultDomain()->GetName().c_str());
+  } else {
+    std::printf("result %d, last error %08X\n", result, error);
+  }
+  return result == 0 ? 0 : 1;
 }
 // [readme]

@@ -13,7 +13,8 @@ using DWORD = std::uint32_t;
 static_assert(sizeof(DWORD) == 4);
 
 /// Result of an operation: 0 or one of the codes below. The getter of an optional value answers 1
-/// when the value is absent.
+/// when the value is absent. When memory runs out, an operation gives no result but throws
+/// std::bad_alloc; it throws nothing else.
 using ConfigResult = std::int32_t;
 
 namespace tolva {

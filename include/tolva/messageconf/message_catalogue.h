@@ -1,7 +1,9 @@
 // The message catalogue: what the agent tells its user, in several languages. A catalogue may hold
-// catalogues. A reader goes 256 elements deep; what lies deeper is cut off, with result 0 and a
-// last-error value of 0xC00CExxx. Accessors can make a deeper one: it is written, but not read
-// back, and copying, writing or destroying it takes stack in proportion to its depth.
+// catalogues. A reader goes 256 elements deep: the 127th catalogue, counted from the root, is the
+// last one whose messages can be read. A message in the 128th fails the read; from the 129th on
+// everything is cut off, what follows it included, with result 0 and a last-error value of
+// 0xC00CExxx. Accessors can make a deeper one: it is written, but not read back, and copying,
+// writing or destroying it takes stack in proportion to its depth.
 #pragma once
 
 #include <string>
@@ -16,7 +18,8 @@ namespace MessageConf {
 /// Element `Description`: what a message is about.
 class IDescription : public tolva::node::IStringLeaf<IDescription> {};
 
-/// Element `Content`: a message's text. Written as an empty tag when there is none.
+/// Element `Content`: a message's text. Written as an empty tag when there is none. A text that
+/// cannot be written takes the element with it, and the message cannot be read back.
 class IContent : public tolva::node::IOptionalLeaf<IContent> {};
 
 /// Element `Message`.

@@ -1,10 +1,11 @@
 // Elements whose value is their text. Accessors and reports call the text `Content`.
 //
-// A read takes the one node behind the start tag, when it is text, a CDATA section, a comment or a
-// processing instruction, and drops the rest; blanks alone are no text unless a CDATA section holds
-// them. Without a text the read of a required one fails with -102, and a diagnostic: what is
-// written of an empty one cannot be read back. An element with content of its own within a text
-// ends what is read of the element around it too early: what follows may be missed.
+// A read takes the one node after the start tag, when it is text, a CDATA section, a comment or a
+// processing instruction, and drops the rest. White space alone is no text unless a CDATA section
+// holds it, and hides the section that follows it. Without a text the read of a required one fails
+// with -102, and a diagnostic: what is written of an empty one cannot be read back. An element with
+// content of its own within a text may end what is read of the element around it too early: what
+// follows is missed.
 #pragma once
 
 #include <string>
@@ -27,7 +28,8 @@ class IStringLeaf : public INode {
 
 /// An element that is a string or has none; without one it reads all the same. An absent text is
 /// not written, nor is the element, even where a parent has it as present, unless the interface
-/// says otherwise; a failed write is not told. An empty text reads back as absent.
+/// says otherwise. A text that cannot be written is left out without a word, and its element with
+/// it. An empty text reads back as absent.
 template <class Self>
 class IOptionalLeaf : public INode {
  public:

@@ -34,7 +34,7 @@
 // remote filtering, installation and patch history documents.
 //
 // The value of an ENUM is one of the constants of the enumeration that its accessors' comment
-// names; the text behind each constant is what a document says for it:
+// names. The comment after each constant has the text that stands for it in a document:
 //
 //   const DWORD action = TolvaInterface::kBlock;
 //   rule->SetAction(&action);
@@ -48,7 +48,8 @@
 // Pointers and references that getters hand out belong to the node; they are valid until the node
 // changes that field or is destroyed. Everything passed in is copied.
 //
-// Nothing is thrown but std::bad_alloc. A node and all below it are used by one thread at a time.
+// Any function, factories included, throws std::bad_alloc when memory runs out, and nothing else. A
+// node and all below it are used by one thread at a time.
 #pragma once
 
 #include <tolva/types.h>
@@ -66,18 +67,27 @@ class IElement {
   /// Writes the element with all it holds. `manager` is an open writer; the other two arguments are
   /// those that a parent passes and do not influence the output. -101 with a diagnostic when
   /// something required could not be written: the document is then incomplete, the node unchanged.
-  /// What is optional and could not be written, a text with a forbidden character say, is left out
-  /// without a word, as are the two attributes of `DefaultDomain`. A null manager gives a
+  /// A writer without an open document leaves 0x8000FFFF as last error. A null manager gives a
   /// diagnostic and -101, one that is a reader -101 alone.
+  ///
+  /// 0 does not mean that everything is in the document. What is optional and cannot be written, a
+  /// text with a forbidden character say, is left out without a word, as are the two attributes of
+  /// `DefaultDomain`; the last-error value alone tells, the writer's `Close` does not. A failure of
+  /// the stream, by contrast, is always reported, by this function or by `Close`.
   virtual ConfigResult WriteToXMLMgr(IXMLLiteManager* manager, int reserved = 0,
                                      int position = 1) const = 0;
 
   /// Fills the node from the element on whose start tag `manager`, an open reader, stands, and
   /// leaves the reader on that element's end. Attributes and children that the node does not know
-  /// are ignored; children may come in any order. The node is cleared first, and again when the
-  /// read fails: -101 with a diagnostic, or -102 without one when the element has another name (or
-  /// the reader holds no element). A null manager gives a diagnostic and -101, one that is a writer
-  /// -101 alone, and both leave the node as it was.
+  /// are ignored; children may come in any order; of a single child that occurs twice the last one
+  /// counts. The node is cleared first, and again when the read fails: -101 with a diagnostic, or
+  /// -102 without one when the element has another name (or the reader holds no element). A null
+  /// manager gives a diagnostic and -101, one that is a writer -101 alone, and both leave the node
+  /// as it was.
+  ///
+  /// 0 does not mean that the element was whole: where the document breaks off or is malformed
+  /// after what the node needs, what has been read is kept. The last-error value tells of that, and
+  /// `tolvaReadToEnd` of the rest of the document.
   virtual ConfigResult ReadFromXMLMgr(IXMLLiteManager* manager, int reserved = 0) = 0;
 
  protected:
