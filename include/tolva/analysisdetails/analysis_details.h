@@ -1,5 +1,5 @@
 // The details of a content analysis: the violations found, with what matched and where, and data
-// about what was analysed. Element names are lower case, and so are those of interfaces behind
+// about what was analysed. Element names are lower case, and so are those of interfaces after
 // their I.
 //
 // What the texts mean is their producer's business; they are carried as they stand.

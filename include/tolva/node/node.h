@@ -16,11 +16,11 @@
 //   optional child           ConfigResult GetY(IY** out)        1 when absent
 //                            ConfigResult SetY(const IY* child) copies; null removes the child; 0
 //   repeated child           DWORD GetYCount() const
-//                            IY* GetYAt(DWORD index)            null behind the last item
+//                            IY* GetYAt(DWORD index)            null after the last item
 //                            ConfigResult AddY(const IY* item)  appends a copy
 //                            ConfigResult InsertYAt(DWORD index, const IY* item)
-//                                                               a copy; behind the last: appends
-//                            void RemoveYAt(DWORD index)        nothing behind the last item
+//                                                               a copy; after the last: appends
+//                            void RemoveYAt(DWORD index)        nothing after the last item
 //                            void RemoveAllY()
 //
 // The setter of a required value answers a null pointer with a diagnostic and -101; AddY and
@@ -96,7 +96,7 @@ class IElement {
 };
 
 /// The common slots of a configuration node. Each interface adds its own
-/// `IName& CopyFrom(const IName& other)` behind them: a deep copy, for which `other` has to be a
+/// `IName& CopyFrom(const IName& other)` after them: a deep copy, for which `other` has to be a
 /// node of this library (one's own descendants and the node itself included).
 class INode : public IElement {
  public:

@@ -34,7 +34,7 @@ class IRuleChannel : public tolva::node::INode {
   virtual void RemoveAppRuleAt(DWORD index) = 0;
   virtual void RemoveAllAppRule() = 0;
 
-  /// Children `OnlineApps`, written behind the rules.
+  /// Children `OnlineApps`, written after the rules.
   virtual DWORD GetOnlineAppsCount() const = 0;
   virtual IOnlineApps* GetOnlineAppsAt(DWORD index) = 0;
   virtual ConfigResult AddOnlineApps(const IOnlineApps* item) = 0;
@@ -111,7 +111,7 @@ class IILPPrinter : public tolva::node::INode {
   virtual void RemoveAppRuleAt(DWORD index) = 0;
   virtual void RemoveAllAppRule() = 0;
 
-  /// Children `OnlineApps`, written behind the rules.
+  /// Children `OnlineApps`, written after the rules.
   virtual DWORD GetOnlineAppsCount() const = 0;
   virtual IOnlineApps* GetOnlineAppsAt(DWORD index) = 0;
   virtual ConfigResult AddOnlineApps(const IOnlineApps* item) = 0;
