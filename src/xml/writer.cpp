@@ -33,11 +33,22 @@ ConfigResult CXMLLiteManagerWriter::Emit(Call call) {
     SetLastResult(E_UNEXPECTED);
     return kFailed;
   }
-  const HRESULT result = Invoke(call);
+  HRESULT result = S_OK;
+  try {
+    result = Invoke(call);
+  } catch (const std::bad_alloc&) {
+    NoteLoss(E_OUTOFMEMORY);
+    throw;
+  }
   if (SUCCEEDED(result)) return kSuccess;
-  if (SUCCEEDED(loss_) && !IsRefusal(result)) loss_ = result;
+  if (!IsRefusal(result)) NoteLoss(result);
   SetLastResult(result);
   return kFailed;
+}
+
+/// Only the first one matters.
+void CXMLLiteManagerWriter::NoteLoss(HRESULT failure) {
+  if (SUCCEEDED(loss_)) loss_ = failure;
 }
 
 CXMLLiteManagerWriter::CXMLLiteManagerWriter() : CXMLLiteManager(Kind::kWriter) {

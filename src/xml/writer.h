@@ -36,6 +36,7 @@ class CXMLLiteManagerWriter final : public CXMLLiteManager {
   HRESULT Invoke(Call call);
   template <class Call>
   ConfigResult Emit(Call call);
+  void NoteLoss(HRESULT failure);
   ConfigResult Check(Text text);
   HRESULT EndDocument();
   HRESULT Finish();

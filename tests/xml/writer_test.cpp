@@ -276,6 +276,23 @@ TEST_F(ManagerWriter, IsClosedWhenMemoryRunsOutInOpenFile) {
   EXPECT_TRUE(Holds("<?xml"));
 }
 
+TEST_F(ManagerWriter, RemembersThatMemoryRanOut) {
+  const std::wstring value(1'000'000, L'v');
+  Open();
+  ASSERT_EQ(writer_.StartElement(L"a"), 0);
+  bool has_thrown = false;
+  try {
+    const FailingAllocations failing(0);
+    writer_.WriteAttribute(L"b", value);
+  } catch (const std::bad_alloc&) {
+    has_thrown = true;
+  }
+  EXPECT_TRUE(has_thrown);
+  EXPECT_EQ(writer_.Close(), -101);
+  EXPECT_EQ(tolvaGetLastError(), 0x8007000EU);
+  EXPECT_TRUE(Holds("<a/>"));
+}
+
 TEST_F(ManagerWriter, ReportsAFullDisk) {
   ASSERT_EQ(writer_.OpenFile(L"/dev/full"), 0);
   ASSERT_EQ(writer_.StartElement(L"a"), 0);

@@ -59,16 +59,17 @@ class IXMLLiteManager {
   /// open. -101, with the reason as last-error value:
   ///
   /// - When the stream or the system failed in an earlier call, even once and even if the node's
-  ///   write returned 0: what that call wrote may be missing. The rest is brought to the file as
-  ///   far as possible, and the file is let go. The reason is the code of the first such call.
+  ///   write returned 0, or threw std::bad_alloc: what that call wrote may be missing. The rest is
+  ///   brought to the file as far as possible, and the file is let go. The reason is the code of
+  ///   the first such call.
   /// - When ending, flushing or committing fails (a full disk): the file stays open and the next
   ///   `Close` tries again.
   /// - When there is no root element, or a second one was refused: what was good is in the file,
   ///   which stays open; a further `Close` answers the same.
   ///
   /// `OpenFile` and the destruction let a file go that `Close` left open. A refusal of what was to
-  /// be written (0xC00Cxxxx) is no reason, nor is an exception: after a node's write that failed or
-  /// threw, `Close` may end the document, well-formed and incomplete, and return 0.
+  /// be written (0xC00Cxxxx) is no reason: after a node's write that failed because of it `Close`
+  /// ends the document, well-formed and incomplete, and returns 0.
   virtual ConfigResult Close() = 0;
 
   /// Reader: reads a document from a zero-terminated wide string, which is copied; stops on the
