@@ -1,4 +1,4 @@
-// TOLVA_API marks what the shared library exports; nothing else is visible outside it.
+// TOLVA_API marks what the shared library exports. Nothing else is visible outside it.
 #pragma once
 
 #if defined(_WIN32)

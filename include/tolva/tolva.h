@@ -1,4 +1,4 @@
-// Everything that the library offers.
+// Includes every public header.
 #pragma once
 
 #include <tolva/analysisdetails/analysis_details.h>

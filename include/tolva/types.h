@@ -1,9 +1,9 @@
-// The scalar types and result codes that every interface of the library uses.
+// The scalar types and result codes of all interfaces.
 #pragma once
 
 #include <cstdint>
 
-/// 32-bit unsigned number, as the Windows SDK defines it; BOOL attributes are held in it too.
+/// An unsigned 32-bit number, the same type as in the Windows SDK. It also holds BOOL attributes.
 #if defined(_WIN32)
 using DWORD = unsigned long;
 #else
@@ -12,28 +12,28 @@ using DWORD = std::uint32_t;
 
 static_assert(sizeof(DWORD) == 4);
 
-/// Result of an operation: 0 or one of the codes below. The getter of an optional value answers 1
-/// when the value is absent. When memory runs out, an operation gives no result but throws
+/// The result of an operation: one of the codes below. When memory runs out, an operation may throw
 /// std::bad_alloc; it throws nothing else.
 using ConfigResult = std::int32_t;
 
 namespace tolva {
 
-/// The operation did what it was asked.
+/// The operation succeeded.
 inline constexpr ConfigResult kSuccess = 0;
 
-/// An optional attribute or child is absent; the caller's variable is untouched.
+/// Returned by the getter of an optional attribute or child that is absent. The caller's variable
+/// is unchanged.
 inline constexpr ConfigResult kAbsent = 1;
 
-/// The operation failed. Where the platform supplied a failure code, `tolvaGetLastError` has it;
-/// where a node failed, the diagnostic callback was told why, unless the function says otherwise.
+/// The operation failed. If the platform supplied a code, `tolvaGetLastError` returns it. A node
+/// passes the reason to the diagnostic callback, unless the function says otherwise.
 inline constexpr ConfigResult kFailed = -101;
 
-/// A manager was given a null argument, or an empty text to read; a node was asked to read an
-/// element of another name; or a text element had no text where it needs one.
+/// A manager was given a null argument, or a string to read that is empty or too long; a node was
+/// to read an element with another name; or a text element lacks its required text.
 inline constexpr ConfigResult kInvalidArgument = -102;
 
-/// Never returned: the thread's last-error value after an absent attribute was asked for.
+/// Never returned. The thread's last-error value after a lookup of an attribute that is absent.
 inline constexpr ConfigResult kAttributeAbsent = -104;
 
 }  // namespace tolva

@@ -1,55 +1,57 @@
 // What all configuration nodes have in common.
 //
-// A node is the object of one element of a configuration document: it holds the element's
-// attributes and child elements as typed fields, is made by the element's exported factory, and is
-// destroyed with `delete` through its interface. Its fields are reached through typed accessors, of
-// which there are these forms (X an attribute, Y a child element):
+// A node represents one element of a configuration document. It holds the element's attributes and
+// child elements as typed fields. The element's exported factory creates it; its owner destroys it
+// with `delete` through its interface. Typed accessors get and set the fields. They have these
+// forms (X is an attribute, Y a child element):
 //
 //   required number, ENUM    DWORD GetX() const                 (or ConfigResult GetX(DWORD* out))
 //                            ConfigResult SetX(const DWORD* value)
 //   required string          const std::wstring& GetX() const
 //                            ConfigResult SetX(const std::wstring* value)
-//   optional attribute       ConfigResult GetX(T* out) const    1 when absent, `out` untouched
+//   optional attribute       ConfigResult GetX(T* out) const    1 if absent, `out` unchanged
 //                            ConfigResult SetX(const T* value)  null removes the attribute; 0
 //   required child           IY* GetY()
 //                            ConfigResult SetY(const IY* child) copies
-//   optional child           ConfigResult GetY(IY** out)        1 when absent
+//   optional child           ConfigResult GetY(IY** out)        1 if absent, `out` unchanged
 //                            ConfigResult SetY(const IY* child) copies; null removes the child; 0
 //   repeated child           DWORD GetYCount() const
-//                            IY* GetYAt(DWORD index)            null after the last item
+//                            IY* GetYAt(DWORD index)            null if there is no such item
 //                            ConfigResult AddY(const IY* item)  appends a copy
 //                            ConfigResult InsertYAt(DWORD index, const IY* item)
-//                                                               a copy; after the last: appends
-//                            void RemoveYAt(DWORD index)        nothing after the last item
+//                                                               a copy; past the end: appends
+//                            void RemoveYAt(DWORD index)        ignored if there is no such item
 //                            void RemoveAllY()
 //
-// The setter of a required value answers a null pointer with a diagnostic and -101; AddY and
-// InsertYAt answer it with -101 alone. Getters accept null out-pointers, so GetX(nullptr) asks
-// whether X is present. A child that is made absent keeps what it holds until the node is cleared.
+// The setter of a required value rejects null with a diagnostic and -101. AddY and InsertYAt reject
+// null with -101 and no diagnostic. Getters accept a null out-pointer, so GetX(nullptr) tests
+// whether X is present. Removing a child keeps its content until the node is cleared.
 //
-// Numbers are stored as given, without a range check, and written in decimal. A document may hold
-// the digits 0 to 9 alone, any number of them (none: 0). Unsigned ones keep the low 32 bits of what
-// they read. Signed ones read as 2147483647 at most; from 2147483648 up they are written with a
-// minus sign, and cannot be read back then. Signed are the numbers of the Active Directory, CI,
-// remote filtering, installation and patch history documents.
+// Numbers are stored as given, without a range check, and written in decimal. In a document, a
+// number is any quantity of the digits 0 to 9; no digits at all read as 0. A switch is a number: 1
+// is on, 0 is off, and any other number is kept as it is. Reading an unsigned number saturates at
+// 9223372036854775807 and keeps the low 32 bits. Reading a signed number saturates at 2147483647; a
+// signed number from 2147483648 up is written with a minus sign and cannot be read back. The Active
+// Directory, CI, remote filtering, installation and patch history documents have signed numbers,
+// all others unsigned ones.
 //
-// The value of an ENUM is one of the constants of the enumeration that its accessors' comment
-// names. The comment after each constant has the text that stands for it in a document:
+// The value of an ENUM is a constant of the enumeration that the comment of its accessors names.
+// The comment after each constant is the text that stands for it in a document:
 //
 //   const DWORD action = TolvaInterface::kBlock;
 //   rule->SetAction(&action);
 //
-// Any other number is kept, and written as an empty value unless the interface says otherwise; any
-// other text fails the read.
+// Any other number is stored, and written as an empty value unless the interface says otherwise.
+// Any other text makes the read fail.
 //
-// Nodes passed in have to be nodes of this library: another implementation of an interface is a
-// caller's error that is not noticed.
+// Nodes that are passed in must be nodes of this library. Other implementations of the interfaces
+// are not supported, and are not detected.
 //
-// Pointers and references that getters hand out belong to the node; they are valid until the node
-// changes that field or is destroyed. Everything passed in is copied.
+// Pointers and references that getters return belong to the node. They are valid until the node
+// changes that field or is destroyed. Everything that is passed in is copied.
 //
-// Any function, factories included, throws std::bad_alloc when memory runs out, and nothing else. A
-// node and all below it are used by one thread at a time.
+// Every function, factories included, throws std::bad_alloc if memory runs out, and nothing else.
+// One thread at a time may use a node and everything below it.
 #pragma once
 
 #include <tolva/types.h>
@@ -58,36 +60,39 @@ class IXMLLiteManager;
 
 namespace tolva::node {
 
-/// What every element's object can do: write itself and read itself.
+/// An element that can be written and read.
 class IElement {
  public:
   IElement() = default;
   virtual ~IElement() = default;
 
-  /// Writes the element with all it holds. `manager` is an open writer; the other two arguments are
-  /// those that a parent passes and do not influence the output. -101 with a diagnostic when
-  /// something required could not be written: the document is then incomplete, the node unchanged.
-  /// A writer without an open document leaves 0x8000FFFF as last error. A null manager gives a
-  /// diagnostic and -101, one that is a reader -101 alone.
+  /// Writes the element and its content. `manager` is a writer with an open document. The other two
+  /// arguments are those that a parent passes; they do not affect the output. If something required
+  /// cannot be written, the function fails with a diagnostic and -101: the document is incomplete,
+  /// the node unchanged. If no document is open, the last-error value is then 0x8000FFFF. A null
+  /// manager gives a diagnostic and -101, a reader -101 alone.
   ///
-  /// 0 does not mean that everything is in the document. What is optional and cannot be written, a
-  /// text with a forbidden character say, is left out without a word, as are the two attributes of
-  /// `DefaultDomain`; the last-error value alone tells, the writer's `Close` does not. A failure of
-  /// the stream, by contrast, is always reported, by this function or by `Close`.
+  /// The result 0 does not mean that everything is in the document. Optional values that cannot be
+  /// written, such as a text with a forbidden character, are left out without a diagnostic, and so
+  /// are the two attributes of `DefaultDomain`. Only the last-error value indicates it; the
+  /// writer's `Close` does not. A failure of the stream, by contrast, is always reported, by this
+  /// function or by `Close`.
   virtual ConfigResult WriteToXMLMgr(IXMLLiteManager* manager, int reserved = 0,
                                      int position = 1) const = 0;
 
-  /// Fills the node from the element on whose start tag `manager`, an open reader, stands, and
-  /// leaves the reader on that element's end. Attributes and children that the node does not know
-  /// are ignored; children may come in any order; of a single child that occurs twice the last one
-  /// counts. The node is cleared first, and again when the read fails: -101 with a diagnostic, or
-  /// -102 without one when the element has another name (or the reader holds no element). A null
-  /// manager gives a diagnostic and -101, one that is a writer -101 alone, and both leave the node
-  /// as it was.
+  /// Reads the element into the node. `manager` is a reader that is positioned on the element's
+  /// start tag; afterwards it is positioned on the element's end. Unknown attributes and children
+  /// are ignored. Children may come in any order. If a single child occurs twice, the last one
+  /// counts.
   ///
-  /// 0 does not mean that the element was whole: where the document breaks off or is malformed
-  /// after what the node needs, what has been read is kept. The last-error value tells of that, and
-  /// `tolvaReadToEnd` of the rest of the document.
+  /// The node is cleared first, and again if the read fails: with a diagnostic and -101; or with
+  /// -102 and no diagnostic if the element has another name, or the reader holds no element. A text
+  /// element without its required text gives a diagnostic and -102. A null manager gives a
+  /// diagnostic and -101, a writer -101 alone; both leave the node unchanged.
+  ///
+  /// The result 0 does not mean that the element is complete. If the document ends or is malformed
+  /// after everything that the node requires, the node keeps what has been read. The last-error
+  /// value indicates this, and `tolvaReadToEnd` validates the rest of the document.
   virtual ConfigResult ReadFromXMLMgr(IXMLLiteManager* manager, int reserved = 0) = 0;
 
  protected:
@@ -95,14 +100,14 @@ class IElement {
   IElement& operator=(const IElement&) = default;
 };
 
-/// The common slots of a configuration node. Each interface adds its own
-/// `IName& CopyFrom(const IName& other)` after them: a deep copy, for which `other` has to be a
-/// node of this library (one's own descendants and the node itself included).
+/// The common slots of configuration nodes. In the slot after them, every interface declares
+/// `IName& CopyFrom(const IName& other)`, which makes a deep copy of `other` and returns the node.
+/// `other` must be a node of this library. It may be the node itself or one of its descendants.
 class INode : public IElement {
  public:
-  /// Resets every field to its default: empty, 0, absent. Fields of which their interface says that
-  /// `Clear` leaves them as they were hold what was assigned to them last, be it by a read that
-  /// failed later, and survive the `Clear` of the nodes above as well.
+  /// Resets every field to its default: empty, 0 or absent. Some interfaces say that `Clear` keeps
+  /// certain fields. Such a field keeps the value that was assigned last, even by a read that then
+  /// failed, and also when a node above it is cleared.
   virtual void Clear() = 0;
 };
 
