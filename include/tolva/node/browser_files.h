@@ -1,4 +1,4 @@
-// The names of a browser's configuration files, as several documents hold them.
+// The names of a browser's configuration files, which several documents hold.
 #pragma once
 
 #include <string>
@@ -8,17 +8,18 @@
 
 namespace tolva::node {
 
-/// Two files of which the agent makes a browser's configuration; `Self` is the element's interface.
+/// The two files that make up the browser configuration of the agent. `Self` is the interface of
+/// the element.
 template <class Self>
 class IBrowserFiles : public INode {
  public:
   virtual Self& CopyFrom(const Self& other) = 0;
 
-  /// `FirefoxConfigCFGFileName`. Optional.
+  /// `FirefoxConfigCFGFileName`: the name of the CFG file of the Firefox configuration. Optional.
   virtual ConfigResult GetFirefoxConfigCFGFileName(std::wstring* out) const = 0;
   virtual ConfigResult SetFirefoxConfigCFGFileName(const std::wstring* value) = 0;
 
-  /// `FirefoxConfigJSFileName`. Optional.
+  /// `FirefoxConfigJSFileName`: the name of the JS file of the Firefox configuration. Optional.
   virtual ConfigResult GetFirefoxConfigJSFileName(std::wstring* out) const = 0;
   virtual ConfigResult SetFirefoxConfigJSFileName(const std::wstring* value) = 0;
 };

@@ -8,29 +8,29 @@
 
 namespace tolva::node {
 
-/// The attributes by which a configuration is identified; `Self` is the root's interface.
+/// The attributes that identify a configuration. `Self` is the interface of the root.
 template <class Self>
 class IConfigurationRoot : public INode {
  public:
   virtual Self& CopyFrom(const Self& other) = 0;
 
-  /// `SchemaVersion`: the version of the document's form. Required.
+  /// `SchemaVersion`: the version of the document's schema. Required.
   virtual DWORD GetSchemaVersion() const = 0;
   virtual ConfigResult SetSchemaVersion(const DWORD* value) = 0;
 
-  /// `SN`: the configuration's serial number, as text. Required.
+  /// `SN`: the serial number of the configuration, as text. Required.
   virtual const std::wstring& GetSN() const = 0;
   virtual ConfigResult SetSN(const std::wstring* value) = 0;
 
-  /// `Name`: the configuration's name. Required.
+  /// `Name`: the name of the configuration. Required.
   virtual const std::wstring& GetName() const = 0;
   virtual ConfigResult SetName(const std::wstring* value) = 0;
 
-  /// `UpdateDate`: when it was changed last; the form is its author's. Optional.
+  /// `UpdateDate`: the date of the last change, in a format of the author's choice. Optional.
   virtual ConfigResult GetUpdateDate(std::wstring* out) const = 0;
   virtual ConfigResult SetUpdateDate(const std::wstring* value) = 0;
 
-  /// `RefId`: a reference, carried unchanged. Optional.
+  /// `RefId`: a reference identifier. Optional.
   virtual ConfigResult GetRefId(std::wstring* out) const = 0;
   virtual ConfigResult SetRefId(const std::wstring* value) = 0;
 };
