@@ -1,7 +1,6 @@
-// Conditions of the policy: which applications and addresses are meant, and what is done with
-// them.
-//
-// How a condition is matched is the agent's business; its texts are carried as they stand.
+// The conditions of the policy: which applications and web addresses a rule applies to, and what
+// happens to their operations. The library does not interpret the texts; how they are matched is up
+// to the agent.
 #pragma once
 
 #include <string>
@@ -12,40 +11,40 @@
 
 namespace TolvaInterface {
 
-/// What is done with an operation: the values of the rules' `Action`.
+/// What happens to an operation: the values of the attribute `Action` of the rules.
 enum RuleAction : DWORD {
   kUseContentPolicyAction = 0,  ///< "USE_CONTENT_POLICY_ACTION"
   kAllow = 1,                   ///< "ALLOW"
   kBlock = 2,                   ///< "BLOCK"
 };
 
-/// Element `ArCondition`: one application, described by any of its features.
+/// Element `ArCondition`: an application, described by any of the attributes.
 class IArCondition : public tolva::node::INode {
  public:
   virtual IArCondition& CopyFrom(const IArCondition& other) = 0;
 
-  /// `AppName`: the name of its file. Optional.
+  /// `AppName`: the name of the application's file. Optional.
   virtual ConfigResult GetAppName(std::wstring* out) const = 0;
   virtual ConfigResult SetAppName(const std::wstring* value) = 0;
 
-  /// `ResFileDescription`: the file description among its resources. Optional.
+  /// `ResFileDescription`: the file description in the application's resources. Optional.
   virtual ConfigResult GetResFileDescription(std::wstring* out) const = 0;
   virtual ConfigResult SetResFileDescription(const std::wstring* value) = 0;
 
-  /// `ResProductName`: the product name among its resources. Optional.
+  /// `ResProductName`: the product name in the application's resources. Optional.
   virtual ConfigResult GetResProductName(std::wstring* out) const = 0;
   virtual ConfigResult SetResProductName(const std::wstring* value) = 0;
 
-  /// `ResCompany`: the company among its resources. Optional.
+  /// `ResCompany`: the company in the application's resources. Optional.
   virtual ConfigResult GetResCompany(std::wstring* out) const = 0;
   virtual ConfigResult SetResCompany(const std::wstring* value) = 0;
 
-  /// `OS`: the operating system it runs on. Optional.
+  /// `OS`: the operating system on which the application runs. Optional.
   virtual ConfigResult GetOS(std::wstring* out) const = 0;
   virtual ConfigResult SetOS(const std::wstring* value) = 0;
 };
 
-/// Element `UrlCondition`: one address.
+/// Element `UrlCondition`: a web address.
 class IUrlCondition : public tolva::node::INode {
  public:
   virtual IUrlCondition& CopyFrom(const IUrlCondition& other) = 0;
@@ -60,7 +59,10 @@ class IAppRule : public tolva::node::INode {
  public:
   virtual IAppRule& CopyFrom(const IAppRule& other) = 0;
 
-  /// `Action`: a RuleAction. Required.
+  /// `Action`: what happens to an operation: it is allowed, blocked, or left to the action of the
+  /// content policy. Required.
+  ///
+  /// The value is a RuleAction.
   virtual DWORD GetAction() const = 0;
   virtual ConfigResult SetAction(const DWORD* value) = 0;
 
@@ -68,11 +70,11 @@ class IAppRule : public tolva::node::INode {
   virtual ConfigResult GetAppid(std::wstring* out) const = 0;
   virtual ConfigResult SetAppid(const std::wstring* value) = 0;
 
-  /// `AllowAccessAfterFileCreation`: a number, carried unchanged. Optional.
+  /// `AllowAccessAfterFileCreation`. Optional.
   virtual ConfigResult GetAllowAccessAfterFileCreation(DWORD* out) const = 0;
   virtual ConfigResult SetAllowAccessAfterFileCreation(const DWORD* value) = 0;
 
-  /// The applications: children `ArCondition`.
+  /// `ArCondition`: an application in the set. Repeated.
   virtual DWORD GetArConditionCount() const = 0;
   virtual IArCondition* GetArConditionAt(DWORD index) = 0;
   virtual ConfigResult AddArCondition(const IArCondition* item) = 0;
@@ -81,13 +83,18 @@ class IAppRule : public tolva::node::INode {
   virtual void RemoveAllArCondition() = 0;
 };
 
-/// Element `OnlineApps`: an action for a set of applications and addresses. All applications are
-/// written before all addresses, in whatever order they were read.
+/// Element `OnlineApps`: an action for a set of applications and web addresses.
+///
+/// All applications are written before all addresses, regardless of the order in which they were
+/// read.
 class IOnlineApps : public tolva::node::INode {
  public:
   virtual IOnlineApps& CopyFrom(const IOnlineApps& other) = 0;
 
-  /// `Action`: a RuleAction. Required.
+  /// `Action`: what happens to an operation: it is allowed, blocked, or left to the action of the
+  /// content policy. Required.
+  ///
+  /// The value is a RuleAction.
   virtual DWORD GetAction() const = 0;
   virtual ConfigResult SetAction(const DWORD* value) = 0;
 
@@ -95,7 +102,7 @@ class IOnlineApps : public tolva::node::INode {
   virtual ConfigResult GetAppid(std::wstring* out) const = 0;
   virtual ConfigResult SetAppid(const std::wstring* value) = 0;
 
-  /// The applications: children `ArCondition`.
+  /// `ArCondition`: an application in the set. Repeated.
   virtual DWORD GetArConditionCount() const = 0;
   virtual IArCondition* GetArConditionAt(DWORD index) = 0;
   virtual ConfigResult AddArCondition(const IArCondition* item) = 0;
@@ -103,7 +110,7 @@ class IOnlineApps : public tolva::node::INode {
   virtual void RemoveArConditionAt(DWORD index) = 0;
   virtual void RemoveAllArCondition() = 0;
 
-  /// The addresses: children `UrlCondition`.
+  /// `UrlCondition`: a web address in the set. Repeated.
   virtual DWORD GetUrlConditionCount() const = 0;
   virtual IUrlCondition* GetUrlConditionAt(DWORD index) = 0;
   virtual ConfigResult AddUrlCondition(const IUrlCondition* item) = 0;
@@ -112,12 +119,12 @@ class IOnlineApps : public tolva::node::INode {
   virtual void RemoveAllUrlCondition() = 0;
 };
 
-/// Element `BypassedApps`: applications to which a channel does not apply.
+/// Element `BypassedApps`: the applications to which a channel does not apply.
 class IBypassedApps : public tolva::node::INode {
  public:
   virtual IBypassedApps& CopyFrom(const IBypassedApps& other) = 0;
 
-  /// The applications: children `ArCondition`.
+  /// `ArCondition`: an application to which the channel does not apply. Repeated.
   virtual DWORD GetArConditionCount() const = 0;
   virtual IArCondition* GetArConditionAt(DWORD index) = 0;
   virtual ConfigResult AddArCondition(const IArCondition* item) = 0;
@@ -126,7 +133,7 @@ class IBypassedApps : public tolva::node::INode {
   virtual void RemoveAllArCondition() = 0;
 };
 
-// Each makes a node with default values, which the caller owns.
+// Each function returns a new node with default values, which the caller owns.
 TOLVA_API IArCondition* ArCondition_CreateNewInstance();
 TOLVA_API IUrlCondition* UrlCondition_CreateNewInstance();
 TOLVA_API IAppRule* AppRule_CreateNewInstance();

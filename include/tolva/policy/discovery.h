@@ -1,6 +1,6 @@
-// Discovery jobs: which files are searched for data, when, and what is done with them.
-//
-// Units, dates and patterns are carried as they stand: they are the agent's.
+// Discovery jobs: which files the agent searches for data, when, and what it does with them. The
+// library does not interpret numbers, dates and patterns; the agent defines their units and
+// formats.
 #pragma once
 
 #include <cstdint>
@@ -15,44 +15,48 @@ namespace TolvaInterface {
 
 #pragma push_macro("GetDriveType")
 #undef GetDriveType
-/// Element `FileFilter`: which files a job looks at.
+/// Element `FileFilter`: the files that a discovery job searches.
 class IFileFilter : public tolva::node::INode {
  public:
   virtual IFileFilter& CopyFrom(const IFileFilter& other) = 0;
 
-  /// `Include`: patterns of files to look at. Required.
+  /// `Include`: the patterns of the files to search. Required.
   virtual const std::wstring& GetInclude() const = 0;
   virtual ConfigResult SetInclude(const std::wstring* value) = 0;
 
-  /// `Exclude`: patterns of files to leave out. Optional.
+  /// `Exclude`: the patterns of the files to leave out. Optional.
   virtual ConfigResult GetExclude(std::wstring* out) const = 0;
   virtual ConfigResult SetExclude(const std::wstring* value) = 0;
 
-  /// `Age`. Optional.
+  /// `Age`: a limit on the age of a file. Optional.
   virtual ConfigResult GetAge(DWORD* out) const = 0;
   virtual ConfigResult SetAge(const DWORD* value) = 0;
 
-  /// `ModifiedBefore`. Optional.
+  /// `ModifiedBefore`: a limit on the time when a file was last modified. Optional.
   virtual ConfigResult GetModifiedBefore(DWORD* out) const = 0;
   virtual ConfigResult SetModifiedBefore(const DWORD* value) = 0;
 
-  /// `MinDate`. Optional.
+  /// `MinDate`: the earliest date of a file. Optional.
   virtual ConfigResult GetMinDate(std::wstring* out) const = 0;
   virtual ConfigResult SetMinDate(const std::wstring* value) = 0;
 
-  /// `MaxDate`. Optional.
+  /// `MaxDate`: the latest date of a file. Optional.
   virtual ConfigResult GetMaxDate(std::wstring* out) const = 0;
   virtual ConfigResult SetMaxDate(const std::wstring* value) = 0;
 
-  /// `MinSize`: the least size of a file. Optional.
+  /// `MinSize`: the smallest size of a file. Optional.
+  ///
+  /// A 64-bit number. Reading saturates at 18446744073709551615.
   virtual ConfigResult GetMinSize(std::uint64_t* out) const = 0;
   virtual ConfigResult SetMinSize(const std::uint64_t* value) = 0;
 
-  /// `MaxSize`: the greatest size of a file. Optional.
+  /// `MaxSize`: the largest size of a file. Optional.
+  ///
+  /// A 64-bit number. Reading saturates at 18446744073709551615.
   virtual ConfigResult GetMaxSize(std::uint64_t* out) const = 0;
   virtual ConfigResult SetMaxSize(const std::uint64_t* value) = 0;
 
-  /// `DriveType`: on which drives. Optional.
+  /// `DriveType`: the type of the drives to search. Optional.
   virtual ConfigResult GetDriveType(std::wstring* out) const = 0;
   virtual ConfigResult SetDriveType(const std::wstring* value) = 0;
 #if defined(_WIN32)
@@ -60,112 +64,119 @@ class IFileFilter : public tolva::node::INode {
   ConfigResult GetDriveTypeA(std::wstring* out) const { return GetDriveType(out); }
 #endif
 
-  /// `Recursive`: whether folders within folders are searched. Optional.
+  /// `Recursive`: 1 if subfolders are searched, 0 if not. Optional.
   virtual ConfigResult GetRecursive(DWORD* out) const = 0;
   virtual ConfigResult SetRecursive(const DWORD* value) = 0;
 };
 #pragma pop_macro("GetDriveType")
 
-/// The values of `DiscoveryAction`'s `Action`.
+/// The values of the attribute `Action` of `DiscoveryAction`.
 enum DiscoveryAction : DWORD {
   kDiscoveryActionAnalyze = 0,  ///< "ANALYZE"
 };
 
-/// Element `DiscoveryAction`. `Clear` leaves `Action` as it was.
+/// Element `DiscoveryAction`: what a discovery job does with a file.
+///
+/// `Clear` keeps `Action`, which is 0 in a new node.
 class IDiscoveryAction : public tolva::node::INode {
  public:
   virtual IDiscoveryAction& CopyFrom(const IDiscoveryAction& other) = 0;
 
-  /// `Action`: a DiscoveryAction. Required.
+  /// `Action`: what the job does with a file. Required.
+  ///
+  /// The value is a DiscoveryAction.
   virtual DWORD GetAction() const = 0;
   virtual ConfigResult SetAction(const DWORD* value) = 0;
 };
 
-/// The values of `DiscoverySettings`'s `ScanMode`.
+/// The values of the attribute `ScanMode` of `DiscoverySettings`.
 enum ScanMode : DWORD {
   kScanModeFull = 0,          ///< "FULL"
   kScanModeDifferential = 1,  ///< "DIFFERENTIAL"
   kScanModeAlternative = 2,   ///< "ALTERNATIVE"
 };
 
-/// Element `DiscoverySettings`: how a job proceeds.
+/// Element `DiscoverySettings`: how a discovery job proceeds.
 class IDiscoverySettings : public tolva::node::INode {
  public:
   virtual IDiscoverySettings& CopyFrom(const IDiscoverySettings& other) = 0;
 
-  /// `FullScanInterval`. Optional.
+  /// `FullScanInterval`: the interval between full scans. Optional.
   virtual ConfigResult GetFullScanInterval(DWORD* out) const = 0;
   virtual ConfigResult SetFullScanInterval(const DWORD* value) = 0;
 
-  /// `PauseOnNotIdle`: whether the job waits while the machine is used. Optional.
+  /// `PauseOnNotIdle`: 1 if the job pauses while the machine is not idle, 0 if not. Optional.
   virtual ConfigResult GetPauseOnNotIdle(DWORD* out) const = 0;
   virtual ConfigResult SetPauseOnNotIdle(const DWORD* value) = 0;
 
-  /// `IdleTimeout`. Optional.
+  /// `IdleTimeout`: the time after which the machine counts as idle. Optional.
   virtual ConfigResult GetIdleTimeout(DWORD* out) const = 0;
   virtual ConfigResult SetIdleTimeout(const DWORD* value) = 0;
 
-  /// `PauseOnBattery`: whether it waits for mains. Optional.
+  /// `PauseOnBattery`: 1 if the job pauses while the machine runs on battery, 0 if not. Optional.
   virtual ConfigResult GetPauseOnBattery(DWORD* out) const = 0;
   virtual ConfigResult SetPauseOnBattery(const DWORD* value) = 0;
 
-  /// `ScanMode`: a ScanMode. Optional.
+  /// `ScanMode`: the kind of scan: full, differential or alternative. Optional.
+  ///
+  /// The value is a ScanMode.
   virtual ConfigResult GetScanMode(DWORD* out) const = 0;
   virtual ConfigResult SetScanMode(const DWORD* value) = 0;
 
-  /// `PreserveFileAccessTime`: whether files keep their time of access. Optional.
+  /// `PreserveFileAccessTime`: 1 if the files keep their access times, 0 if not. Optional.
   virtual ConfigResult GetPreserveFileAccessTime(DWORD* out) const = 0;
   virtual ConfigResult SetPreserveFileAccessTime(const DWORD* value) = 0;
 
-  /// `FullScanOnFingerprintUpdate`: whether new fingerprints lead to a full scan. Optional.
+  /// `FullScanOnFingerprintUpdate`: 1 if an update of the fingerprints leads to a full scan, 0 if
+  /// not. Optional.
   virtual ConfigResult GetFullScanOnFingerprintUpdate(DWORD* out) const = 0;
   virtual ConfigResult SetFullScanOnFingerprintUpdate(const DWORD* value) = 0;
 };
 
-/// Element `DiscoveryJob`.
+/// Element `DiscoveryJob`: a search for data in files.
 class IDiscoveryJob : public tolva::node::INode {
  public:
   virtual IDiscoveryJob& CopyFrom(const IDiscoveryJob& other) = 0;
 
-  /// `Id`: the job's identifier. Required.
+  /// `Id`: the identifier of the job, as text. Required.
   virtual const std::wstring& GetId() const = 0;
   virtual ConfigResult SetId(const std::wstring* value) = 0;
 
-  /// `Sid`: an identifier, carried unchanged. Required.
+  /// `Sid`: the first of the two numeric identifiers of the job. Required.
   virtual DWORD GetSid() const = 0;
   virtual ConfigResult SetSid(const DWORD* value) = 0;
 
-  /// `Cid`: another one. Optional.
+  /// `Cid`: the second of the two numeric identifiers of the job. Optional.
   virtual ConfigResult GetCid(DWORD* out) const = 0;
   virtual ConfigResult SetCid(const DWORD* value) = 0;
 
-  /// `Taskid`: another one. Optional.
+  /// `Taskid`: a task identifier. Optional.
   virtual ConfigResult GetTaskid(DWORD* out) const = 0;
   virtual ConfigResult SetTaskid(const DWORD* value) = 0;
 
-  /// The child `Schedule`. Required.
+  /// `Schedule`: when the job runs. Required.
   virtual ISchedule* GetSchedule() = 0;
   virtual ConfigResult SetSchedule(const ISchedule* child) = 0;
 
-  /// The child `FileFilter`. Required.
+  /// `FileFilter`: the files that the job searches. Required.
   virtual IFileFilter* GetFileFilter() = 0;
   virtual ConfigResult SetFileFilter(const IFileFilter* child) = 0;
 
-  /// The child `DiscoveryAction`. Required.
+  /// `DiscoveryAction`: what the job does with a file. Required.
   virtual IDiscoveryAction* GetDiscoveryAction() = 0;
   virtual ConfigResult SetDiscoveryAction(const IDiscoveryAction* child) = 0;
 
-  /// The child `DiscoverySettings`. Required.
+  /// `DiscoverySettings`: how the job proceeds. Required.
   virtual IDiscoverySettings* GetDiscoverySettings() = 0;
   virtual ConfigResult SetDiscoverySettings(const IDiscoverySettings* child) = 0;
 };
 
-/// Element `DiscoveryJobs`.
+/// Element `DiscoveryJobs`: the discovery jobs.
 class IDiscoveryJobs : public tolva::node::INode {
  public:
   virtual IDiscoveryJobs& CopyFrom(const IDiscoveryJobs& other) = 0;
 
-  /// Children `DiscoveryJob`.
+  /// `DiscoveryJob`: a search for data in files. Repeated.
   virtual DWORD GetDiscoveryJobCount() const = 0;
   virtual IDiscoveryJob* GetDiscoveryJobAt(DWORD index) = 0;
   virtual ConfigResult AddDiscoveryJob(const IDiscoveryJob* item) = 0;
@@ -174,17 +185,17 @@ class IDiscoveryJobs : public tolva::node::INode {
   virtual void RemoveAllDiscoveryJob() = 0;
 };
 
-/// Element `Discovery`.
+/// Element `Discovery`: the search for data in the files of the endpoint.
 class IDiscovery : public tolva::node::INode {
  public:
   virtual IDiscovery& CopyFrom(const IDiscovery& other) = 0;
 
-  /// The child `DiscoveryJobs`. Required.
+  /// `DiscoveryJobs`: the discovery jobs. Required.
   virtual IDiscoveryJobs* GetDiscoveryJobs() = 0;
   virtual ConfigResult SetDiscoveryJobs(const IDiscoveryJobs* child) = 0;
 };
 
-// Each makes a node with default values, which the caller owns.
+// Each function returns a new node with default values, which the caller owns.
 TOLVA_API IFileFilter* FileFilter_CreateNewInstance();
 TOLVA_API IDiscoveryAction* DiscoveryAction_CreateNewInstance();
 TOLVA_API IDiscoverySettings* DiscoverySettings_CreateNewInstance();

@@ -1,7 +1,5 @@
-// When a recurring task of the agent runs.
-//
-// Dates, times, masks, durations and gaps are carried as they stand: their formats and units are
-// the agent's.
+// Schedules: when a recurring task of the agent runs. The library does not interpret dates, times,
+// masks, durations and gaps; the agent defines their units and formats.
 #pragma once
 
 #include <string>
@@ -17,11 +15,11 @@ class IStartAt : public tolva::node::INode {
  public:
   virtual IStartAt& CopyFrom(const IStartAt& other) = 0;
 
-  /// `Time`. Required.
+  /// `Time`: the time of the start. Required.
   virtual const std::wstring& GetTime() const = 0;
   virtual ConfigResult SetTime(const std::wstring* value) = 0;
 
-  /// `Date`. Optional.
+  /// `Date`: the date of the start. Optional.
   virtual ConfigResult GetDate(std::wstring* out) const = 0;
   virtual ConfigResult SetDate(const std::wstring* value) = 0;
 };
@@ -31,39 +29,39 @@ class IStopAt : public tolva::node::INode {
  public:
   virtual IStopAt& CopyFrom(const IStopAt& other) = 0;
 
-  /// `Date`. Optional.
+  /// `Date`: the date of the end. Optional.
   virtual ConfigResult GetDate(std::wstring* out) const = 0;
   virtual ConfigResult SetDate(const std::wstring* value) = 0;
 
-  /// `Occurrences`: after how many runs. Optional.
+  /// `Occurrences`: the number of runs after which the recurrence stops. Optional.
   virtual ConfigResult GetOccurrences(DWORD* out) const = 0;
   virtual ConfigResult SetOccurrences(const DWORD* value) = 0;
 };
 
-/// Element `TimeSlot`: a part of the day in which a run is allowed.
+/// Element `TimeSlot`: a period of the day in which the task may run.
 class ITimeSlot : public tolva::node::INode {
  public:
   virtual ITimeSlot& CopyFrom(const ITimeSlot& other) = 0;
 
-  /// `Weekday`: on which day. Optional.
+  /// `Weekday`: the day of the week, as a number. Optional.
   virtual ConfigResult GetWeekday(DWORD* out) const = 0;
   virtual ConfigResult SetWeekday(const DWORD* value) = 0;
 
-  /// `StartTime`: from when. Required.
+  /// `StartTime`: the beginning of the period. Required.
   virtual const std::wstring& GetStartTime() const = 0;
   virtual ConfigResult SetStartTime(const std::wstring* value) = 0;
 
-  /// `EndTime`: until when. Required.
+  /// `EndTime`: the end of the period. Required.
   virtual const std::wstring& GetEndTime() const = 0;
   virtual ConfigResult SetEndTime(const std::wstring* value) = 0;
 };
 
-/// Element `AvailableTimeSlots`.
+/// Element `AvailableTimeSlots`: the periods in which the task may run.
 class IAvailableTimeSlots : public tolva::node::INode {
  public:
   virtual IAvailableTimeSlots& CopyFrom(const IAvailableTimeSlots& other) = 0;
 
-  /// Children `TimeSlot`.
+  /// `TimeSlot`: a period of the day in which the task may run. Repeated.
   virtual DWORD GetTimeSlotCount() const = 0;
   virtual ITimeSlot* GetTimeSlotAt(DWORD index) = 0;
   virtual ConfigResult AddTimeSlot(const ITimeSlot* item) = 0;
@@ -81,48 +79,50 @@ class IRecurring : public tolva::node::INode {
   virtual ConfigResult GetMask(std::wstring* out) const = 0;
   virtual ConfigResult SetMask(const std::wstring* value) = 0;
 
-  /// `Frequence`. Optional.
+  /// `Frequence`: how often the task recurs. Optional.
   virtual ConfigResult GetFrequence(DWORD* out) const = 0;
   virtual ConfigResult SetFrequence(const DWORD* value) = 0;
 
-  /// The child `StartAt`. Required.
+  /// `StartAt`: when the recurrence starts. Required.
   virtual IStartAt* GetStartAt() = 0;
   virtual ConfigResult SetStartAt(const IStartAt* child) = 0;
 
-  /// The child `StopAt`. Optional.
+  /// `StopAt`: when the recurrence stops. Optional.
   virtual ConfigResult GetStopAt(IStopAt** out) = 0;
   virtual ConfigResult SetStopAt(const IStopAt* child) = 0;
 
-  /// The child `AvailableTimeSlots`. Optional.
+  /// `AvailableTimeSlots`: the periods in which the task may run. Optional.
   virtual ConfigResult GetAvailableTimeSlots(IAvailableTimeSlots** out) = 0;
   virtual ConfigResult SetAvailableTimeSlots(const IAvailableTimeSlots* child) = 0;
 };
 
-/// The values of `InitialRecur`'s `Type`.
+/// The values of the attribute `Type` of `InitialRecur`.
 enum InitialRecurType : DWORD {
   kInitialRecurTypeNow = 0,   ///< "NOW"
   kInitialRecurTypeTime = 1,  ///< "TIME"
 };
 
-/// Element `InitialRecur`: the first run.
+/// Element `InitialRecur`: the first run of a task.
 class IInitialRecur : public tolva::node::INode {
  public:
   virtual IInitialRecur& CopyFrom(const IInitialRecur& other) = 0;
 
-  /// `Type`: an InitialRecurType. Required.
+  /// `Type`: whether the first run starts now or at a given time. Required.
+  ///
+  /// The value is an InitialRecurType.
   virtual DWORD GetType() const = 0;
   virtual ConfigResult SetType(const DWORD* value) = 0;
 
-  /// `Time`. Optional.
+  /// `Time`: the time of the first run. Optional.
   virtual ConfigResult GetTime(std::wstring* out) const = 0;
   virtual ConfigResult SetTime(const std::wstring* value) = 0;
 
-  /// `Date`. Optional.
+  /// `Date`: the date of the first run. Optional.
   virtual ConfigResult GetDate(std::wstring* out) const = 0;
   virtual ConfigResult SetDate(const std::wstring* value) = 0;
 };
 
-/// The values of `Schedule`'s `RecurType`.
+/// The values of the attribute `RecurType` of `Schedule`.
 enum RecurType : DWORD {
   kRecurTypeOnce = 0,          ///< "ONCE"
   kRecurTypeDaily = 1,         ///< "DAILY"
@@ -131,44 +131,50 @@ enum RecurType : DWORD {
   kRecurTypeContinuously = 4,  ///< "CONTINUOUSLY"
 };
 
-/// The values of `Schedule`'s `TimeType`.
+/// The values of the attribute `TimeType` of `Schedule`.
 enum TimeType : DWORD {
   kTimeTypeLocal = 0,  ///< "LOCAL"
   kTimeTypeUtc = 1,    ///< "UTC"
 };
 
-/// Element `Schedule`. `Clear` leaves `RecurType` and the value of `TimeType` as they were;
-/// `TimeType` becomes absent.
+/// Element `Schedule`: when a task runs.
+///
+/// `Clear` keeps `RecurType`, which is 0 in a new node, and the value of `TimeType`; it makes
+/// `TimeType` absent.
 class ISchedule : public tolva::node::INode {
  public:
   virtual ISchedule& CopyFrom(const ISchedule& other) = 0;
 
-  /// `RecurType`: how the task recurs, a RecurType. Required.
+  /// `RecurType`: how the task recurs: once, daily, weekly, monthly or continuously. Required.
+  ///
+  /// The value is a RecurType.
   virtual DWORD GetRecurType() const = 0;
   virtual ConfigResult SetRecurType(const DWORD* value) = 0;
 
-  /// `Duration`. Optional.
+  /// `Duration`: the duration of a run. Optional.
   virtual ConfigResult GetDuration(DWORD* out) const = 0;
   virtual ConfigResult SetDuration(const DWORD* value) = 0;
 
-  /// `TimeType`: which time is meant, a TimeType. Optional.
+  /// `TimeType`: whether times are local time or UTC. Optional.
+  ///
+  /// The value is a TimeType.
   virtual ConfigResult GetTimeType(DWORD* out) const = 0;
   virtual ConfigResult SetTimeType(const DWORD* value) = 0;
 
-  /// `ContinuousSchGap`: the gap between continuous runs. Optional.
+  /// `ContinuousSchGap`: the gap between two runs of a task that runs continuously. Optional.
   virtual ConfigResult GetContinuousSchGap(DWORD* out) const = 0;
   virtual ConfigResult SetContinuousSchGap(const DWORD* value) = 0;
 
-  /// The child `Recurring`. Optional.
+  /// `Recurring`: how the task recurs. Optional.
   virtual ConfigResult GetRecurring(IRecurring** out) = 0;
   virtual ConfigResult SetRecurring(const IRecurring* child) = 0;
 
-  /// The child `InitialRecur`. Optional.
+  /// `InitialRecur`: the first run. Optional.
   virtual ConfigResult GetInitialRecur(IInitialRecur** out) = 0;
   virtual ConfigResult SetInitialRecur(const IInitialRecur* child) = 0;
 };
 
-// Each makes a node with default values, which the caller owns.
+// Each function returns a new node with default values, which the caller owns.
 TOLVA_API IStartAt* StartAt_CreateNewInstance();
 TOLVA_API IStopAt* StopAt_CreateNewInstance();
 TOLVA_API ITimeSlot* TimeSlot_CreateNewInstance();

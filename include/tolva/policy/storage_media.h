@@ -1,7 +1,6 @@
-// The channels through which data leaves by storage media: disks, discs, removable devices,
-// network shares.
-//
-// How names are matched is the agent's business; they are carried as they stand.
+// The channels through which data can leave the endpoint by storage media: fixed disks, optical
+// media, removable devices and network shares. The library does not interpret the names; how they
+// are matched is up to the agent.
 #pragma once
 
 #include <string>
@@ -18,19 +17,22 @@ class IDeviceRule : public tolva::node::INode {
  public:
   virtual IDeviceRule& CopyFrom(const IDeviceRule& other) = 0;
 
-  /// `Action`: a RuleAction. Required.
+  /// `Action`: what happens to an operation: it is allowed, blocked, or left to the action of the
+  /// content policy. Required.
+  ///
+  /// The value is a RuleAction.
   virtual DWORD GetAction() const = 0;
   virtual ConfigResult SetAction(const DWORD* value) = 0;
 
-  /// `DeviceName`: the device's name. Optional.
+  /// `DeviceName`: the name of the device. Optional.
   virtual ConfigResult GetDeviceName(std::wstring* out) const = 0;
   virtual ConfigResult SetDeviceName(const std::wstring* value) = 0;
 
-  /// `SerialNumber`: its hardware serial number. Optional.
+  /// `SerialNumber`: the hardware serial number of the device. Optional.
   virtual ConfigResult GetSerialNumber(std::wstring* out) const = 0;
   virtual ConfigResult SetSerialNumber(const std::wstring* value) = 0;
 
-  /// `VendorID`: its vendor's identifier. Optional.
+  /// `VendorID`: the vendor identifier of the device. Optional.
   virtual ConfigResult GetVendorID(std::wstring* out) const = 0;
   virtual ConfigResult SetVendorID(const std::wstring* value) = 0;
 };
@@ -40,29 +42,32 @@ class IRemoteDriveRule : public tolva::node::INode {
  public:
   virtual IRemoteDriveRule& CopyFrom(const IRemoteDriveRule& other) = 0;
 
-  /// `Action`: a RuleAction. Required.
+  /// `Action`: what happens to an operation: it is allowed, blocked, or left to the action of the
+  /// content policy. Required.
+  ///
+  /// The value is a RuleAction.
   virtual DWORD GetAction() const = 0;
   virtual ConfigResult SetAction(const DWORD* value) = 0;
 
-  /// `ShareName`: the share's name. Optional.
+  /// `ShareName`: the name of the share. Optional.
   virtual ConfigResult GetShareName(std::wstring* out) const = 0;
   virtual ConfigResult SetShareName(const std::wstring* value) = 0;
 };
 
-/// Element `ILPFixedMedia`: fixed disks.
+/// Element `ILPFixedMedia`: the rules for fixed disks.
 class IILPFixedMedia : public tolva::node::INode {
  public:
   virtual IILPFixedMedia& CopyFrom(const IILPFixedMedia& other) = 0;
 
-  /// `Sid`: an identifier of the channel, carried unchanged. Optional.
+  /// `Sid`: the first of the two identifiers of the channel. Optional.
   virtual ConfigResult GetSid(DWORD* out) const = 0;
   virtual ConfigResult SetSid(const DWORD* value) = 0;
 
-  /// `Cid`: another one, likewise. Optional.
+  /// `Cid`: the second of the two identifiers of the channel. Optional.
   virtual ConfigResult GetCid(DWORD* out) const = 0;
   virtual ConfigResult SetCid(const DWORD* value) = 0;
 
-  /// Children `OnlineApps`.
+  /// `OnlineApps`: an action for a set of applications and web addresses. Repeated.
   virtual DWORD GetOnlineAppsCount() const = 0;
   virtual IOnlineApps* GetOnlineAppsAt(DWORD index) = 0;
   virtual ConfigResult AddOnlineApps(const IOnlineApps* item) = 0;
@@ -71,38 +76,38 @@ class IILPFixedMedia : public tolva::node::INode {
   virtual void RemoveAllOnlineApps() = 0;
 };
 
-/// Element `ILPOpticalMedia`: optical media.
+/// Element `ILPOpticalMedia`: the rules for optical media.
 class IILPOpticalMedia : public tolva::node::INode {
  public:
   virtual IILPOpticalMedia& CopyFrom(const IILPOpticalMedia& other) = 0;
 
-  /// `Sid`: an identifier of the channel, carried unchanged. Optional.
+  /// `Sid`: the first of the two identifiers of the channel. Optional.
   virtual ConfigResult GetSid(DWORD* out) const = 0;
   virtual ConfigResult SetSid(const DWORD* value) = 0;
 
-  /// `Cid`: another one, likewise. Optional.
+  /// `Cid`: the second of the two identifiers of the channel. Optional.
   virtual ConfigResult GetCid(DWORD* out) const = 0;
   virtual ConfigResult SetCid(const DWORD* value) = 0;
 
-  /// The child `BypassedApps`. Optional.
+  /// `BypassedApps`: the applications to which the channel does not apply. Optional.
   virtual ConfigResult GetBypassedApps(IBypassedApps** out) = 0;
   virtual ConfigResult SetBypassedApps(const IBypassedApps* child) = 0;
 };
 
-/// Element `ILPRemovableMedia`: removable devices.
+/// Element `ILPRemovableMedia`: the rules for removable devices.
 class IILPRemovableMedia : public tolva::node::INode {
  public:
   virtual IILPRemovableMedia& CopyFrom(const IILPRemovableMedia& other) = 0;
 
-  /// `Sid`: an identifier of the channel, carried unchanged. Optional.
+  /// `Sid`: the first of the two identifiers of the channel. Optional.
   virtual ConfigResult GetSid(DWORD* out) const = 0;
   virtual ConfigResult SetSid(const DWORD* value) = 0;
 
-  /// `Cid`: another one, likewise. Optional.
+  /// `Cid`: the second of the two identifiers of the channel. Optional.
   virtual ConfigResult GetCid(DWORD* out) const = 0;
   virtual ConfigResult SetCid(const DWORD* value) = 0;
 
-  /// The rules: children `DeviceRule`.
+  /// `DeviceRule`: an action for a removable device. Repeated.
   virtual DWORD GetDeviceRuleCount() const = 0;
   virtual IDeviceRule* GetDeviceRuleAt(DWORD index) = 0;
   virtual ConfigResult AddDeviceRule(const IDeviceRule* item) = 0;
@@ -110,11 +115,11 @@ class IILPRemovableMedia : public tolva::node::INode {
   virtual void RemoveDeviceRuleAt(DWORD index) = 0;
   virtual void RemoveAllDeviceRule() = 0;
 
-  /// The child `BypassedApps`. Optional.
+  /// `BypassedApps`: the applications to which the channel does not apply. Optional.
   virtual ConfigResult GetBypassedApps(IBypassedApps** out) = 0;
   virtual ConfigResult SetBypassedApps(const IBypassedApps* child) = 0;
 
-  /// Children `OnlineApps`.
+  /// `OnlineApps`: an action for a set of applications and web addresses. Repeated.
   virtual DWORD GetOnlineAppsCount() const = 0;
   virtual IOnlineApps* GetOnlineAppsAt(DWORD index) = 0;
   virtual ConfigResult AddOnlineApps(const IOnlineApps* item) = 0;
@@ -123,20 +128,20 @@ class IILPRemovableMedia : public tolva::node::INode {
   virtual void RemoveAllOnlineApps() = 0;
 };
 
-/// Element `ILPRemoteMedia`: network shares.
+/// Element `ILPRemoteMedia`: the rules for network shares.
 class IILPRemoteMedia : public tolva::node::INode {
  public:
   virtual IILPRemoteMedia& CopyFrom(const IILPRemoteMedia& other) = 0;
 
-  /// `Sid`: an identifier of the channel, carried unchanged. Optional.
+  /// `Sid`: the first of the two identifiers of the channel. Optional.
   virtual ConfigResult GetSid(DWORD* out) const = 0;
   virtual ConfigResult SetSid(const DWORD* value) = 0;
 
-  /// `Cid`: another one, likewise. Optional.
+  /// `Cid`: the second of the two identifiers of the channel. Optional.
   virtual ConfigResult GetCid(DWORD* out) const = 0;
   virtual ConfigResult SetCid(const DWORD* value) = 0;
 
-  /// The rules: children `RemoteDriveRule`.
+  /// `RemoteDriveRule`: an action for a network share. Repeated.
   virtual DWORD GetRemoteDriveRuleCount() const = 0;
   virtual IRemoteDriveRule* GetRemoteDriveRuleAt(DWORD index) = 0;
   virtual ConfigResult AddRemoteDriveRule(const IRemoteDriveRule* item) = 0;
@@ -144,11 +149,11 @@ class IILPRemoteMedia : public tolva::node::INode {
   virtual void RemoveRemoteDriveRuleAt(DWORD index) = 0;
   virtual void RemoveAllRemoteDriveRule() = 0;
 
-  /// The child `BypassedApps`. Optional.
+  /// `BypassedApps`: the applications to which the channel does not apply. Optional.
   virtual ConfigResult GetBypassedApps(IBypassedApps** out) = 0;
   virtual ConfigResult SetBypassedApps(const IBypassedApps* child) = 0;
 
-  /// Children `OnlineApps`.
+  /// `OnlineApps`: an action for a set of applications and web addresses. Repeated.
   virtual DWORD GetOnlineAppsCount() const = 0;
   virtual IOnlineApps* GetOnlineAppsAt(DWORD index) = 0;
   virtual ConfigResult AddOnlineApps(const IOnlineApps* item) = 0;
@@ -157,7 +162,7 @@ class IILPRemoteMedia : public tolva::node::INode {
   virtual void RemoveAllOnlineApps() = 0;
 };
 
-// Each makes a node with default values, which the caller owns.
+// Each function returns a new node with default values, which the caller owns.
 TOLVA_API IDeviceRule* DeviceRule_CreateNewInstance();
 TOLVA_API IRemoteDriveRule* RemoteDriveRule_CreateNewInstance();
 TOLVA_API IILPFixedMedia* ILPFixedMedia_CreateNewInstance();

@@ -1,9 +1,9 @@
 // The channels of web traffic: rules for destinations, browser extensions, and the inline proxy
 // that intercepts traffic on the machine.
 //
-// Three elements go by another name in the document than here: ILPInLineProxy is "ILPInlineProxy",
-// ExcludeJSInjectDomains is "ExcludeJSInjectionDomains", and its ExcludeJSInjectDomain is
-// "ExcludeDomain".
+// Three elements have other names in a document than in this header: ILPInLineProxy is
+// "ILPInlineProxy", ExcludeJSInjectDomains is "ExcludeJSInjectionDomains", and its
+// ExcludeJSInjectDomain is "ExcludeDomain".
 #pragma once
 
 #include <string>
@@ -15,51 +15,56 @@
 
 namespace TolvaInterface {
 
-/// The values of `BrowserExtension`'s `BrowserName`.
+/// The values of the attribute `BrowserName` of `BrowserExtension`.
 enum BrowserName : DWORD {
   kBrowserNameChrome = 0,   ///< "CHROME"
   kBrowserNameFirefox = 1,  ///< "FIREFOX"
   kBrowserNameEdge = 2,     ///< "EDGE"
 };
 
-/// Element `WebAccessRule`: an action for a destination.
+/// Element `WebAccessRule`: an action for a web destination.
 class IWebAccessRule : public tolva::node::INode {
  public:
   virtual IWebAccessRule& CopyFrom(const IWebAccessRule& other) = 0;
 
-  /// `Action`: a RuleAction. Required.
+  /// `Action`: what happens to an operation: it is allowed, blocked, or left to the action of the
+  /// content policy. Required.
+  ///
+  /// The value is a RuleAction.
   virtual DWORD GetAction() const = 0;
   virtual ConfigResult SetAction(const DWORD* value) = 0;
 
-  /// `DestinationHost`: the destination. Optional.
+  /// `DestinationHost`: the host name of the destination. Optional.
   virtual ConfigResult GetDestinationHost(std::wstring* out) const = 0;
   virtual ConfigResult SetDestinationHost(const std::wstring* value) = 0;
 };
 
-/// Element `BrowserExtension`: the extension of one browser.
+/// Element `BrowserExtension`: the settings of the extension for one browser.
 class IBrowserExtension : public tolva::node::INode {
  public:
   virtual IBrowserExtension& CopyFrom(const IBrowserExtension& other) = 0;
 
-  /// `BrowserName`: which browser, a BrowserName. Required.
+  /// `BrowserName`: the browser. Required.
+  ///
+  /// The value is a BrowserName.
   virtual DWORD GetBrowserName() const = 0;
   virtual ConfigResult SetBrowserName(const DWORD* value) = 0;
 
-  /// `EnableExtension`: whether the extension is used. Required.
+  /// `EnableExtension`: 1 if the extension is enabled, 0 if not. Required.
   virtual DWORD GetEnableExtension() const = 0;
   virtual ConfigResult SetEnableExtension(const DWORD* value) = 0;
 
-  /// `EnableMonitorMode`: its monitoring mode, a switch. Optional.
+  /// `EnableMonitorMode`: 1 if the monitor mode of the extension is enabled, 0 if not. Optional.
   virtual ConfigResult GetEnableMonitorMode(DWORD* out) const = 0;
   virtual ConfigResult SetEnableMonitorMode(const DWORD* value) = 0;
 };
 
-/// Element `BrowserSettings`.
+/// Element `BrowserSettings`: the settings of the browser extensions.
 class IBrowserSettings : public tolva::node::INode {
  public:
   virtual IBrowserSettings& CopyFrom(const IBrowserSettings& other) = 0;
 
-  /// Children `BrowserExtension`.
+  /// `BrowserExtension`: the settings of the extension for one browser. Repeated.
   virtual DWORD GetBrowserExtensionCount() const = 0;
   virtual IBrowserExtension* GetBrowserExtensionAt(DWORD index) = 0;
   virtual ConfigResult AddBrowserExtension(const IBrowserExtension* item) = 0;
@@ -68,20 +73,20 @@ class IBrowserSettings : public tolva::node::INode {
   virtual void RemoveAllBrowserExtension() = 0;
 };
 
-/// Element `ILPWebApp`: the web.
+/// Element `ILPWebApp`: the rules for web traffic.
 class IILPWebApp : public tolva::node::INode {
  public:
   virtual IILPWebApp& CopyFrom(const IILPWebApp& other) = 0;
 
-  /// `Sid`: an identifier of the channel, carried unchanged. Optional.
+  /// `Sid`: the first of the two identifiers of the channel. Optional.
   virtual ConfigResult GetSid(DWORD* out) const = 0;
   virtual ConfigResult SetSid(const DWORD* value) = 0;
 
-  /// `Cid`: another one, likewise. Optional.
+  /// `Cid`: the second of the two identifiers of the channel. Optional.
   virtual ConfigResult GetCid(DWORD* out) const = 0;
   virtual ConfigResult SetCid(const DWORD* value) = 0;
 
-  /// The rules: children `WebAccessRule`.
+  /// `WebAccessRule`: an action for a web destination. Repeated.
   virtual DWORD GetWebAccessRuleCount() const = 0;
   virtual IWebAccessRule* GetWebAccessRuleAt(DWORD index) = 0;
   virtual ConfigResult AddWebAccessRule(const IWebAccessRule* item) = 0;
@@ -89,7 +94,7 @@ class IILPWebApp : public tolva::node::INode {
   virtual void RemoveWebAccessRuleAt(DWORD index) = 0;
   virtual void RemoveAllWebAccessRule() = 0;
 
-  /// Children `OnlineApps`.
+  /// `OnlineApps`: an action for a set of applications and web addresses. Repeated.
   virtual DWORD GetOnlineAppsCount() const = 0;
   virtual IOnlineApps* GetOnlineAppsAt(DWORD index) = 0;
   virtual ConfigResult AddOnlineApps(const IOnlineApps* item) = 0;
@@ -97,7 +102,7 @@ class IILPWebApp : public tolva::node::INode {
   virtual void RemoveOnlineAppsAt(DWORD index) = 0;
   virtual void RemoveAllOnlineApps() = 0;
 
-  /// The child `BrowserSettings`. Optional.
+  /// `BrowserSettings`: the settings of the browser extensions. Optional.
   virtual ConfigResult GetBrowserSettings(IBrowserSettings** out) = 0;
   virtual ConfigResult SetBrowserSettings(const IBrowserSettings* child) = 0;
 };
@@ -107,7 +112,7 @@ class IIncludeApps : public tolva::node::INode {
  public:
   virtual IIncludeApps& CopyFrom(const IIncludeApps& other) = 0;
 
-  /// The applications: children `ArCondition`.
+  /// `ArCondition`: an application whose traffic is intercepted. Repeated.
   virtual DWORD GetArConditionCount() const = 0;
   virtual IArCondition* GetArConditionAt(DWORD index) = 0;
   virtual ConfigResult AddArCondition(const IArCondition* item) = 0;
@@ -126,12 +131,12 @@ class IExcludeDomain : public tolva::node::INode {
   virtual ConfigResult SetURL(const std::wstring* value) = 0;
 };
 
-/// Element `ExcludeDomains`.
+/// Element `ExcludeDomains`: the domains whose traffic is not intercepted.
 class IExcludeDomains : public tolva::node::INode {
  public:
   virtual IExcludeDomains& CopyFrom(const IExcludeDomains& other) = 0;
 
-  /// Children `ExcludeDomain`.
+  /// `ExcludeDomain`: a domain whose traffic is not intercepted. Repeated.
   virtual DWORD GetExcludeDomainCount() const = 0;
   virtual IExcludeDomain* GetExcludeDomainAt(DWORD index) = 0;
   virtual ConfigResult AddExcludeDomain(const IExcludeDomain* item) = 0;
@@ -140,7 +145,8 @@ class IExcludeDomains : public tolva::node::INode {
   virtual void RemoveAllExcludeDomain() = 0;
 };
 
-/// Element `ExcludeDomain` of `ExcludeJSInjectionDomains`: a domain whose pages get no script.
+/// Element `ExcludeDomain` of `ExcludeJSInjectionDomains`: a domain whose pages get no injected
+/// script.
 class IExcludeJSInjectDomain : public tolva::node::INode {
  public:
   virtual IExcludeJSInjectDomain& CopyFrom(const IExcludeJSInjectDomain& other) = 0;
@@ -150,13 +156,15 @@ class IExcludeJSInjectDomain : public tolva::node::INode {
   virtual ConfigResult SetURL(const std::wstring* value) = 0;
 };
 
-/// Element `ExcludeJSInjectionDomains`. Its list is filled by reading and by copying a whole one. A
-/// write that fails gives -101 without a text of its own.
+/// Element `ExcludeJSInjectionDomains`: the domains whose pages get no injected script.
+///
+/// Only a read, or a copy of the whole list, adds items. If a write fails, it returns -101 without
+/// a diagnostic of its own.
 class IExcludeJSInjectDomains : public tolva::node::INode {
  public:
   virtual IExcludeJSInjectDomains& CopyFrom(const IExcludeJSInjectDomains& other) = 0;
 
-  /// Children `ExcludeDomain`.
+  /// `ExcludeDomain`: a domain whose pages get no injected script. Repeated.
   virtual DWORD GetExcludeJSInjectDomainCount() const = 0;
   virtual IExcludeJSInjectDomain* GetExcludeJSInjectDomainAt(DWORD index) = 0;
   virtual void RemoveAllExcludeJSInjectDomain() = 0;
@@ -169,11 +177,11 @@ class ILocalProxy : public tolva::node::INode {
  public:
   virtual ILocalProxy& CopyFrom(const ILocalProxy& other) = 0;
 
-  /// `IP`: its address. Optional.
+  /// `IP`: the IP address of the proxy. Optional.
   virtual ConfigResult GetIP(std::wstring* out) const = 0;
   virtual ConfigResult SetIP(const std::wstring* value) = 0;
 
-  /// `Port`: its port, as text. Optional.
+  /// `Port`: the port of the proxy, as text. Optional.
   virtual ConfigResult GetPort(std::wstring* out) const = 0;
   virtual ConfigResult SetPort(const std::wstring* value) = 0;
 #if defined(_WIN32)
@@ -183,12 +191,12 @@ class ILocalProxy : public tolva::node::INode {
 };
 #pragma pop_macro("SetPort")
 
-/// Element `LocalProxies`.
+/// Element `LocalProxies`: the proxies on the machine.
 class ILocalProxies : public tolva::node::INode {
  public:
   virtual ILocalProxies& CopyFrom(const ILocalProxies& other) = 0;
 
-  /// Children `LocalProxy`.
+  /// `LocalProxy`: a proxy on the machine. Repeated.
   virtual DWORD GetLocalProxyCount() const = 0;
   virtual ILocalProxy* GetLocalProxyAt(DWORD index) = 0;
   virtual ConfigResult AddLocalProxy(const ILocalProxy* item) = 0;
@@ -197,47 +205,50 @@ class ILocalProxies : public tolva::node::INode {
   virtual void RemoveAllLocalProxy() = 0;
 };
 
-/// Element `ILPInlineProxy`: the interception of web traffic on the machine. It exists only within
-/// an `ILPProtection` and has no factory.
+/// Element `ILPInlineProxy`: the interception of web traffic on the machine.
 ///
-/// Its `Clear` sets the three switches to 0 and clears the four children, but leaves all of them as
-/// present or absent as they were, and so does a read: a child that one document had is there, and
-/// empty, after the next one that has none. A switch that a document does not mention reads as 1,
-/// and is present from then on.
+/// The element exists only within an `ILPProtection` and has no factory.
+///
+/// `Clear` sets the three switches to 0 and clears the four children, but does not change which of
+/// them are present; nor does a read remove any. A child that one document had is still present,
+/// and empty, after a read of a document without it. A switch that a document does not have reads
+/// as 1, and is present from then on.
 class IILPInLineProxy : public tolva::node::INode {
  public:
   virtual IILPInLineProxy& CopyFrom(const IILPInLineProxy& other) = 0;
 
-  /// `Enable`: whether traffic is intercepted. Optional; absent in a document: 1.
+  /// `Enable`: 1 if web traffic is intercepted, 0 if not. If the attribute is absent, 1 applies.
+  /// Optional.
   virtual ConfigResult GetEnable(DWORD* out) const = 0;
   virtual ConfigResult SetEnable(const DWORD* value) = 0;
 
-  /// `EnableDriverWebTraffic`: a switch, carried unchanged. Optional; absent in a document: 1.
+  /// `EnableDriverWebTraffic`: a switch, 1 for on or 0 for off. If the attribute is absent, 1
+  /// applies. Optional.
   virtual ConfigResult GetEnableDriverWebTraffic(DWORD* out) const = 0;
   virtual ConfigResult SetEnableDriverWebTraffic(const DWORD* value) = 0;
 
-  /// `SystemPAC`: a switch, carried unchanged. Optional; absent in a document: 1.
+  /// `SystemPAC`: a switch, 1 for on or 0 for off. If the attribute is absent, 1 applies. Optional.
   virtual ConfigResult GetSystemPAC(DWORD* out) const = 0;
   virtual ConfigResult SetSystemPAC(const DWORD* value) = 0;
 
-  /// The child `IncludeApps`. Optional.
+  /// `IncludeApps`: the applications whose traffic is intercepted. Optional.
   virtual ConfigResult GetIncludeApps(IIncludeApps** out) = 0;
   virtual ConfigResult SetIncludeApps(const IIncludeApps* child) = 0;
 
-  /// The child `ExcludeDomains`. Optional.
+  /// `ExcludeDomains`: the domains whose traffic is not intercepted. Optional.
   virtual ConfigResult GetExcludeDomains(IExcludeDomains** out) = 0;
   virtual ConfigResult SetExcludeDomains(const IExcludeDomains* child) = 0;
 
-  /// The child `LocalProxies`. Optional.
+  /// `LocalProxies`: the proxies on the machine. Optional.
   virtual ConfigResult GetLocalProxies(ILocalProxies** out) = 0;
   virtual ConfigResult SetLocalProxies(const ILocalProxies* child) = 0;
 
-  /// The child `ExcludeJSInjectionDomains`. Optional.
+  /// `ExcludeJSInjectionDomains`: the domains whose pages get no injected script. Optional.
   virtual ConfigResult GetExcludeJSInjectDomains(IExcludeJSInjectDomains** out) = 0;
   virtual ConfigResult SetExcludeJSInjectDomains(const IExcludeJSInjectDomains* child) = 0;
 };
 
-// Each makes a node with default values, which the caller owns.
+// Each function returns a new node with default values, which the caller owns.
 TOLVA_API IWebAccessRule* WebAccessRule_CreateNewInstance();
 TOLVA_API IBrowserExtension* BrowserExtension_CreateNewInstance();
 TOLVA_API IBrowserSettings* BrowserSettings_CreateNewInstance();
