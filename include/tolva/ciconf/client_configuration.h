@@ -1,7 +1,5 @@
 // The CI client configuration: the servers that the client connects to, and what its user sees of
-// it.
-//
-// Units are the agent's; numbers are signed.
+// it. Numbers are signed; the agent defines their units.
 #pragma once
 
 #include <string>
@@ -13,26 +11,26 @@
 
 namespace CIConfInterface {
 
-/// Element `EIMServer`.
+/// Element `EIMServer`: a server that the client connects to.
 class IEIMServer : public tolva::node::INode {
  public:
   virtual IEIMServer& CopyFrom(const IEIMServer& other) = 0;
 
-  /// `HostName`: the server's host name. Required.
+  /// `HostName`: the host name of the server. Required.
   virtual const std::wstring& GetHostName() const = 0;
   virtual ConfigResult SetHostName(const std::wstring* value) = 0;
 
-  /// `PortNumber`: its port. Required.
+  /// `PortNumber`: the port number of the server. Required.
   virtual DWORD GetPortNumber() const = 0;
   virtual ConfigResult SetPortNumber(const DWORD* value) = 0;
 };
 
-/// Element `EIMServerArray`.
+/// Element `EIMServerArray`: the servers that the client connects to.
 class IEIMServerArray : public tolva::node::INode {
  public:
   virtual IEIMServerArray& CopyFrom(const IEIMServerArray& other) = 0;
 
-  /// Children `EIMServer`.
+  /// `EIMServer`: a server that the client connects to. Repeated.
   virtual DWORD GetEIMServerCount() const = 0;
   virtual IEIMServer* GetEIMServerAt(DWORD index) = 0;
   virtual ConfigResult AddEIMServer(const IEIMServer* item) = 0;
@@ -41,99 +39,106 @@ class IEIMServerArray : public tolva::node::INode {
   virtual void RemoveAllEIMServer() = 0;
 };
 
-/// Element `EIMConnection`.
+/// Element `EIMConnection`: the connection to the EIM servers.
 class IEIMConnection : public tolva::node::INode {
  public:
   virtual IEIMConnection& CopyFrom(const IEIMConnection& other) = 0;
 
-  /// The child `EIMServerArray`. Required.
+  /// `EIMServerArray`: the servers that the client connects to. Required.
   virtual IEIMServerArray* GetEIMServerArray() = 0;
   virtual ConfigResult SetEIMServerArray(const IEIMServerArray* child) = 0;
 };
 
-/// Element `Connection`.
+/// Element `Connection`: how the client connects to its servers.
 class IConnection : public tolva::node::INode {
  public:
   virtual IConnection& CopyFrom(const IConnection& other) = 0;
 
-  /// `DoNotSendUserName`. Required.
+  /// `DoNotSendUserName`: 1 if the client does not send the name of the user, 0 if it does.
+  /// Required.
   virtual DWORD GetDoNotSendUserName() const = 0;
   virtual ConfigResult SetDoNotSendUserName(const DWORD* value) = 0;
 
-  /// `FailClosed`. Required.
+  /// `FailClosed`: 1 if the client fails closed, 0 if not. Required.
   virtual DWORD GetFailClosed() const = 0;
   virtual ConfigResult SetFailClosed(const DWORD* value) = 0;
 
-  /// The child `EIMConnection`. Required.
+  /// `EIMConnection`: the connection to the EIM servers. Required.
   virtual IEIMConnection* GetEIMConnection() = 0;
   virtual ConfigResult SetEIMConnection(const IEIMConnection* child) = 0;
 };
 
-/// Element `UserInterface`.
+/// Element `UserInterface`: what the user sees of the client.
 class IUserInterface : public tolva::node::INode {
  public:
   virtual IUserInterface& CopyFrom(const IUserInterface& other) = 0;
 
-  /// `UISilentMode`: whether the user sees nothing of the client. Required.
+  /// `UISilentMode`: 1 if the user interface is in silent mode, 0 if not. Required.
   virtual DWORD GetUISilentMode() const = 0;
   virtual ConfigResult SetUISilentMode(const DWORD* value) = 0;
 
-  /// `DisplayHTTPSBlockMsg`. Required.
+  /// `DisplayHTTPSBlockMsg`: 1 if a message is displayed when HTTPS traffic is blocked, 0 if not.
+  /// Required.
   virtual DWORD GetDisplayHTTPSBlockMsg() const = 0;
   virtual ConfigResult SetDisplayHTTPSBlockMsg(const DWORD* value) = 0;
 
-  /// `HTTPSBlockMsgInterval`. Required.
+  /// `HTTPSBlockMsgInterval`: the interval between two messages about blocked HTTPS traffic.
+  /// Required.
   virtual DWORD GetHTTPSBlockMsgInterval() const = 0;
   virtual ConfigResult SetHTTPSBlockMsgInterval(const DWORD* value) = 0;
 
-  /// `DisplayFTPBlockMsg`. Required.
+  /// `DisplayFTPBlockMsg`: 1 if a message is displayed when FTP traffic is blocked, 0 if not.
+  /// Required.
   virtual DWORD GetDisplayFTPBlockMsg() const = 0;
   virtual ConfigResult SetDisplayFTPBlockMsg(const DWORD* value) = 0;
 
-  /// `FTPBlockMsgInterval`. Required.
+  /// `FTPBlockMsgInterval`: the interval between two messages about blocked FTP traffic. Required.
   virtual DWORD GetFTPBlockMsgInterval() const = 0;
   virtual ConfigResult SetFTPBlockMsgInterval(const DWORD* value) = 0;
 
-  /// `UITimeout`. Required.
+  /// `UITimeout`: the timeout of the user interface. Required.
   virtual DWORD GetUITimeout() const = 0;
   virtual ConfigResult SetUITimeout(const DWORD* value) = 0;
 };
 
-/// Element `ClientSetting`.
+/// Element `ClientSetting`: the client's own settings.
 class IClientSetting : public tolva::node::INode {
  public:
   virtual IClientSetting& CopyFrom(const IClientSetting& other) = 0;
 
-  /// `EnableTamperProtection`: whether the agent defends itself. Optional.
+  /// `EnableTamperProtection`: 1 if the agent protects itself against tampering, 0 if not.
+  /// Optional.
   virtual ConfigResult GetEnableTamperProtection(DWORD* out) const = 0;
   virtual ConfigResult SetEnableTamperProtection(const DWORD* value) = 0;
 
-  /// `EnableTelemetry`: whether telemetry is collected. Optional; after `Clear`, and when a
-  /// document does not mention it, it is present and 0.
+  /// `EnableTelemetry`: 1 if telemetry is collected, 0 if not. If the attribute is absent, 0
+  /// applies. Optional.
+  ///
+  /// After `Clear`, and after a read of a document without it, the attribute is present and 0.
   virtual ConfigResult GetEnableTelemetry(DWORD* out) const = 0;
   virtual ConfigResult SetEnableTelemetry(const DWORD* value) = 0;
 
-  /// The child `UserInterface`. Required.
+  /// `UserInterface`: what the user sees of the client. Required.
   virtual IUserInterface* GetUserInterface() = 0;
   virtual ConfigResult SetUserInterface(const IUserInterface* child) = 0;
 };
 
-/// Element `URLCondition`.
+/// Element `URLCondition`: a trusted site.
 class IURLCondition : public tolva::node::INode {
  public:
   virtual IURLCondition& CopyFrom(const IURLCondition& other) = 0;
 
-  /// `SiteURL`: the site's address. Required.
+  /// `SiteURL`: the URL of the site. Required.
   virtual const std::wstring& GetSiteURL() const = 0;
   virtual ConfigResult SetSiteURL(const std::wstring* value) = 0;
 };
 
-/// Element `TrustedSites`.
+/// Element `TrustedSites`: the sites that are trusted.
 class ITrustedSites : public tolva::node::INode {
  public:
   virtual ITrustedSites& CopyFrom(const ITrustedSites& other) = 0;
 
-  /// Children `URLCondition`.
+  /// `URLCondition`: a trusted site. Repeated.
   virtual DWORD GetURLConditionCount() const = 0;
   virtual IURLCondition* GetURLConditionAt(DWORD index) = 0;
   virtual ConfigResult AddURLCondition(const IURLCondition* item) = 0;
@@ -142,23 +147,23 @@ class ITrustedSites : public tolva::node::INode {
   virtual void RemoveAllURLCondition() = 0;
 };
 
-/// Element `ICIClientConfiguration`, the root.
+/// Element `ICIClientConfiguration`: the root of the CI client configuration.
 class ICIClientConfiguration : public tolva::node::IConfigurationRoot<ICIClientConfiguration> {
  public:
-  /// The child `Connection`. Required.
+  /// `Connection`: how the client connects to its servers. Required.
   virtual IConnection* GetConnection() = 0;
   virtual ConfigResult SetConnection(const IConnection* child) = 0;
 
-  /// The child `ClientSetting`. Required.
+  /// `ClientSetting`: the client's own settings. Required.
   virtual IClientSetting* GetClientSetting() = 0;
   virtual ConfigResult SetClientSetting(const IClientSetting* child) = 0;
 
-  /// The child `TrustedSites`. Optional.
+  /// `TrustedSites`: the sites that are trusted. Optional.
   virtual ConfigResult GetTrustedSites(ITrustedSites** out) = 0;
   virtual ConfigResult SetTrustedSites(const ITrustedSites* child) = 0;
 };
 
-// Each makes a node with default values, which the caller owns.
+// Each function returns a new node with default values, which the caller owns.
 TOLVA_API IEIMServer* EIMServer_CreateNewInstance();
 TOLVA_API IEIMServerArray* EIMServerArray_CreateNewInstance();
 TOLVA_API IEIMConnection* EIMConnection_CreateNewInstance();

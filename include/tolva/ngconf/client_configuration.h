@@ -1,7 +1,6 @@
-// The NG client configuration: how the agent is managed, where it reports, which users see it, and
-// what it adds to its requests.
-//
-// Units are the agent's; numbers are unsigned.
+// The NG client configuration: how the agent is managed, where it reports, which users see its tray
+// icon menu, and which headers it adds to its requests. Numbers are unsigned; the agent defines
+// their units.
 #pragma once
 
 #include <string>
@@ -15,38 +14,40 @@
 
 namespace NGConfInterface {
 
-/// Element `ServerCommunication`: the management server.
+/// Element `ServerCommunication`: the communication with the management server.
 class IServerCommunication : public tolva::node::INode {
  public:
   virtual IServerCommunication& CopyFrom(const IServerCommunication& other) = 0;
 
-  /// `ManagementQueryInterval`: how often it is asked. Required.
+  /// `ManagementQueryInterval`: the interval between two queries of the management server.
+  /// Required.
   virtual DWORD GetManagementQueryInterval() const = 0;
   virtual ConfigResult SetManagementQueryInterval(const DWORD* value) = 0;
 
-  /// `ManagementServerHostname`: its host name. Required.
+  /// `ManagementServerHostname`: the host name of the management server. Required.
   virtual const std::wstring& GetManagementServerHostname() const = 0;
   virtual ConfigResult SetManagementServerHostname(const std::wstring* value) = 0;
 };
 
-/// Element `LogReport`: where logs are reported.
+/// Element `LogReport`: where the agent reports its logs, and how often.
 class ILogReport : public tolva::node::INode {
  public:
   virtual ILogReport& CopyFrom(const ILogReport& other) = 0;
 
-  /// `LogReportInterval`. Required.
+  /// `LogReportInterval`: the interval between two reports. Required.
   virtual DWORD GetLogReportInterval() const = 0;
   virtual ConfigResult SetLogReportInterval(const DWORD* value) = 0;
 
-  /// `LogReportServerHostname`. Required.
+  /// `LogReportServerHostname`: the host name of the server that receives the logs. Required.
   virtual const std::wstring& GetLogReportServerHostname() const = 0;
   virtual ConfigResult SetLogReportServerHostname(const std::wstring* value) = 0;
 
-  /// `MaxUploadSize`. Required.
+  /// `MaxUploadSize`: the largest size of an upload. Required.
   virtual DWORD GetMaxUploadSize() const = 0;
   virtual ConfigResult SetMaxUploadSize(const DWORD* value) = 0;
 
-  /// `EventLogReportServerHostname`. Optional.
+  /// `EventLogReportServerHostname`: the host name of the server that receives the event logs.
+  /// Optional.
   virtual ConfigResult GetEventLogReportServerHostname(std::wstring* out) const = 0;
   virtual ConfigResult SetEventLogReportServerHostname(const std::wstring* value) = 0;
 };
@@ -56,21 +57,21 @@ class INGUser : public tolva::node::INode {
  public:
   virtual INGUser& CopyFrom(const INGUser& other) = 0;
 
-  /// `Name`: the user's name. Required.
+  /// `Name`: the name of the user. Required.
   virtual const std::wstring& GetName() const = 0;
   virtual ConfigResult SetName(const std::wstring* value) = 0;
 
-  /// `EnableTrayIconMenu`: whether this user's tray icon has a menu. Required.
+  /// `EnableTrayIconMenu`: 1 if the user sees the menu of the tray icon, 0 if not. Required.
   virtual DWORD GetEnableTrayIconMenu() const = 0;
   virtual ConfigResult SetEnableTrayIconMenu(const DWORD* value) = 0;
 };
 
-/// Element `NGUserSetting`.
+/// Element `NGUserSetting`: the settings of local users.
 class INGUserSetting : public tolva::node::INode {
  public:
   virtual INGUserSetting& CopyFrom(const INGUserSetting& other) = 0;
 
-  /// Children `NGUser`.
+  /// `NGUser`: a local user. Repeated.
   virtual DWORD GetNGUserCount() const = 0;
   virtual INGUser* GetNGUserAt(DWORD index) = 0;
   virtual ConfigResult AddNGUser(const INGUser* item) = 0;
@@ -79,76 +80,81 @@ class INGUserSetting : public tolva::node::INode {
   virtual void RemoveAllNGUser() = 0;
 };
 
-/// Element `NGFirefoxSetting`.
+/// Element `NGFirefoxSetting`: the names of the Firefox configuration files.
 class INGFirefoxSetting : public tolva::node::IBrowserFiles<INGFirefoxSetting> {};
 
-/// Element `ClientManagement`. Its child `ActiveDirectory` is reached through the accessors of its
-/// presence and of the two attributes of its `DefaultDomain`.
+/// Element `ClientManagement`: how the agent is managed, and where it reports.
 class IClientManagement : public tolva::node::INode {
  public:
   virtual IClientManagement& CopyFrom(const IClientManagement& other) = 0;
 
-  /// `EnableTrayIconMenu`: whether the tray icon has a menu. Optional.
+  /// `EnableTrayIconMenu`: 1 if users see the menu of the tray icon, 0 if not. The setting applies
+  /// to the whole document. Optional.
   virtual ConfigResult GetEnableTrayIconMenu(DWORD* out) const = 0;
   virtual ConfigResult SetEnableTrayIconMenu(const DWORD* value) = 0;
 
-  /// A number that belongs to the node alone: it is copied with it, but neither written nor read,
-  /// and `Clear` leaves it as it was. Optional.
+  /// An optional number that belongs to the node only. `CopyFrom` copies it. It is neither written
+  /// nor read, and `Clear` keeps it.
   virtual ConfigResult GetReservedSetting(DWORD* out) const = 0;
   virtual ConfigResult SetReservedSetting(const DWORD* value) = 0;
 
-  /// Whether the child `ActiveDirectory` is present: 0 when not, any other number, kept as given,
-  /// when it is. Absent, it keeps what it holds. Both return 0; setting null stores 0.
+  /// `ActiveDirectory`: the agent's Active Directory settings. Optional.
+  ///
+  /// The child itself has no accessors. This pair gets and sets whether it is present: 0 if it is
+  /// not, any other number if it is. The number is kept as given; null stores 0. An absent child
+  /// keeps its content. Both functions return 0.
   virtual ConfigResult GetActiveDirectoryPresent(DWORD* out) const = 0;
   virtual ConfigResult SetActiveDirectoryPresent(const DWORD* value) = 0;
 
-  /// `Enabled` of the child's `DefaultDomain`, whether the child is present or not: an absent one
-  /// stays so. Both return 0; null sets nothing.
+  /// The attribute `Enabled` of the child's `DefaultDomain`, whether or not the child is present.
+  /// Setting it does not make the child present; null is ignored. Both functions return 0.
   virtual ConfigResult GetDefaultDomainEnabled(DWORD* out) const = 0;
   virtual ConfigResult SetDefaultDomainEnabled(const DWORD* value) = 0;
 
-  /// `Name` of the child's `DefaultDomain`. The getter returns 1 when the child is absent. Setting
-  /// a name makes the child present, null makes it absent; both return 0.
+  /// The attribute `Name` of the child's `DefaultDomain`. The getter returns 1 if the child is
+  /// absent. Setting a name makes the child present, and null makes it absent; the setter returns
+  /// 0.
   virtual ConfigResult GetDefaultDomainName(std::wstring* out) const = 0;
   virtual ConfigResult SetDefaultDomainName(const std::wstring* value) = 0;
 
-  /// The child `ServerCommunication`. Required.
+  /// `ServerCommunication`: the communication with the management server. Required.
   virtual IServerCommunication* GetServerCommunication() = 0;
   virtual ConfigResult SetServerCommunication(const IServerCommunication* child) = 0;
 
-  /// The child `LogReport`. Required.
+  /// `LogReport`: where the agent reports its logs, and how often. Required.
   virtual ILogReport* GetLogReport() = 0;
   virtual ConfigResult SetLogReport(const ILogReport* child) = 0;
 
-  /// The child `NGUserSetting`. Optional.
+  /// `NGUserSetting`: the settings of local users. Optional.
   virtual ConfigResult GetNGUserSetting(INGUserSetting** out) = 0;
   virtual ConfigResult SetNGUserSetting(const INGUserSetting* child) = 0;
 
-  /// The child `NGFirefoxSetting`. Optional.
+  /// `NGFirefoxSetting`: the names of the Firefox configuration files. Optional.
   virtual ConfigResult GetNGFirefoxSetting(INGFirefoxSetting** out) = 0;
   virtual ConfigResult SetNGFirefoxSetting(const INGFirefoxSetting* child) = 0;
 };
 
-/// Element `HTTPHeader`: a header of requests to the cloud service.
+/// Element `HTTPHeader`: a header that the agent adds to its requests to the cloud service.
 class IHTTPHeader : public tolva::node::INode {
  public:
   virtual IHTTPHeader& CopyFrom(const IHTTPHeader& other) = 0;
 
-  /// `HeaderName`: its name. Required.
+  /// `HeaderName`: the name of the header. Required.
   virtual const std::wstring& GetHeaderName() const = 0;
   virtual ConfigResult SetHeaderName(const std::wstring* value) = 0;
 
-  /// `HeaderValue`: its value. Required.
+  /// `HeaderValue`: the value of the header. Required.
   virtual const std::wstring& GetHeaderValue() const = 0;
   virtual ConfigResult SetHeaderValue(const std::wstring* value) = 0;
 };
 
-/// Element `HTTPRequestHeaders`.
+/// Element `HTTPRequestHeaders`: the headers that the agent adds to its requests to the cloud
+/// service.
 class IHTTPRequestHeaders : public tolva::node::INode {
  public:
   virtual IHTTPRequestHeaders& CopyFrom(const IHTTPRequestHeaders& other) = 0;
 
-  /// Children `HTTPHeader`.
+  /// `HTTPHeader`: a header that the agent adds. Repeated.
   virtual DWORD GetHTTPHeaderCount() const = 0;
   virtual IHTTPHeader* GetHTTPHeaderAt(DWORD index) = 0;
   virtual ConfigResult AddHTTPHeader(const IHTTPHeader* item) = 0;
@@ -157,33 +163,35 @@ class IHTTPRequestHeaders : public tolva::node::INode {
   virtual void RemoveAllHTTPHeader() = 0;
 };
 
-/// Element `CloudServerComunication` (its name has one m).
+/// Element `CloudServerComunication`: the communication with the cloud service.
+///
+/// The name is spelled with one m in documents, too.
 class ICloudServerComunication : public tolva::node::INode {
  public:
   virtual ICloudServerComunication& CopyFrom(const ICloudServerComunication& other) = 0;
 
-  /// The child `HTTPRequestHeaders`. Required.
+  /// `HTTPRequestHeaders`: the headers that the agent adds to its requests. Required.
   virtual IHTTPRequestHeaders* GetHTTPRequestHeaders() = 0;
   virtual ConfigResult SetHTTPRequestHeaders(const IHTTPRequestHeaders* child) = 0;
 };
 
-/// Element `INGClientConfiguration`, the root.
+/// Element `INGClientConfiguration`: the root of the NG client configuration.
 class IINGClientConfiguration : public tolva::node::IConfigurationRoot<IINGClientConfiguration> {
  public:
-  /// The child `ClientManagement`. Required.
+  /// `ClientManagement`: how the agent is managed, and where it reports. Required.
   virtual IClientManagement* GetClientManagement() = 0;
   virtual ConfigResult SetClientManagement(const IClientManagement* child) = 0;
 
-  /// The child `ScanEngineConfiguration`. Required.
+  /// `ScanEngineConfiguration`: the settings of the local web scan engine. Required.
   virtual IScanEngineConfiguration* GetScanEngineConfiguration() = 0;
   virtual ConfigResult SetScanEngineConfiguration(const IScanEngineConfiguration* child) = 0;
 
-  /// The child `CloudServerComunication`. Optional.
+  /// `CloudServerComunication`: the communication with the cloud service. Optional.
   virtual ConfigResult GetCloudServerComunication(ICloudServerComunication** out) = 0;
   virtual ConfigResult SetCloudServerComunication(const ICloudServerComunication* child) = 0;
 };
 
-// Each makes a node with default values, which the caller owns.
+// Each function returns a new node with default values, which the caller owns.
 TOLVA_API IServerCommunication* ServerCommunication_CreateNewInstance();
 TOLVA_API ILogReport* LogReport_CreateNewInstance();
 TOLVA_API INGUser* NGUser_CreateNewInstance();

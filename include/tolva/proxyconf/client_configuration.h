@@ -1,7 +1,6 @@
-// The proxy client configuration: the PAC file, the applications exempt from it, the client's own
-// settings, the proxy settings of the machine and its users, and log upload.
-//
-// Units are the agent's; numbers are unsigned.
+// The proxy client configuration: the PAC file, the applications that are exempt from the proxy,
+// the client's own settings, the proxy settings of the machine and its users, and the upload of
+// logs. Numbers are unsigned; the agent defines their units.
 #pragma once
 
 #include <string>
@@ -15,62 +14,65 @@
 
 namespace ProxyClientConfig {
 
-/// Element `PACFile`.
+/// Element `PACFile`: the proxy auto-configuration (PAC) file.
 class IPACFile : public tolva::node::INode {
  public:
   virtual IPACFile& CopyFrom(const IPACFile& other) = 0;
 
-  /// `URL`: the file's address. Required.
+  /// `URL`: the URL of the file. Required.
   virtual const std::wstring& GetURL() const = 0;
   virtual ConfigResult SetURL(const std::wstring* value) = 0;
 };
 
-/// Element `AppWhiteList`.
+/// Element `AppWhiteList`: the applications that are exempt from the proxy.
 class IAppWhiteList : public tolva::node::INode {
  public:
   virtual IAppWhiteList& CopyFrom(const IAppWhiteList& other) = 0;
 
-  /// `AppNames`: the applications exempt from the proxy, as one text. Optional.
+  /// `AppNames`: the names of the applications, as one text. Optional.
   virtual ConfigResult GetAppNames(std::wstring* out) const = 0;
   virtual ConfigResult SetAppNames(const std::wstring* value) = 0;
 };
 
-/// Element `ProxySetting`.
+/// Element `ProxySetting`: the proxy, and the applications that are exempt from it.
 class IProxySetting : public tolva::node::INode {
  public:
   virtual IProxySetting& CopyFrom(const IProxySetting& other) = 0;
 
-  /// The child `PACFile`. Required.
+  /// `PACFile`: the proxy auto-configuration (PAC) file. Required.
   virtual IPACFile* GetPACFile() = 0;
   virtual ConfigResult SetPACFile(const IPACFile* child) = 0;
 
-  /// The child `AppWhiteList`. Optional.
+  /// `AppWhiteList`: the applications that are exempt from the proxy. Optional.
   virtual ConfigResult GetAppWhiteList(IAppWhiteList** out) = 0;
   virtual ConfigResult SetAppWhiteList(const IAppWhiteList* child) = 0;
 
-  /// Whether the child `ActiveDirectory` is present: 0 when not, any other number, kept as given,
-  /// when it is. Absent, it keeps what it holds. Both return 0; setting null stores 0.
+  /// Whether the child `ActiveDirectory` is present: 0 if it is not, any other number if it is. The
+  /// number is kept as given; null stores 0. An absent child keeps its content. Both functions
+  /// return 0.
   virtual ConfigResult SetActiveDirectoryPresent(const DWORD* value) = 0;
   virtual ConfigResult GetActiveDirectoryPresent(DWORD* out) const = 0;
 
-  /// The child `ActiveDirectory`. Optional; the getter hands it out, with 0, even when it is
-  /// absent, and to fill it does not make it present. It is copied through its `DefaultDomain`.
-  /// Null makes it absent, with a diagnostic and -101.
+  /// `ActiveDirectory`: the agent's Active Directory settings. Optional.
+  ///
+  /// The getter stores the child and returns 0 even if the child is absent; changing it then does
+  /// not make it present. The setter copies the `DefaultDomain` of the child, which the child's own
+  /// `CopyFrom` does not. Null makes the child absent, with a diagnostic and -101.
   virtual ConfigResult GetActiveDirectory(ClientConfig::IActiveDirectory** out) = 0;
   virtual ConfigResult SetActiveDirectory(const ClientConfig::IActiveDirectory* child) = 0;
 };
 
-/// Element `UserInterface`.
+/// Element `UserInterface`: what the user sees of the client.
 class IUserInterface : public tolva::node::INode {
  public:
   virtual IUserInterface& CopyFrom(const IUserInterface& other) = 0;
 
-  /// `UISilentMode`: whether the user sees nothing of the client. Optional.
+  /// `UISilentMode`: 1 if the user interface is in silent mode, 0 if not. Optional.
   virtual ConfigResult GetUISilentMode(DWORD* out) const = 0;
   virtual ConfigResult SetUISilentMode(const DWORD* value) = 0;
 };
 
-/// Element `Download`.
+/// Element `Download`: the download of a new version.
 class IDownload : public tolva::node::INode {
  public:
   virtual IDownload& CopyFrom(const IDownload& other) = 0;
@@ -80,88 +82,91 @@ class IDownload : public tolva::node::INode {
   virtual ConfigResult SetNewVersion(const std::wstring* value) = 0;
 };
 
-/// Element `Update`.
+/// Element `Update`: the update of the client.
 class IUpdate : public tolva::node::INode {
  public:
   virtual IUpdate& CopyFrom(const IUpdate& other) = 0;
 
-  /// `Frequency`: how often updates are looked for. Required.
+  /// `Frequency`: how often the client looks for updates. Required.
   virtual DWORD GetFrequency() const = 0;
   virtual ConfigResult SetFrequency(const DWORD* value) = 0;
 
-  /// The child `Download`. Required.
+  /// `Download`: the download of a new version. Required.
   virtual IDownload* GetDownload() = 0;
   virtual ConfigResult SetDownload(const IDownload* child) = 0;
 };
 
-/// Element `FirefoxSetting`.
+/// Element `FirefoxSetting`: the names of the Firefox configuration files.
 class IFirefoxSetting : public tolva::node::IBrowserFiles<IFirefoxSetting> {};
 
-/// Element `ClientSetting`.
+/// Element `ClientSetting`: the client's own settings.
 class IClientSetting : public tolva::node::INode {
  public:
   virtual IClientSetting& CopyFrom(const IClientSetting& other) = 0;
 
-  /// `EnableTamperProtection`: whether the agent defends itself. Optional.
+  /// `EnableTamperProtection`: 1 if the agent protects itself against tampering, 0 if not.
+  /// Optional.
   virtual ConfigResult GetEnableTamperProtection(DWORD* out) const = 0;
   virtual ConfigResult SetEnableTamperProtection(const DWORD* value) = 0;
 
-  /// `EnableTelemetry`: whether telemetry is collected. Optional; after `Clear`, and when a
-  /// document does not mention it, it is present and 0.
+  /// `EnableTelemetry`: 1 if telemetry is collected, 0 if not. If the attribute is absent, 0
+  /// applies. Optional.
+  ///
+  /// After `Clear`, and after a read of a document without it, the attribute is present and 0.
   virtual ConfigResult GetEnableTelemetry(DWORD* out) const = 0;
   virtual ConfigResult SetEnableTelemetry(const DWORD* value) = 0;
 
-  /// `AdminPasswordHash`: a hash as text, never interpreted. Optional.
+  /// `AdminPasswordHash`: the hash of the administrator password, as text. Optional.
   virtual ConfigResult GetAdminPasswordHash(std::wstring* out) const = 0;
   virtual ConfigResult SetAdminPasswordHash(const std::wstring* value) = 0;
 
-  /// The child `UserInterface`. Optional.
+  /// `UserInterface`: what the user sees of the client. Optional.
   virtual ConfigResult GetUserInterface(IUserInterface** out) = 0;
   virtual ConfigResult SetUserInterface(const IUserInterface* child) = 0;
 
-  /// The child `Update`. Required.
+  /// `Update`: the update of the client. Required.
   virtual IUpdate* GetUpdate() = 0;
   virtual ConfigResult SetUpdate(const IUpdate* child) = 0;
 
-  /// The child `FirefoxSetting`. Optional.
+  /// `FirefoxSetting`: the names of the Firefox configuration files. Optional.
   virtual ConfigResult GetFirefoxSetting(IFirefoxSetting** out) = 0;
   virtual ConfigResult SetFirefoxSetting(const IFirefoxSetting* child) = 0;
 };
 
-/// Element `IEProxySetting`.
+/// Element `IEProxySetting`: the saved proxy setting of the machine.
 class IIEProxySetting : public tolva::node::INode {
  public:
   virtual IIEProxySetting& CopyFrom(const IIEProxySetting& other) = 0;
 
-  /// `ProxySetting`: the machine's saved setting, as text. Optional.
+  /// `ProxySetting`: the saved proxy setting, as text. Optional.
   virtual ConfigResult GetProxySetting(std::wstring* out) const = 0;
   virtual ConfigResult SetProxySetting(const std::wstring* value) = 0;
 };
 
-/// Element `IEUserProxySetting`.
+/// Element `IEUserProxySetting`: the saved proxy setting of a user.
 class IIEUserProxySetting : public tolva::node::INode {
  public:
   virtual IIEUserProxySetting& CopyFrom(const IIEUserProxySetting& other) = 0;
 
-  /// `UserID`: the user. Required.
+  /// `UserID`: the identifier of the user. Required.
   virtual const std::wstring& GetUserID() const = 0;
   virtual ConfigResult SetUserID(const std::wstring* value) = 0;
 
-  /// `ProxySetting`: the user's saved setting, as text. Optional.
+  /// `ProxySetting`: the saved proxy setting, as text. Optional.
   virtual ConfigResult GetProxySetting(std::wstring* out) const = 0;
   virtual ConfigResult SetProxySetting(const std::wstring* value) = 0;
 
-  /// `CurrentUserProxyURL`. Optional.
+  /// `CurrentUserProxyURL`: the URL of the user's current proxy. Optional.
   virtual ConfigResult GetCurrentUserProxyURL(std::wstring* out) const = 0;
   virtual ConfigResult SetCurrentUserProxyURL(const std::wstring* value) = 0;
 };
 
-/// Element `UserProxySetting`.
+/// Element `UserProxySetting`: the saved proxy settings of the users.
 class IUserProxySetting : public tolva::node::INode {
  public:
   virtual IUserProxySetting& CopyFrom(const IUserProxySetting& other) = 0;
 
-  /// Children `IEUserProxySetting`.
+  /// `IEUserProxySetting`: the saved proxy setting of a user. Repeated.
   virtual DWORD GetIEUserProxySettingCount() const = 0;
   virtual IIEUserProxySetting* GetIEUserProxySettingAt(DWORD index) = 0;
   virtual ConfigResult AddIEUserProxySetting(const IIEUserProxySetting* item) = 0;
@@ -170,63 +175,65 @@ class IUserProxySetting : public tolva::node::INode {
   virtual void RemoveAllIEUserProxySetting() = 0;
 };
 
-/// Element `LocalProxySetting`.
+/// Element `LocalProxySetting`: the proxy settings of the machine and its users, which the client
+/// saves and restores.
 class ILocalProxySetting : public tolva::node::INode {
  public:
   virtual ILocalProxySetting& CopyFrom(const ILocalProxySetting& other) = 0;
 
-  /// `EnableLocalProxySetting`. Required.
+  /// `EnableLocalProxySetting`: 1 if the local proxy settings are enabled, 0 if not. Required.
   virtual DWORD GetEnableLocalProxySetting() const = 0;
   virtual ConfigResult SetEnableLocalProxySetting(const DWORD* value) = 0;
 
-  /// `SaveNetworkSettingMode`. Optional.
+  /// `SaveNetworkSettingMode`: the mode in which network settings are saved, as a number. Optional.
   virtual ConfigResult GetSaveNetworkSettingMode(DWORD* out) const = 0;
   virtual ConfigResult SetSaveNetworkSettingMode(const DWORD* value) = 0;
 
-  /// The child `IEProxySetting`. Optional.
+  /// `IEProxySetting`: the saved proxy setting of the machine. Optional.
   virtual ConfigResult GetIEProxySetting(IIEProxySetting** out) = 0;
   virtual ConfigResult SetIEProxySetting(const IIEProxySetting* child) = 0;
 
-  /// The child `UserProxySetting`. Optional.
+  /// `UserProxySetting`: the saved proxy settings of the users. Optional.
   virtual ConfigResult GetUserProxySetting(IUserProxySetting** out) = 0;
   virtual ConfigResult SetUserProxySetting(const IUserProxySetting* child) = 0;
 };
 
-/// Element `LogUploadSetting`.
+/// Element `LogUploadSetting`: where the client uploads its logs, and how often.
 class ILogUploadSetting : public tolva::node::INode {
  public:
   virtual ILogUploadSetting& CopyFrom(const ILogUploadSetting& other) = 0;
 
-  /// `LogUploadURL`. Required.
+  /// `LogUploadURL`: the URL to which logs are uploaded. Required.
   virtual const std::wstring& GetLogUploadURL() const = 0;
   virtual ConfigResult SetLogUploadURL(const std::wstring* value) = 0;
 
-  /// `LogUploadFrequency`. Required.
+  /// `LogUploadFrequency`: how often logs are uploaded. Required.
   virtual DWORD GetLogUploadFrequency() const = 0;
   virtual ConfigResult SetLogUploadFrequency(const DWORD* value) = 0;
 };
 
-/// Element `IPXYClientConfiguration`, the root.
+/// Element `IPXYClientConfiguration`: the root of the proxy client configuration.
 class IIPXYClientConfiguration : public tolva::node::IConfigurationRoot<IIPXYClientConfiguration> {
  public:
-  /// The child `ProxySetting`. Required.
+  /// `ProxySetting`: the proxy, and the applications that are exempt from it. Required.
   virtual IProxySetting* GetProxySetting() = 0;
   virtual ConfigResult SetProxySetting(const IProxySetting* child) = 0;
 
-  /// The child `ClientSetting`. Required.
+  /// `ClientSetting`: the client's own settings. Required.
   virtual IClientSetting* GetClientSetting() = 0;
   virtual ConfigResult SetClientSetting(const IClientSetting* child) = 0;
 
-  /// The child `LocalProxySetting`. Optional.
+  /// `LocalProxySetting`: the proxy settings of the machine and its users, which the client saves
+  /// and restores. Optional.
   virtual ConfigResult GetLocalProxySetting(ILocalProxySetting** out) = 0;
   virtual ConfigResult SetLocalProxySetting(const ILocalProxySetting* child) = 0;
 
-  /// The child `LogUploadSetting`. Optional.
+  /// `LogUploadSetting`: where the client uploads its logs, and how often. Optional.
   virtual ConfigResult GetLogUploadSetting(ILogUploadSetting** out) = 0;
   virtual ConfigResult SetLogUploadSetting(const ILogUploadSetting* child) = 0;
 };
 
-// Each makes a node with default values, which the caller owns.
+// Each function returns a new node with default values, which the caller owns.
 TOLVA_API IPACFile* PACFile_CreateNewInstance();
 TOLVA_API IAppWhiteList* AppWhiteList_CreateNewInstance();
 TOLVA_API IProxySetting* ProxySetting_CreateNewInstance();
