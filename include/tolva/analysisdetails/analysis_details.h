@@ -1,8 +1,7 @@
-// The details of a content analysis: the violations found, with what matched and where, and data
-// about what was analysed. Element names are lower case, and so are those of interfaces after
-// their I.
-//
-// What the texts mean is their producer's business; they are carried as they stand.
+// The details of a content analysis: the violations that were found, with what matched and where,
+// and data about what was analysed. Names of elements begin with a lower-case letter, and so do
+// names of interfaces after their I. The library does not interpret the texts; their producer
+// defines what they mean.
 #pragma once
 
 #include <string>
@@ -14,66 +13,68 @@
 
 namespace CpsAnalysisDetailsConf {
 
-/// Element `name`: a violation's name.
+/// Element `name`: the name of a violation.
 class Iname : public tolva::node::IStringLeaf<Iname> {};
 
-/// Element `policyID`.
+/// Element `policyID`: the identifier of the policy that was violated.
 class IpolicyID : public tolva::node::IOptionalLeaf<IpolicyID> {};
 
-/// Element `severity`.
+/// Element `severity`: the severity of a violation.
 class Iseverity : public tolva::node::IOptionalLeaf<Iseverity> {};
 
-/// Element `numOfMatches`: how many values matched.
+/// Element `numOfMatches`: the number of matches of a violation.
 class InumOfMatches : public tolva::node::INumberLeaf<InumOfMatches> {};
 
-/// Element `value`: what matched.
+/// Element `value`: a value that matched.
 class Ivalue : public tolva::node::IStringLeaf<Ivalue> {};
 
-/// Element `count`: how often it did. Only the digits at the front of its text count, none of them
-/// is 0, and whatever else stands there is no fault.
+/// Element `count`: how often a value was found.
+///
+/// A read takes the digits at the beginning of the text, or 0 if there are none, and ignores the
+/// rest.
 class Icount : public tolva::node::INumberLeaf<Icount> {};
 
-/// Element `location`.
+/// Element `location`: where a value was found.
 class Ilocation : public tolva::node::IOptionalLeaf<Ilocation> {};
 
-/// Element `context`.
+/// Element `context`: the context in which a value was found.
 class Icontext : public tolva::node::IOptionalLeaf<Icontext> {};
 
-/// Element `classifierType`.
+/// Element `classifierType`: the type of the classifier that found a value.
 class IclassifierType : public tolva::node::IOptionalLeaf<IclassifierType> {};
 
-/// Element `detectedValue`.
+/// Element `detectedValue`: a value that matched, with its context and location.
 class IdetectedValue : public tolva::node::INode {
  public:
   virtual IdetectedValue& CopyFrom(const IdetectedValue& other) = 0;
 
-  /// The child `value`. Required.
+  /// `value`: the value that matched. Required.
   virtual Ivalue* GetValue() = 0;
   virtual ConfigResult SetValue(const Ivalue* child) = 0;
 
-  /// The child `count`. Required.
+  /// `count`: how often the value was found. Required.
   virtual Icount* GetCount() = 0;
   virtual ConfigResult SetCount(const Icount* child) = 0;
 
-  /// The child `location`. Optional.
+  /// `location`: where the value was found. Optional.
   virtual ConfigResult GetLocation(Ilocation** out) = 0;
   virtual ConfigResult SetLocation(const Ilocation* child) = 0;
 
-  /// The child `context`. Optional.
+  /// `context`: the context in which the value was found. Optional.
   virtual ConfigResult GetContext(Icontext** out) = 0;
   virtual ConfigResult SetContext(const Icontext* child) = 0;
 
-  /// The child `classifierType`. Optional.
+  /// `classifierType`: the type of the classifier that found the value. Optional.
   virtual ConfigResult GetClassifierType(IclassifierType** out) = 0;
   virtual ConfigResult SetClassifierType(const IclassifierType* child) = 0;
 };
 
-/// Element `detectedValues`.
+/// Element `detectedValues`: the values that matched.
 class IdetectedValues : public tolva::node::INode {
  public:
   virtual IdetectedValues& CopyFrom(const IdetectedValues& other) = 0;
 
-  /// Children `detectedValue`.
+  /// `detectedValue`: a value that matched, with its context and location. Repeated.
   virtual DWORD GetDetectedValueCount() const = 0;
   virtual IdetectedValue* GetDetectedValueAt(DWORD index) = 0;
   virtual ConfigResult AddDetectedValue(const IdetectedValue* item) = 0;
@@ -82,58 +83,62 @@ class IdetectedValues : public tolva::node::INode {
   virtual void RemoveAllDetectedValue() = 0;
 };
 
-/// Element `customDisplayText`: a text to show. It exists only within a `violation`, and has
-/// neither `Clear` nor `CopyFrom`. Without a text it reads all the same, with a diagnostic, and
-/// keeps the text that it had, as it does when the element has another name. A violation that is
-/// read empties it first.
+/// Element `customDisplayText`: a text to display for a violation.
+///
+/// The element exists only within a `violation`. It has no factory, and neither `Clear` nor
+/// `CopyFrom`. A read of an element without a text succeeds with a diagnostic; a read of an element
+/// with another name returns -102. Both keep the earlier text, which a read of the `violation`
+/// empties first.
 class IcustomDisplayText : public tolva::node::IElement {
  public:
-  /// The text. Setting it returns 0.
+  /// The text. The setter returns 0.
   virtual const std::wstring& GetContent() const = 0;
   virtual ConfigResult SetContent(const std::wstring& value) = 0;
 };
 
-/// Element `violation`: one violation of a policy.
+/// Element `violation`: a violation of a policy.
 class Iviolation : public tolva::node::INode {
  public:
   virtual Iviolation& CopyFrom(const Iviolation& other) = 0;
 
-  /// The child `name`. Required.
+  /// `name`: the name of the violation. Required.
   virtual Iname* GetName() = 0;
   virtual ConfigResult SetName(const Iname* child) = 0;
 
-  /// The child `policyID`. Optional.
+  /// `policyID`: the identifier of the policy that was violated. Optional.
   virtual ConfigResult GetPolicyID(IpolicyID** out) = 0;
   virtual ConfigResult SetPolicyID(const IpolicyID* child) = 0;
 
-  /// The child `severity`. Optional.
+  /// `severity`: the severity of the violation. Optional.
   virtual ConfigResult GetSeverity(Iseverity** out) = 0;
   virtual ConfigResult SetSeverity(const Iseverity* child) = 0;
 
-  /// The child `numOfMatches`. Required.
+  /// `numOfMatches`: the number of matches. Required.
   virtual InumOfMatches* GetNumOfMatches() = 0;
   virtual ConfigResult SetNumOfMatches(const InumOfMatches* child) = 0;
 
-  /// The child `detectedValues`. Required.
+  /// `detectedValues`: the values that matched. Required.
   virtual IdetectedValues* GetDetectedValues() = 0;
   virtual ConfigResult SetDetectedValues(const IdetectedValues* child) = 0;
 
-  /// The child `customDisplayText`: always written, but a document may do without. Null gives -101
-  /// without a diagnostic.
+  /// `customDisplayText`: a text to display for the violation. Optional.
+  ///
+  /// The child is always written. It has the accessors of a required child; null gives -101 without
+  /// a diagnostic.
   virtual IcustomDisplayText* GetCustomDisplayText() = 0;
   virtual ConfigResult SetCustomDisplayText(const IcustomDisplayText* child) = 0;
 };
 
-/// Element `violations`.
+/// Element `violations`: the violations that were found.
 class Iviolations : public tolva::node::INode {
  public:
   virtual Iviolations& CopyFrom(const Iviolations& other) = 0;
 
-  /// `maxMatches`: carried unchanged. Required.
+  /// `maxMatches`: the maximum number of matches. Required.
   virtual DWORD GetMaxMatches() const = 0;
   virtual ConfigResult SetMaxMatches(const DWORD* value) = 0;
 
-  /// Children `violation`.
+  /// `violation`: a violation of a policy. Repeated.
   virtual DWORD GetViolationCount() const = 0;
   virtual Iviolation* GetViolationAt(DWORD index) = 0;
   virtual ConfigResult AddViolation(const Iviolation* item) = 0;
@@ -142,18 +147,22 @@ class Iviolations : public tolva::node::INode {
   virtual void RemoveAllViolation() = 0;
 };
 
-/// The values of `address`'s `type`.
+/// The values of the attribute `type` of `address`.
 enum AddressType : DWORD {
   kAddressTypeEmailAddress = 0,  ///< "EmailAddress"
   kAddressTypeOther = 1,         ///< "Other"
 };
 
-/// Element `address`: a destination. `Clear` leaves `type` as it was, 0 at first.
+/// Element `address`: a destination of what was analysed.
+///
+/// `Clear` keeps `type`, which is 0 in a new node.
 class Iaddress : public tolva::node::INode {
  public:
   virtual Iaddress& CopyFrom(const Iaddress& other) = 0;
 
-  /// `type`: an AddressType. Required.
+  /// `type`: the kind of address. Required.
+  ///
+  /// The value is an AddressType.
   virtual DWORD GetType() const = 0;
   virtual ConfigResult SetType(const DWORD* value) = 0;
 
@@ -162,12 +171,12 @@ class Iaddress : public tolva::node::INode {
   virtual ConfigResult SetValue(const std::wstring* value) = 0;
 };
 
-/// Element `addresses`.
+/// Element `addresses`: a list of destination addresses.
 class Iaddresses : public tolva::node::INode {
  public:
   virtual Iaddresses& CopyFrom(const Iaddresses& other) = 0;
 
-  /// Children `address`.
+  /// `address`: a destination of what was analysed. Repeated.
   virtual DWORD GetAddressCount() const = 0;
   virtual Iaddress* GetAddressAt(DWORD index) = 0;
   virtual ConfigResult AddAddress(const Iaddress* item) = 0;
@@ -176,12 +185,12 @@ class Iaddresses : public tolva::node::INode {
   virtual void RemoveAllAddress() = 0;
 };
 
-/// Element `destinations`.
+/// Element `destinations`: the destinations of what was analysed.
 class Idestinations : public tolva::node::INode {
  public:
   virtual Idestinations& CopyFrom(const Idestinations& other) = 0;
 
-  /// Children `addresses`.
+  /// `addresses`: a list of destination addresses. Repeated.
   virtual DWORD GetAddressesCount() const = 0;
   virtual Iaddresses* GetAddressesAt(DWORD index) = 0;
   virtual ConfigResult AddAddresses(const Iaddresses* item) = 0;
@@ -190,34 +199,37 @@ class Idestinations : public tolva::node::INode {
   virtual void RemoveAllAddresses() = 0;
 };
 
-/// The values of `extractedContent`'s `type`.
+/// The values of the attribute `type` of `extractedContent`.
 enum ExtractedContentType : DWORD {
   kExtractedContentTypeSubject = 0,     ///< "Subject"
   kExtractedContentTypeAttachment = 1,  ///< "Attachment"
   kExtractedContentTypeOther = 2,       ///< "Other"
 };
 
-/// Element `extractedContent`: a part of what was analysed. `Clear` leaves `type` as it was, 0 at
-/// first.
+/// Element `extractedContent`: a part of what was analysed.
+///
+/// `Clear` keeps `type`, which is 0 in a new node.
 class IextractedContent : public tolva::node::INode {
  public:
   virtual IextractedContent& CopyFrom(const IextractedContent& other) = 0;
 
-  /// `type`: an ExtractedContentType. Required.
+  /// `type`: the kind of content. Required.
+  ///
+  /// The value is an ExtractedContentType.
   virtual DWORD GetType() const = 0;
   virtual ConfigResult SetType(const DWORD* value) = 0;
 
-  /// `value`: the part. Required.
+  /// `value`: the content. Required.
   virtual const std::wstring& GetValue() const = 0;
   virtual ConfigResult SetValue(const std::wstring* value) = 0;
 };
 
-/// Element `extractedContents`.
+/// Element `extractedContents`: the parts of what was analysed.
 class IextractedContents : public tolva::node::INode {
  public:
   virtual IextractedContents& CopyFrom(const IextractedContents& other) = 0;
 
-  /// Children `extractedContent`.
+  /// `extractedContent`: a part of what was analysed. Repeated.
   virtual DWORD GetExtractedContentCount() const = 0;
   virtual IextractedContent* GetExtractedContentAt(DWORD index) = 0;
   virtual ConfigResult AddExtractedContent(const IextractedContent* item) = 0;
@@ -226,43 +238,43 @@ class IextractedContents : public tolva::node::INode {
   virtual void RemoveAllExtractedContent() = 0;
 };
 
-/// Element `additionalData`.
+/// Element `additionalData`: additional data about what was analysed.
 class IadditionalData : public tolva::node::INode {
  public:
   virtual IadditionalData& CopyFrom(const IadditionalData& other) = 0;
 
-  /// The child `destinations`. Required.
+  /// `destinations`: the destinations of what was analysed. Required.
   virtual Idestinations* GetDestinations() = 0;
   virtual ConfigResult SetDestinations(const Idestinations* child) = 0;
 
-  /// The child `extractedContents`. Required.
+  /// `extractedContents`: the parts of what was analysed. Required.
   virtual IextractedContents* GetExtractedContents() = 0;
   virtual ConfigResult SetExtractedContents(const IextractedContents* child) = 0;
 };
 
-/// Element `analysisDetails`, the root.
+/// Element `analysisDetails`: the root of the analysis details.
 class IanalysisDetails : public tolva::node::INode {
  public:
   virtual IanalysisDetails& CopyFrom(const IanalysisDetails& other) = 0;
 
-  /// `transactionID`: the transaction that was analysed. Required.
+  /// `transactionID`: the identifier of the transaction that was analysed. Required.
   virtual const std::wstring& GetTransactionID() const = 0;
   virtual ConfigResult SetTransactionID(const std::wstring* value) = 0;
 
-  /// `version`: the document's version. Required.
+  /// `version`: the version of the document. Required.
   virtual const std::wstring& GetVersion() const = 0;
   virtual ConfigResult SetVersion(const std::wstring* value) = 0;
 
-  /// The child `violations`. Optional.
+  /// `violations`: the violations that were found. Optional.
   virtual ConfigResult GetViolations(Iviolations** out) = 0;
   virtual ConfigResult SetViolations(const Iviolations* child) = 0;
 
-  /// The child `additionalData`. Optional.
+  /// `additionalData`: additional data about what was analysed. Optional.
   virtual ConfigResult GetAdditionalData(IadditionalData** out) = 0;
   virtual ConfigResult SetAdditionalData(const IadditionalData* child) = 0;
 };
 
-// Each makes a node with default values, which the caller owns.
+// Each function returns a new node with default values, which the caller owns.
 TOLVA_API Iname* name_CreateNewInstance();
 TOLVA_API IpolicyID* policyID_CreateNewInstance();
 TOLVA_API Iseverity* severity_CreateNewInstance();

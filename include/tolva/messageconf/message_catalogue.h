@@ -1,9 +1,11 @@
-// The message catalogue: what the agent tells its user, in several languages. A catalogue may hold
-// catalogues. A reader goes 256 elements deep: the 127th catalogue, counted from the root, is the
-// last one whose messages can be read. A message in the 128th fails the read; from the 129th on
-// everything is cut off, what follows it included, with result 0 and a last-error value of
-// 0xC00CExxx. Accessors can make a deeper one: it is written, but not read back, and copying,
-// writing or destroying it takes stack in proportion to its depth.
+// The message catalogue: the messages that the agent shows its user, in several languages.
+//
+// A catalogue may contain further catalogues. A reader supports 256 nested elements. The messages
+// of the 127th catalogue, counted from the root, are the last that can be read. A message in the
+// 128th makes the read fail. The 129th catalogue, and everything that follows it in the document,
+// is cut off, with result 0 and a last-error value of 0xC00CExxx. Accessors can build a deeper
+// catalogue. It is written, but it cannot be read back, and copying, writing or destroying it takes
+// stack space in proportion to its depth.
 #pragma once
 
 #include <string>
@@ -18,36 +20,38 @@ namespace MessageConf {
 /// Element `Description`: what a message is about.
 class IDescription : public tolva::node::IStringLeaf<IDescription> {};
 
-/// Element `Content`: a message's text. Written as an empty tag when there is none. A text that
-/// cannot be written takes the element with it, and the message cannot be read back.
+/// Element `Content`: the text of a message.
+///
+/// If there is no text, an empty tag is written. If the text cannot be written, the element is left
+/// out, and the message cannot be read back.
 class IContent : public tolva::node::IOptionalLeaf<IContent> {};
 
-/// Element `Message`.
+/// Element `Message`: a message of the agent to its user.
 class IMessage : public tolva::node::INode {
  public:
   virtual IMessage& CopyFrom(const IMessage& other) = 0;
 
-  /// `ID`: the message's number. Required.
+  /// `ID`: the number of the message. Required.
   virtual DWORD GetID() const = 0;
   virtual ConfigResult SetID(const DWORD* value) = 0;
 
-  /// The child `Content`. Required.
+  /// `Content`: the text of the message. Required.
   virtual IContent* GetContent() = 0;
   virtual ConfigResult SetContent(const IContent* child) = 0;
 
-  /// The child `Description`. Required.
+  /// `Description`: what the message is about. Required.
   virtual IDescription* GetDescription() = 0;
   virtual ConfigResult SetDescription(const IDescription* child) = 0;
 };
 
 class IEndPointMessage;
 
-/// Element `EndpointLocalMsg`: catalogues, each complete in itself.
+/// Element `EndpointLocalMsg`: localised catalogues, each complete in itself.
 class IEndpointLocalMsg : public tolva::node::INode {
  public:
   virtual IEndpointLocalMsg& CopyFrom(const IEndpointLocalMsg& other) = 0;
 
-  /// Children `EndPointMessage`.
+  /// `EndPointMessage`: a catalogue for one language. Repeated.
   virtual DWORD GetEndPointMessageCount() const = 0;
   virtual IEndPointMessage* GetEndPointMessageAt(DWORD index) = 0;
   virtual ConfigResult AddEndPointMessage(const IEndPointMessage* item) = 0;
@@ -56,21 +60,24 @@ class IEndpointLocalMsg : public tolva::node::INode {
   virtual void RemoveAllEndPointMessage() = 0;
 };
 
-/// Element `EndPointMessage`: a catalogue for one language, with catalogues for others; the root is
-/// one. All messages are written before all further catalogues, in whatever order they were read.
+/// Element `EndPointMessage`: a catalogue for one language, with localised catalogues for others.
+/// It is also the root of the message catalogue.
+///
+/// All messages are written before all localised catalogues, regardless of the order in which they
+/// were read.
 class IEndPointMessage : public tolva::node::INode {
  public:
   virtual IEndPointMessage& CopyFrom(const IEndPointMessage& other) = 0;
 
-  /// `SchemaVersion`: the version of the catalogue's form. Required.
+  /// `SchemaVersion`: the version of the document's schema. Required.
   virtual DWORD GetSchemaVersion() const = 0;
   virtual ConfigResult SetSchemaVersion(const DWORD* value) = 0;
 
-  /// `Language`: the language of its messages. Optional.
+  /// `Language`: the language of the messages. Optional.
   virtual ConfigResult GetLanguage(std::wstring* out) const = 0;
   virtual ConfigResult SetLanguage(const std::wstring* value) = 0;
 
-  /// The messages: children `Message`.
+  /// `Message`: a message of the agent to its user. Repeated.
   virtual DWORD GetMessageCount() const = 0;
   virtual IMessage* GetMessageAt(DWORD index) = 0;
   virtual ConfigResult AddMessage(const IMessage* item) = 0;
@@ -78,7 +85,7 @@ class IEndPointMessage : public tolva::node::INode {
   virtual void RemoveMessageAt(DWORD index) = 0;
   virtual void RemoveAllMessage() = 0;
 
-  /// Further catalogues: children `EndpointLocalMsg`.
+  /// `EndpointLocalMsg`: localised catalogues. Repeated.
   virtual DWORD GetEndpointLocalMsgCount() const = 0;
   virtual IEndpointLocalMsg* GetEndpointLocalMsgAt(DWORD index) = 0;
   virtual ConfigResult AddEndpointLocalMsg(const IEndpointLocalMsg* item) = 0;
@@ -87,7 +94,7 @@ class IEndPointMessage : public tolva::node::INode {
   virtual void RemoveAllEndpointLocalMsg() = 0;
 };
 
-// Each makes a node with default values, which the caller owns.
+// Each function returns a new node with default values, which the caller owns.
 TOLVA_API IDescription* Description_CreateNewInstance();
 TOLVA_API IContent* Content_CreateNewInstance();
 TOLVA_API IMessage* Message_CreateNewInstance();
