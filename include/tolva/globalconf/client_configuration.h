@@ -26,7 +26,8 @@ class IEPClientSetting : public tolva::node::INode {
   virtual DWORD GetEnableTelemetry() const = 0;
   virtual ConfigResult SetEnableTelemetry(const DWORD* value) = 0;
 
-  /// `AdminPasswordHash`: the hash of the administrator password, as text. Optional.
+  /// `AdminPasswordHash`: the hash of the administrator password, as text that the library does not
+  /// interpret. Optional.
   virtual ConfigResult GetAdminPasswordHash(std::wstring* out) const = 0;
   virtual ConfigResult SetAdminPasswordHash(const std::wstring* value) = 0;
 

@@ -4,8 +4,8 @@
 // or a processing instruction, and discards the rest of the content. White space alone does not
 // count as text unless it is in a CDATA section; it also hides a CDATA section that follows it. If
 // a required text is missing, the read fails with a diagnostic and -102; an empty required text can
-// therefore be written, but not read back. A child element with content of its own may end the read
-// too early. The element around this one then ends there too, and loses its further children.
+// therefore be written, but not read back. A child element that has content may end the read too
+// early. The element around this one then ends there too, and loses its further children.
 #pragma once
 
 #include <string>

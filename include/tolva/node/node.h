@@ -36,7 +36,7 @@
 // all others unsigned ones.
 //
 // The value of an ENUM is a constant of the enumeration that the comment of its accessors names.
-// The comment after each constant is the text that stands for it in a document:
+// The comment after each constant gives its text in a document:
 //
 //   const DWORD action = TolvaInterface::kBlock;
 //   rule->SetAction(&action);
@@ -50,8 +50,8 @@
 // Pointers and references that getters return belong to the node. They are valid until the node
 // changes that field or is destroyed. Everything that is passed in is copied.
 //
-// Every function, factories included, throws std::bad_alloc if memory runs out, and nothing else.
-// One thread at a time may use a node and everything below it.
+// When memory runs out, every function, factories included, may throw std::bad_alloc; functions
+// throw nothing else. One thread at a time may use a node and everything below it.
 #pragma once
 
 #include <tolva/types.h>

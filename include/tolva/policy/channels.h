@@ -1,5 +1,5 @@
 // The channels through which data can leave the endpoint by clipboard, printer, screen capture,
-// application files and e-mail.
+// application files and e-mail. The library does not interpret the numbers.
 #pragma once
 
 #include <string>

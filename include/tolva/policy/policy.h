@@ -214,7 +214,8 @@ class IUserInterface : public tolva::node::INode {
   virtual ConfigResult GetDefaultActionOnUserPromptTimeout(DWORD* out) const = 0;
   virtual ConfigResult SetDefaultActionOnUserPromptTimeout(const DWORD* value) = 0;
 
-  /// `AdminPasswordHash`: the hash of the administrator password, as text. Optional.
+  /// `AdminPasswordHash`: the hash of the administrator password, as text that the library does not
+  /// interpret. Optional.
   virtual ConfigResult GetAdminPasswordHash(std::wstring* out) const = 0;
   virtual ConfigResult SetAdminPasswordHash(const std::wstring* value) = 0;
 

@@ -159,7 +159,7 @@ class IExcludeJSInjectDomain : public tolva::node::INode {
 /// Element `ExcludeJSInjectionDomains`: the domains whose pages get no injected script.
 ///
 /// Only a read, or a copy of the whole list, adds items. If a write fails, it returns -101 without
-/// a diagnostic of its own.
+/// adding a diagnostic.
 class IExcludeJSInjectDomains : public tolva::node::INode {
  public:
   virtual IExcludeJSInjectDomains& CopyFrom(const IExcludeJSInjectDomains& other) = 0;

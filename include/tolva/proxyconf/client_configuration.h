@@ -116,7 +116,8 @@ class IClientSetting : public tolva::node::INode {
   virtual ConfigResult GetEnableTelemetry(DWORD* out) const = 0;
   virtual ConfigResult SetEnableTelemetry(const DWORD* value) = 0;
 
-  /// `AdminPasswordHash`: the hash of the administrator password, as text. Optional.
+  /// `AdminPasswordHash`: the hash of the administrator password, as text that the library does not
+  /// interpret. Optional.
   virtual ConfigResult GetAdminPasswordHash(std::wstring* out) const = 0;
   virtual ConfigResult SetAdminPasswordHash(const std::wstring* value) = 0;
 

@@ -144,7 +144,8 @@ class IClientSetting : public tolva::node::INode {
   virtual DWORD GetDisableFiltering() const = 0;
   virtual ConfigResult SetDisableFiltering(const DWORD* value) = 0;
 
-  /// `AdminPasswordHash`: the hash of the administrator password, as text. Optional.
+  /// `AdminPasswordHash`: the hash of the administrator password, as text that the library does not
+  /// interpret. Optional.
   virtual ConfigResult GetAdminPasswordHash(std::wstring* out) const = 0;
   virtual ConfigResult SetAdminPasswordHash(const std::wstring* value) = 0;
 
