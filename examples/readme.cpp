@@ -14,7 +14,7 @@ int main() {
   tolvaSetLastError(0);
   ConfigResult result = reader->OpenFile(L"active-directory.xml");
   if (result == 0) result = root->ReadFromXMLMgr(reader);
-  if (result == 0) result = tolvaReadToEnd(reader);  // the rest, which no node looks at
+  if (result == 0) result = tolvaReadToEnd(reader);  // validates the rest of the document
   const auto error = static_cast<unsigned>(tolvaGetLastError());
   tolvaDestroyXMLManager(reader);
   if (result == 0) {
