@@ -96,7 +96,7 @@ package() { # <preset> <expected files> [launcher] [cmake argument...]
   consumer=build/$preset/consumer
   rm -rf "$prefix" "$consumer"
   check "$preset: install" cmake --install "build/$preset" || return
-  { echo "$expected"; (cd include && find . -name '*.h' -printf 'include/%P\n'); } |
+  { echo "$expected"; find include support/include -name '*.h' -printf 'include/%P\n'; } |
     LC_ALL=C sort > "$results/expected-files"
   (cd "$prefix" && find . ! -type d -printf '%P\n') | LC_ALL=C sort > "$results/installed-files"
   check "$preset: installed files" diff -u "$results/expected-files" "$results/installed-files"
@@ -129,16 +129,16 @@ part_linux() {
   demo linux-release
   local lib
   lib=$(sed -n 's/^CMAKE_INSTALL_LIBDIR:PATH=//p' build/linux-release/CMakeCache.txt)
-  package linux-release "$(printf '%s\n' "$lib"/libtolva.so{,.1,.1.0.0} "$lib/pkgconfig/tolva.pc"
-    cmake_files "$lib" release)" ''
+  package linux-release "$(printf '%s\n' "$lib"/libtolva{.so{,.1,.1.0.0},-support.a} \
+    "$lib"/pkgconfig/tolva{,-support}.pc; cmake_files "$lib" release)" ''
   check 'linux-release: pkg-config' pkg_config_consumer "$PWD/build/linux-release/installed/$lib"
 }
 
 pkg_config_consumer() { # <library folder>
   local flags
-  flags=$(PKG_CONFIG_PATH=$1/pkgconfig pkg-config --cflags --libs tolva) || return
+  flags=$(PKG_CONFIG_PATH=$1/pkgconfig pkg-config --cflags --libs tolva-support) || return
   # shellcheck disable=SC2086
-  g++ tests/consumer/main.cpp $flags -Wl,-rpath,"$1" -o build/linux-release/pc-consumer &&
+  g++ -std=c++17 tests/consumer/main.cpp $flags -Wl,-rpath,"$1" -o build/linux-release/pc-consumer &&
     build/linux-release/pc-consumer build/linux-release/pc-consumer.xml
 }
 
@@ -166,7 +166,7 @@ part_valgrind() {
   echo 'Linux, GCC, valgrind'
   build linux-release || return
   local program
-  for program in inner api; do
+  for program in inner api support; do
     check "valgrind: tolva_${program}_tests" valgrind -q --error-exitcode=1 --leak-check=full \
       --suppressions=tests/valgrind.supp "build/linux-release/tests/tolva_${program}_tests"
   done
@@ -185,8 +185,8 @@ part_windows() {
   check 'windows: exported symbols' tools/abi.sh windows
   check 'windows: an export for each factory' count_exports
   demo windows tools/run-windows.sh active-directory broken  # Wine's XmlLite does not escape
-  package windows "$(printf '%s\n' bin/tolva.dll lib/libtolva.dll.a lib/pkgconfig/tolva.pc
-    cmake_files lib release)" "env TOLVA_WINEPATH=$PWD/build/windows/installed/bin tools/run-windows.sh" \
+  package windows "$(printf '%s\n' bin/tolva.dll lib/libtolva{.dll,-support}.a \
+    lib/pkgconfig/tolva{,-support}.pc; cmake_files lib release)" "env TOLVA_WINEPATH=$PWD/build/windows/installed/bin tools/run-windows.sh" \
     -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake"
 }
 

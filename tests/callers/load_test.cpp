@@ -1,0 +1,136 @@
+// Documents that are whole, damaged, refused, of another kind or not there.
+#include <gtest/gtest.h>
+#include <tolva/support.h>
+
+#include <atomic>
+#include <string>
+#include <thread>
+
+#include "support/capabilities.h"
+#include "support/files.h"
+
+namespace tolva::support {
+namespace {
+
+using namespace std::string_literals;
+using ClientConfig::IActiveDirectory;
+using test::TempFile;
+
+const std::wstring kDomain =
+    L"<ActiveDirectory><DefaultDomain Name='corp.example'/></ActiveDirectory>";
+const std::filesystem::path kDocumentsFolder = TOLVA_DOCUMENTS;
+
+/// What came of an Active Directory document.
+struct Account {
+  LoadOutcome outcome;
+  ConfigResult result;
+  DWORD error;
+  std::string message;
+};
+
+void Expect(const Loaded<IActiveDirectory>& loaded, const Account& account) {
+  const LoadReport& report = loaded.report;
+  EXPECT_EQ(report.outcome, account.outcome) << account.message;
+  EXPECT_EQ(report.result, account.result) << account.message;
+  EXPECT_EQ(report.error, account.error) << account.message;
+  EXPECT_EQ(report.message, account.message);
+  EXPECT_EQ(!report, account.outcome != LoadOutcome::kLoaded);
+  const bool has_root =
+      account.outcome == LoadOutcome::kLoaded || account.outcome == LoadOutcome::kDamaged;
+  EXPECT_EQ(loaded.root != nullptr, has_root) << account.message;
+  EXPECT_TRUE(report.outcome != LoadOutcome::kRefused || !report.diagnostics.empty());
+}
+
+void ExpectBytes(const std::string& bytes, const Account& account) {
+  Expect(Load<IActiveDirectory>(TempFile(bytes).path()), account);
+  if (!bytes.empty()) Expect(LoadFromString<IActiveDirectory>(ToWide(bytes)), account);
+}
+
+TEST(Load, TellsWhatCame) {
+  const std::string domain = ToUtf8(kDomain);
+  ExpectBytes(domain, {LoadOutcome::kLoaded, 0, 0, ""});
+  EXPECT_EQ(LoadFromString<IActiveDirectory>(kDomain).root->GetDefaultDomain()->GetName(),
+            L"corp.example");
+  ExpectBytes("<?xml version='1.0'?><InstallConfig/>",
+              {LoadOutcome::kOtherDocument, -102, 0,
+               "The root element is 'InstallConfig', not 'ActiveDirectory'."});
+  ExpectBytes("<ActiveDirectory><DefaultDomain/></ActiveDirectory>",
+              {LoadOutcome::kRefused, -101, 0,
+               "Something required is missing or has a malformed value: XMLManager: read required "
+               "string Attribute failed. element:DefaultDomain, attr:Name."});
+  ExpectBytes(domain + "b", {LoadOutcome::kDamaged, -101, 0xC00CEE2D,
+                             "The document was read, but what follows is damaged: there is "
+                             "something that must not stand there."});
+  ExpectBytes("<!DOCTYPE ActiveDirectory>" + domain,
+              {LoadOutcome::kNotWellFormed, -102, 0xC00CEE4F,
+               "There is a document type declaration, which is not accepted."});
+  ExpectBytes("<ActiveDirectory><DefaultDomain Name='<'/></ActiveDirectory>",
+              {LoadOutcome::kNotWellFormed, -101, 0xC00CEE26, "An attribute value holds a '<'."});
+  const auto other = LoadFromString<IActiveDirectory>(L"<p:other xmlns:p='q'/>");
+  EXPECT_EQ(other.report.root_element, "other");
+}
+
+TEST(Load, TellsDocumentsThatBreakOff) {
+  TOLVA_REQUIRE(ReaderEndsTruncatedInput);
+  const std::string domain = ToUtf8(kDomain);
+  for (std::size_t size = 1; size < domain.size(); ++size) {
+    const auto loaded = Load<IActiveDirectory>(TempFile(domain.substr(0, size)).path());
+    EXPECT_EQ(loaded.report.error, 0xC00CEE01) << size;
+    const bool is_read = domain.find("/>") + 2 <= size;
+    EXPECT_EQ(loaded.report.outcome, is_read ? LoadOutcome::kDamaged : LoadOutcome::kNotWellFormed)
+        << size;
+  }
+}
+
+TEST(Load, TellsFilesThatCannotBeRead) {
+  ExpectBytes("", {LoadOutcome::kNotWellFormed, -101, 0, "The file is empty."});
+  Expect(Load<IActiveDirectory>("no-such-file.xml"),
+         {LoadOutcome::kUnreadable, -101, 2, "The file does not exist."});
+  Expect(Load<IActiveDirectory>(kDocumentsFolder),
+         {LoadOutcome::kUnreadable, -101, 5, "Access is denied."});
+  Expect(Load<IActiveDirectory>(PathFromUtf8("a\0b"s)),
+         {LoadOutcome::kUnreadable, -101, 123, "The library cannot open a file of this name."});
+  Expect(LoadFromString<IActiveDirectory>(L""),
+         {LoadOutcome::kNotWellFormed, -102, 0, "The document is empty."});
+  Expect(LoadFromString<IActiveDirectory>(kDomain + L'\0' + L'<'),
+         {LoadOutcome::kNotWellFormed, -101, 0xC00CEE2B, DescribeError(0xC00CEE2B)});
+#if !defined(_WIN32)
+  Expect(Load<IActiveDirectory>("/dev/null"),
+         {LoadOutcome::kUnreadable, -101, 0, "It is not a regular file."});
+  Expect(Load<IActiveDirectory>("Z\xFCrich.xml"),
+         {LoadOutcome::kUnreadable, -101, 123, "The library cannot open a file of this name."});
+#endif
+}
+
+std::atomic<int> passed_on = 0;
+
+/// Reports hold what their own thread caused, and the program's callback gets it all.
+TEST(Diagnostics, BelongToTheirCall) {
+  constexpr int kTimes = 200;
+  passed_on = 0;
+  SetDiagnosticCallback([](const wchar_t*) { ++passed_on; });
+  const auto load = [](const wchar_t* document, const char* text, bool* as_expected) {
+    for (int i = 0; i < kTimes; ++i) {
+      const auto loaded = LoadFromString<IActiveDirectory>(document);
+      const auto& texts = loaded.report.diagnostics;
+      *as_expected = texts.size() == 2 && texts.front().find(text) != std::string::npos;
+      if (!*as_expected) return;
+    }
+  };
+  bool name = false;
+  bool number = false;
+  std::thread other(load, L"<ActiveDirectory><DefaultDomain/></ActiveDirectory>", "attr:Name",
+                    &name);
+  load(L"<ActiveDirectory><DefaultDomain Enabled='x' Name=''/></ActiveDirectory>", "attr:Enabled",
+       &number);
+  other.join();
+  EXPECT_TRUE(name);
+  EXPECT_TRUE(number);
+  EXPECT_EQ(passed_on, 2 * 2 * kTimes);
+  SetDiagnosticCallback(nullptr);
+  LoadFromString<IActiveDirectory>(L"<ActiveDirectory/>");
+  EXPECT_EQ(passed_on, 2 * 2 * kTimes);
+}
+
+}  // namespace
+}  // namespace tolva::support
