@@ -3,6 +3,8 @@
 //   namespace support = tolva::support;
 //   auto [policy, report] = support::Load<TolvaInterface::IILPClientConfiguration>("policy.xml");
 //   if (!report) return Complain(report.message);
+//   ...
+//   if (auto saved = support::Save(*policy, "policy.xml"); !saved) return Complain(saved.message);
 //
 // It is a static library (CMake: tolva::support, pkg-config: tolva-support) that uses the public
 // headers of the shared library and nothing else, and needs C++17.
@@ -17,4 +19,5 @@
 #include <tolva/support/errors.h>
 #include <tolva/support/handles.h>
 #include <tolva/support/load.h>
+#include <tolva/support/save.h>
 #include <tolva/support/text.h>
