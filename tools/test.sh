@@ -127,6 +127,8 @@ part_linux() {
   check 'linux-release: exported symbols' tools/abi.sh linux
   check 'linux-release: docs/documents.md' diff -u docs/documents.md build/linux-release/documents.md
   demo linux-release
+  check 'linux-release: demonstration, C locale' env LC_ALL=C \
+    build/linux-release/examples/tolva_demo examples/documents build/linux-release/demo/Zürich-日本
   local lib
   lib=$(sed -n 's/^CMAKE_INSTALL_LIBDIR:PATH=//p' build/linux-release/CMakeCache.txt)
   package linux-release "$(printf '%s\n' "$lib"/libtolva{.so{,.1,.1.0.0},-support.a} \

@@ -10,7 +10,7 @@ void Print(ClientConfig::IActiveDirectory& root) {
   ClientConfig::IDefaultDomain* const domain = root.GetDefaultDomain();
   DWORD enabled = 0;
   domain->GetEnabled(&enabled);
-  std::cout << "  default domain " << Utf8(domain->GetName())
+  std::cout << "  default domain " << ToUtf8(domain->GetName())
             << (enabled != 0 ? ", in force\n" : ", not in force\n");
 }
 
@@ -25,20 +25,17 @@ bool Change(ClientConfig::IActiveDirectory& root) {
 }  // namespace
 
 bool ShowActiveDirectory(const Folders& folders) {
-  return ShowDocument(folders, "Active Directory", "active-directory.xml",
-                      &ClientConfig::ActiveDir_CreateNewInstance, &Print, &Change);
+  return ShowDocument<ClientConfig::IActiveDirectory>(folders, "Active Directory", &Print, &Change);
 }
 
 bool ShowBrokenDocuments(const Folders& folders) {
   std::cout << "\nBroken documents\n";
   bool all_refused = true;
-  for (const char* const name : {"missing-attribute", "malformed-number", "truncated"}) {
-    const std::unique_ptr<ClientConfig::IActiveDirectory> root(
-        ClientConfig::ActiveDir_CreateNewInstance());
-    const bool read = Load(*root, folders.documents / "broken" / (std::string(name) + ".xml"));
-    const bool at_defaults = root->GetDefaultDomain()->GetName().empty();
-    std::cout << (at_defaults ? "  the node is at its defaults\n" : "  the node holds something\n");
-    all_refused = all_refused && !read && at_defaults;
+  for (const char* const name :
+       {"missing-attribute.xml", "malformed-number.xml", "truncated.xml"}) {
+    const std::filesystem::path file = folders.documents / "broken" / name;
+    const auto [root, report] = support::Load<ClientConfig::IActiveDirectory>(file);
+    if (Say("read", file, report) || root != nullptr) all_refused = false;
   }
   return all_refused;
 }

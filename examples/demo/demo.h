@@ -1,7 +1,7 @@
 // What the parts of the demonstration share.
 #pragma once
 
-#include <tolva/tolva.h>
+#include <tolva/support.h>
 
 #include <filesystem>
 #include <iostream>
@@ -10,20 +10,13 @@
 
 namespace demo {
 
-/// Gives a manager back.
-struct Destroy {
-  void operator()(IXMLLiteManager* manager) const { tolvaDestroyXMLManager(manager); }
-};
-using Manager = std::unique_ptr<IXMLLiteManager, Destroy>;
+namespace support = tolva::support;
 
 /// Wide text for the console.
-std::string Utf8(const std::wstring& text);
+using support::ToUtf8;
 
-/// Reads a document's root from a file; says what came of it.
-bool Load(tolva::node::IElement& root, const std::filesystem::path& file);
-
-/// Writes a document's root so that an earlier file is replaced by a whole one or not at all.
-bool Save(const tolva::node::IElement& root, const std::filesystem::path& file);
+/// Says what came of reading or writing a file; whether it went well.
+bool Say(const char* what, const std::filesystem::path& file, const support::Report& report);
 
 /// Prints the lines in which two files differ.
 void PrintDifference(const std::filesystem::path& before, const std::filesystem::path& after);
@@ -37,19 +30,19 @@ struct Folders {
 /// Reads a document, prints what it holds, changes it, writes it, reads it again, and prints the
 /// difference. False when something did not succeed.
 template <class Interface, class Print, class Change>
-bool ShowDocument(const Folders& folders, const char* title, const char* file,
-                  Interface* (*factory)(), Print print, Change change) {
+bool ShowDocument(const Folders& folders, const char* title, Print print, Change change) {
   std::cout << "\n" << title << "\n";
-  const std::unique_ptr<Interface> root(factory());
-  if (!Load(*root, folders.documents / file)) return false;
+  const std::string name = std::string(support::kDocument<Interface>.name) + ".xml";
+  const std::filesystem::path file = folders.documents / name;
+  auto [root, loaded] = support::Load<Interface>(file);
+  if (!Say("read", file, loaded)) return false;
   print(*root);
 
-  const std::filesystem::path before = folders.output / "before" / file;
-  const std::filesystem::path after = folders.output / file;
-  if (!Save(*root, before) || !change(*root) || !Save(*root, after)) return false;
-
-  const std::unique_ptr<Interface> again(factory());
-  if (!Load(*again, after)) return false;
+  const std::filesystem::path before = folders.output / "before" / name;
+  const std::filesystem::path after = folders.output / name;
+  if (!Say("wrote", before, support::Save(*root, before)) || !change(*root)) return false;
+  if (!Say("wrote", after, support::Save(*root, after))) return false;
+  if (!Say("read", after, support::Load<Interface>(after).report)) return false;
   std::cout << "difference:\n";
   PrintDifference(before, after);
   return true;

@@ -33,8 +33,6 @@ int main(int argc, char** argv) {
   const demo::Folders folders{argv[1], argv[2]};
   const std::vector<std::string> wanted(argv + 3, argv + argc);
   std::filesystem::create_directories(folders.output / "before");
-  SetTolvaDebugDumpCallBack(
-      [](const wchar_t* text) { std::cout << "  diagnostic: " << demo::Utf8(text) << "\n"; });
 
   bool as_expected = true;
   for (const Part& part : kParts) {

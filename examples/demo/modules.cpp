@@ -12,23 +12,23 @@ namespace {
 void Print(NGConfInterface::IINGClientConfiguration& root) {
   auto& management = *root.GetClientManagement();
   auto& server = *management.GetServerCommunication();
-  std::cout << "  managed by " << Utf8(server.GetManagementServerHostname()) << ", asked every "
+  std::cout << "  managed by " << ToUtf8(server.GetManagementServerHostname()) << ", asked every "
             << server.GetManagementQueryInterval() << "\n";
   NGConfInterface::INGUserSetting* users = nullptr;
   if (management.GetNGUserSetting(&users) == 0) {
     for (DWORD i = 0; i < users->GetNGUserCount(); ++i) {
-      std::cout << "  user " << Utf8(users->GetNGUserAt(i)->GetName()) << "\n";
+      std::cout << "  user " << ToUtf8(users->GetNGUserAt(i)->GetName()) << "\n";
     }
   }
   std::wstring domain;
   if (management.GetDefaultDomainName(&domain) == 0) {
-    std::cout << "  default domain " << Utf8(domain) << "\n";
+    std::cout << "  default domain " << ToUtf8(domain) << "\n";
   }
   NGConfInterface::IScanEngineWhiteLists* lists = nullptr;
   auto& scan = *root.GetScanEngineConfiguration()->GetScanSetting();
   if (scan.GetScanEngineWhiteLists(&lists) != 0) return;
   for (DWORD i = 0; i < lists->GetIPNodeCount(); ++i) {
-    std::cout << "  never scanned: " << Utf8(lists->GetIPNodeAt(i)->GetIPRange()) << "\n";
+    std::cout << "  never scanned: " << ToUtf8(lists->GetIPNodeAt(i)->GetIPRange()) << "\n";
   }
 }
 
@@ -46,7 +46,7 @@ void PrintSettings(const char* name, const List& list) {
 }
 
 void Print(GlobalConfInterface::IIGLOBALClientConfiguration& root) {
-  std::cout << "  updates from " << Utf8(root.GetAutoUpdate()->GetUpdateServer()->GetURL())
+  std::cout << "  updates from " << ToUtf8(root.GetAutoUpdate()->GetUpdateServer()->GetURL())
             << ", looked for every " << root.GetAutoUpdate()->GetFrequency() << "\n";
   GlobalConfInterface::ICustomSetting* custom = nullptr;
   if (root.GetCustomSetting(&custom) != 0) return;
@@ -70,9 +70,9 @@ bool Change(GlobalConfInterface::IIGLOBALClientConfiguration& root) {
 // ---- proxy -------------------------------------------------------------------------------------
 
 void Print(ProxyClientConfig::IIPXYClientConfiguration& root) {
-  std::cout << "  PAC file " << Utf8(root.GetProxySetting()->GetPACFile()->GetURL()) << "\n";
+  std::cout << "  PAC file " << ToUtf8(root.GetProxySetting()->GetPACFile()->GetURL()) << "\n";
   std::cout << "  next version "
-            << Utf8(root.GetClientSetting()->GetUpdate()->GetDownload()->GetNewVersion()) << "\n";
+            << ToUtf8(root.GetClientSetting()->GetUpdate()->GetDownload()->GetNewVersion()) << "\n";
 }
 
 bool Change(ProxyClientConfig::IIPXYClientConfiguration& root) {
@@ -88,7 +88,8 @@ void Print(CIConfInterface::ICIClientConfiguration& root) {
   auto& servers = *root.GetConnection()->GetEIMConnection()->GetEIMServerArray();
   for (DWORD i = 0; i < servers.GetEIMServerCount(); ++i) {
     const auto& server = *servers.GetEIMServerAt(i);
-    std::cout << "  server " << Utf8(server.GetHostName()) << ":" << server.GetPortNumber() << "\n";
+    std::cout << "  server " << ToUtf8(server.GetHostName()) << ":" << server.GetPortNumber()
+              << "\n";
   }
 }
 
@@ -102,7 +103,7 @@ bool Change(CIConfInterface::ICIClientConfiguration& root) {
 void Print(RFConfInterface::IRFClientConfiguration& root) {
   const auto print = [](const char* where, auto& servers) {
     for (DWORD i = 0; i < servers.GetRFServerCount(); ++i) {
-      std::cout << "  " << where << " server " << Utf8(servers.GetRFServerAt(i)->GetHostName())
+      std::cout << "  " << where << " server " << ToUtf8(servers.GetRFServerAt(i)->GetHostName())
                 << "\n";
     }
   };
@@ -117,9 +118,9 @@ bool Change(RFConfInterface::IRFClientConfiguration& root) {
 
 /// The overloads above, for the document's interface.
 template <class Interface>
-bool Show(const Folders& folders, const char* title, const char* file, Interface* (*factory)()) {
+bool Show(const Folders& folders, const char* title) {
   return ShowDocument<Interface>(
-      folders, title, file, factory, [](Interface& root) { Print(root); },
+      folders, title, [](Interface& root) { Print(root); },
       [](Interface& root) { return Change(root); });
 }
 
@@ -127,16 +128,11 @@ bool Show(const Folders& folders, const char* title, const char* file, Interface
 
 bool ShowModules(const Folders& folders) {
   const bool all[] = {
-      Show(folders, "NG client", "ng.xml",
-           &NGConfInterface::INGClientConfiguration_CreateNewInstance),
-      Show(folders, "All clients", "global.xml",
-           &GlobalConfInterface::IGLOBALClientConfiguration_CreateNewInstance),
-      Show(folders, "Proxy client", "proxy.xml",
-           &ProxyClientConfig::IPXYClientConfiguration_CreateNewInstance),
-      Show(folders, "CI client", "ci.xml",
-           &CIConfInterface::ICIClientConfiguration_CreateNewInstance),
-      Show(folders, "Remote filtering client", "remote-filtering.xml",
-           &RFConfInterface::IRFClientConfiguration_CreateNewInstance),
+      Show<NGConfInterface::IINGClientConfiguration>(folders, "NG client"),
+      Show<GlobalConfInterface::IIGLOBALClientConfiguration>(folders, "All clients"),
+      Show<ProxyClientConfig::IIPXYClientConfiguration>(folders, "Proxy client"),
+      Show<CIConfInterface::ICIClientConfiguration>(folders, "CI client"),
+      Show<RFConfInterface::IRFClientConfiguration>(folders, "Remote filtering client"),
   };
   return std::all_of(std::begin(all), std::end(all), [](bool shown) { return shown; });
 }

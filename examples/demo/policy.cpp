@@ -8,8 +8,6 @@ namespace {
 
 using namespace TolvaInterface;
 
-using Root = std::unique_ptr<IILPClientConfiguration>;
-
 const char* NameOf(DWORD action) {
   switch (action) {
     case kAllow:
@@ -25,7 +23,7 @@ const char* NameOf(DWORD action) {
 template <class Node>
 std::string Quoted(const Node& node, ConfigResult (Node::*getter)(std::wstring*) const) {
   std::wstring text;
-  return (node.*getter)(&text) == 0 ? "\"" + Utf8(text) + "\"" : "any";
+  return (node.*getter)(&text) == 0 ? "\"" + ToUtf8(text) + "\"" : "any";
 }
 
 void Print(IArCondition& condition) {
@@ -125,12 +123,12 @@ void Print(IILPProtection& protection) {
 }
 
 void Print(IILPClientConfiguration& root) {
-  std::cout << "  policy \"" << Utf8(root.GetName()) << "\", serial number " << Utf8(root.GetSN())
-            << "\n";
+  std::cout << "  policy \"" << ToUtf8(root.GetName()) << "\", serial number "
+            << ToUtf8(root.GetSN()) << "\n";
   ILocationArray& locations = *root.GetLocationArray();
   for (DWORD i = 0; i < locations.GetLocationCount(); ++i) {
     ILocation& location = *locations.GetLocationAt(i);
-    std::cout << "  location \"" << Utf8(location.GetName()) << "\"\n";
+    std::cout << "  location \"" << ToUtf8(location.GetName()) << "\"\n";
     IILPProtection* protection = nullptr;
     if (location.GetILPProtection(&protection) == 0) Print(*protection);
   }
@@ -157,8 +155,7 @@ bool Change(IILPClientConfiguration& root) {
 
 bool ShowPolicy(const Folders& folders) {
   return ShowDocument<IILPClientConfiguration>(
-      folders, "Endpoint policy", "policy.xml", &ILPClientConfiguration_CreateNewInstance,
-      [](IILPClientConfiguration& root) { Print(root); }, &Change);
+      folders, "Endpoint policy", [](IILPClientConfiguration& root) { Print(root); }, &Change);
 }
 
 }  // namespace demo

@@ -16,11 +16,12 @@ bool ShowAnalysisDetails(const Folders& folders) {
     if (root.GetViolations(&violations) != 0) return;
     for (DWORD i = 0; i < violations->GetViolationCount(); ++i) {
       Iviolation& violation = *violations->GetViolationAt(i);
-      std::cout << "  " << Utf8(violation.GetName()->GetContent()) << ": "
+      std::cout << "  " << ToUtf8(violation.GetName()->GetContent()) << ": "
                 << violation.GetNumOfMatches()->GetContent() << " matches\n";
       IdetectedValues& values = *violation.GetDetectedValues();
       for (DWORD k = 0; k < values.GetDetectedValueCount(); ++k) {
-        std::cout << "    " << Utf8(values.GetDetectedValueAt(k)->GetValue()->GetContent()) << "\n";
+        std::cout << "    " << ToUtf8(values.GetDetectedValueAt(k)->GetValue()->GetContent())
+                  << "\n";
       }
     }
   };
@@ -28,13 +29,12 @@ bool ShowAnalysisDetails(const Folders& folders) {
     Iviolations* violations = nullptr;
     if (root.GetViolations(&violations) != 0) return false;
     const std::wstring severity = L"Medium, <\"reviewed\">";
-    const std::unique_ptr<Iseverity> leaf(severity_CreateNewInstance());
+    const auto leaf = support::MakeNode(&severity_CreateNewInstance);
     leaf->SetContent(&severity);
     violations->RemoveViolationAt(2);
     return violations->GetViolationAt(1)->SetSeverity(leaf.get()) == 0;
   };
-  return ShowDocument<IanalysisDetails>(folders, "Analysis details", "analysis-details.xml",
-                                        &analysisDetails_CreateNewInstance, print, change);
+  return ShowDocument<IanalysisDetails>(folders, "Analysis details", print, change);
 }
 
 // ---- message catalogue -------------------------------------------------------------------------
@@ -42,7 +42,7 @@ bool ShowAnalysisDetails(const Folders& folders) {
 void PrintCatalogue(MessageConf::IEndPointMessage& catalogue, const std::string& indentation) {
   std::wstring language = L"no language";
   catalogue.GetLanguage(&language);
-  std::cout << indentation << Utf8(language) << ": " << catalogue.GetMessageCount()
+  std::cout << indentation << ToUtf8(language) << ": " << catalogue.GetMessageCount()
             << " messages\n";
   for (DWORD i = 0; i < catalogue.GetEndpointLocalMsgCount(); ++i) {
     MessageConf::IEndpointLocalMsg& local = *catalogue.GetEndpointLocalMsgAt(i);
@@ -58,14 +58,13 @@ bool ShowMessageCatalogue(const Folders& folders) {
   const auto change = [](IEndPointMessage& root) {
     const std::wstring text = L"Prüfung beendet.";
     const DWORD id = 1003;
-    const std::unique_ptr<IMessage> message(Message_CreateNewInstance());
+    const auto message = support::MakeNode(&Message_CreateNewInstance);
     message->SetID(&id);
     message->GetContent()->SetContent(&text);
     message->SetDescription(root.GetMessageAt(2)->GetDescription());
     return root.GetEndpointLocalMsgAt(0)->GetEndPointMessageAt(0)->AddMessage(message.get()) == 0;
   };
-  return ShowDocument<IEndPointMessage>(folders, "Message catalogue", "message-catalogue.xml",
-                                        &EndPointMessage_CreateNewInstance, print, change);
+  return ShowDocument<IEndPointMessage>(folders, "Message catalogue", print, change);
 }
 
 // ---- installation ------------------------------------------------------------------------------
@@ -77,7 +76,7 @@ bool ShowInstallConfig(const Folders& folders) {
     root.GetFeature()->GetDiscoveryEnable(&discovery);
     std::wstring directory = L"the usual directory";
     root.GetInstallSetting()->GetInstallDirectory(&directory);
-    std::cout << "  into " << Utf8(directory) << (discovery == 0 ? ", without" : ", with")
+    std::cout << "  into " << ToUtf8(directory) << (discovery == 0 ? ", without" : ", with")
               << " discovery\n";
   };
   const auto change = [](IInstallConfig& root) {
@@ -85,8 +84,7 @@ bool ShowInstallConfig(const Folders& folders) {
     root.GetInstallSetting()->SetInstallDirectory(nullptr);
     return root.GetFeature()->SetDiscoveryEnable(&on) == 0;
   };
-  return ShowDocument<IInstallConfig>(folders, "Installation", "install-config.xml",
-                                      &InstallConfig_CreateNewInstance, print, change);
+  return ShowDocument<IInstallConfig>(folders, "Installation", print, change);
 }
 
 // ---- patch history -----------------------------------------------------------------------------
@@ -96,7 +94,7 @@ bool ShowPatchHistory(const Folders& folders) {
   const auto print = [](IEndpointFilePatches& root) {
     for (DWORD i = 0; i < root.GetPatchFileInfoCount(); ++i) {
       IPatchFileInfo& patch = *root.GetPatchFileInfoAt(i);
-      std::cout << "  " << Utf8(patch.GetUpdateDate()) << " " << Utf8(patch.GetName()) << ": "
+      std::cout << "  " << ToUtf8(patch.GetUpdateDate()) << " " << ToUtf8(patch.GetName()) << ": "
                 << patch.GetModuleListingArray()->GetWSModuleCount() << " modules\n";
     }
   };
@@ -109,8 +107,7 @@ bool ShowPatchHistory(const Folders& folders) {
     IPatchFileInfo& added = *root.GetPatchFileInfoAt(3);
     return added.SetPatchVersion(&version) == 0 && added.SetUpdateDate(&date) == 0;
   };
-  return ShowDocument<IEndpointFilePatches>(folders, "Patch history", "patch-history.xml",
-                                            &EndpointFilePatches_CreateNewInstance, print, change);
+  return ShowDocument<IEndpointFilePatches>(folders, "Patch history", print, change);
 }
 
 }  // namespace
