@@ -116,7 +116,7 @@ part_sources() {
   echo 'Sources'
   check 'formatting' tools/format.sh --check
   check 'shell scripts' shellcheck tools/*.sh tests/tables/*.sh .ci/run
-  check 'example of the README' tools/check-readme.sh
+  check 'examples of the pages' tools/check-examples.sh
   check 'tables that must not compile' tools/must-fail.sh
 }
 
