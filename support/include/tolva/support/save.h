@@ -5,7 +5,8 @@
 // name. So whoever opens the file at any moment sees the old document or the new one, and so does
 // whoever looks after the process was killed or the power failed; after these, the file with the
 // name of its own may be left over. Whatever else fails, the old file stays as it is and nothing is
-// left beside it. Of two saves to one file at the same time the later wins.
+// left beside it. Of two saves to one file at the same time the later wins. Windows has no such
+// single step that keeps the access list: see the last point.
 //
 // - A symbolic link stays, and the file that it leads to is replaced, or made if it is missing.
 // - Mode, owner, access list and, where the file system keeps them, extended attributes of the
@@ -15,8 +16,10 @@
 //   the process may not write, one whose owner or access list cannot be kept, one with further hard
 //   links, links in a circle.
 // - The process needs the right to make files in the folder and, off Windows, to read the folder.
-// - On Windows a file that another process holds open without sharing its deletion is refused, and
-//   an old file is kept under a name of its own for the moment in which it is replaced.
+// - On Windows a file that another process holds open without sharing its deletion is refused.
+//   An existing file is replaced by ReplaceFileW, which moves the old one to a ".tolva-....tmp"
+//   before the new one takes its name: for that moment there is no file of that name, and when the
+//   process is killed or the power fails just then, both are beside it under such names.
 #pragma once
 
 #include <tolva/support/documents.h>
