@@ -76,7 +76,10 @@ class OwnReader {
     TextStream stream(document, block);
     parser_.SetInput(&stream, false);
     HRESULT result = S_OK;
-    while ((result = parser_.Read()) == S_OK) AddNode();
+    for (std::size_t n = 0; result == S_OK && n <= document.size(); ++n) {
+      result = parser_.Read();
+      if (result == S_OK) AddNode();
+    }
     parser_.SetInput(nullptr, false);
     return result;
   }

@@ -6,6 +6,7 @@
 #include "platform/platform.h"
 #include "support/files.h"
 #include "support/nodes.h"
+#include "support/steps.h"
 #include "support/streams.h"
 #endif
 
@@ -52,7 +53,8 @@ bool ProbeTruncatedInput() {
   reader.Attach(static_cast<IXmlReader*>(made));
   if (FAILED(reader->SetInput(&stream))) return false;
   XmlNodeType type = XmlNodeType_None;
-  while (reader->Read(&type) == S_OK) {
+  Steps steps;
+  while (steps.Take() && reader->Read(&type) == S_OK) {
   }
   return !stream.has_run_out();
 }

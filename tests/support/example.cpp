@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <sstream>
+#include <stdexcept>
 
 #include "support/capabilities.h"
 #include "support/nodes.h"
@@ -37,6 +38,11 @@ std::wstring Without(const std::wstring& text, std::size_t start, std::size_t en
   return text.substr(0, start) + text.substr(end);
 }
 
+/// Ends the test: GoogleTest reports what is thrown.
+void Require(bool holds, const char* reason, const std::wstring& name) {
+  if (!holds) throw std::runtime_error(reason + (": " + std::string(name.begin(), name.end())));
+}
+
 }  // namespace
 
 Example::Example(const char* file, Factory make_root, std::vector<ElementRule> rules,
@@ -51,6 +57,7 @@ Example::Example(const char* file, Factory make_root, std::vector<ElementRule> r
   }
   text_.erase(0, text_.find(L"?>") + 3);
   Parse();
+  CheckRules();
   Diagnostics ignored;
   fresh_ = WriteText(*make_root_());
 }
@@ -59,8 +66,9 @@ void Example::Parse() {
   std::vector<std::size_t> open;
   for (std::size_t at = 0; (at = text_.find(L'<', at)) != std::wstring::npos;) {
     const std::size_t close = text_.find(L'>', at);
-    ASSERT_NE(close, std::wstring::npos);
+    Require(close != std::wstring::npos, "a tag does not end", text_.substr(at));
     if (text_[at + 1] == L'/') {
+      Require(!open.empty(), "an end tag without an element", text_.substr(at, close + 1 - at));
       elements_[open.back()].close = at;
       elements_[open.back()].end = close + 1;
       open.pop_back();
@@ -82,6 +90,8 @@ void Example::Parse() {
     for (std::size_t blank = name_end; text_[blank] == L' ';) {
       const std::size_t equals = text_.find(L'=', blank);
       const std::size_t end = text_.find(L'"', equals + 2) + 1;
+      Require(blank < equals && equals < end && end <= close, "an attribute does not end",
+              text_.substr(blank, close - blank));
       element.attributes.push_back(
           {text_.substr(blank + 1, equals - blank - 1), blank, equals + 2, end});
       blank = end;
@@ -106,27 +116,46 @@ std::wstring Example::ReportedName(const Element& element) const {
 
 std::vector<Example::AttributeRule> Example::AttributesOf(const Element& element) const {
   std::vector<AttributeRule> rules;
-  const ElementRule* const rule = FindRule(element.rule);
-  if (rule == nullptr) {
-    ADD_FAILURE() << "no rule for " << testing::PrintToString(element.rule);
-    return rules;
-  }
-  for (const std::wstring& word : Words(rule->attributes)) {
+  for (const std::wstring& word : Words(FindRule(element.rule)->attributes)) {
     const std::size_t colon = word.find(L':');
     rules.push_back({NameOf(word), word[colon + 1], word.substr(colon + 2)});
   }
   return rules;
 }
 
+/// How the parent's account names the child; empty: not at all.
+std::wstring Example::ChildWordOf(const Element& child) const {
+  for (const std::wstring& word : Words(FindRule(elements_[child.parent].rule)->children)) {
+    if (NameOf(word) == child.name) return word;
+  }
+  return {};
+}
+
 /// How often the element occurs in its parent: '!', '?', '*' or 0.
 wchar_t Example::MarkOf(const Element& child) const {
-  const ElementRule* const parent = FindRule(elements_[child.parent].rule);
-  for (const std::wstring& word : Words(parent == nullptr ? L"" : parent->children)) {
-    if (NameOf(word) != child.name) continue;
-    return word.size() > child.name.size() ? word.back() : L'\0';
+  const std::wstring word = ChildWordOf(child);
+  return word.size() > child.name.size() ? word.back() : L'\0';
+}
+
+/// The accounts tell of all that the example has.
+void Example::CheckRules() const {
+  Require(!elements_.empty(), "a document without elements", text_);
+  for (const Element& element : elements_) {
+    Require(FindRule(element.rule) != nullptr, "no account of the element", element.rule);
+    const std::vector<AttributeRule> rules = AttributesOf(element);
+    auto rule = rules.begin();
+    for (const Attribute& attribute : element.attributes) {
+      rule = std::find_if(rule, rules.end(), [&](const AttributeRule& candidate) {
+        return candidate.name == attribute.name;
+      });
+      Require(rule != rules.end(), "no account of the attribute, or another order",
+              element.name + L" " + attribute.name);
+    }
   }
-  ADD_FAILURE() << "no rule for the child " << testing::PrintToString(child.name);
-  return 0;
+  for (std::size_t i = 1; i < elements_.size(); ++i) {
+    Require(!ChildWordOf(elements_[i]).empty(), "no account of the child",
+            elements_[elements_[i].parent].name + L"/" + elements_[i].name);
+  }
 }
 
 Texts Example::Depart(const Texts& texts) const {
@@ -161,7 +190,7 @@ Texts Example::WithParents(Texts texts, std::size_t element, bool reading) const
 
 Example::Node Example::Read() const {
   Node root = make_root_();
-  EXPECT_EQ(ReadText(*root, text_), 0);
+  Require(ReadText(*root, text_) == 0, "the example cannot be read", elements_[0].name);
   return root;
 }
 
@@ -224,8 +253,7 @@ void Example::ExpectReadFaults() const {
     const std::vector<AttributeRule> rules = AttributesOf(element);
     std::size_t place = 0;
     for (const Attribute& attribute : element.attributes) {
-      while (place < rules.size() && rules[place].name != attribute.name) ++place;
-      ASSERT_LT(place, rules.size()) << "not in order: " << testing::PrintToString(attribute.name);
+      while (rules[place].name != attribute.name) ++place;
       const AttributeRule& rule = rules[place];
       SCOPED_TRACE(testing::PrintToString(element.name + L" " + attribute.name));
       const std::wstring names = L" element:" + ReportedName(element) + L", attr:" + attribute.name;

@@ -44,6 +44,7 @@ struct Departures {
   std::map<std::wstring, std::pair<std::wstring, std::wstring>> announced = {};
 };
 
+/// What contradicts itself or cannot be read throws, which ends the test with the reason.
 class Example {
  public:
   using Node = std::unique_ptr<node::IElement>;
@@ -103,7 +104,9 @@ class Example {
   const ElementRule* FindRule(const std::wstring& name) const;
   std::wstring ReportedName(const Element& element) const;
   std::vector<AttributeRule> AttributesOf(const Element& element) const;
+  std::wstring ChildWordOf(const Element& child) const;
   wchar_t MarkOf(const Element& child) const;
+  void CheckRules() const;
   Texts Depart(const Texts& texts) const;
   Texts WithParents(Texts texts, std::size_t element, bool reading) const;
   void ExpectTextFaults(std::size_t index, const AttributeRule& rule) const;
