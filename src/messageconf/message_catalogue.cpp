@@ -56,7 +56,6 @@ constinit const Schema CEndPointMessage::kSchema = Checked({
 CEndpointLocalMsg::CEndpointLocalMsg() = default;
 CEndpointLocalMsg::CEndpointLocalMsg(const CEndpointLocalMsg& other) = default;
 CEndpointLocalMsg::CEndpointLocalMsg(CEndpointLocalMsg&& other) noexcept = default;
-CEndpointLocalMsg& CEndpointLocalMsg::operator=(const CEndpointLocalMsg& other) = default;
 CEndpointLocalMsg& CEndpointLocalMsg::operator=(CEndpointLocalMsg&& other) noexcept = default;
 CEndpointLocalMsg::~CEndpointLocalMsg() = default;
 

@@ -39,7 +39,7 @@ class CEndpointLocalMsg final : public Node<CEndpointLocalMsg, IEndpointLocalMsg
   CEndpointLocalMsg();
   CEndpointLocalMsg(const CEndpointLocalMsg& other);
   CEndpointLocalMsg(CEndpointLocalMsg&& other) noexcept;
-  CEndpointLocalMsg& operator=(const CEndpointLocalMsg& other);
+  CEndpointLocalMsg& operator=(const CEndpointLocalMsg& other) = delete;
   CEndpointLocalMsg& operator=(CEndpointLocalMsg&& other) noexcept;
   ~CEndpointLocalMsg() override;
 

@@ -240,7 +240,7 @@ ConfigResult ReadAttributes(const Schema& schema, IElement& node, CXMLLiteManage
     const wchar_t* const text = reader.GetAttribute(row.name);
     if (text == nullptr) {
       if (row.is_one_when_absent) {
-        if (field.present != nullptr) *field.present = 1;
+        *field.present = 1;
         NumberAt(field) = 1;
       } else if (!row.is_optional && !row.may_be_absent) {
         ReportAttributeOr(row.read_report, AbsentFaultOf(row, schema.dialect),

@@ -99,7 +99,7 @@ class LazyChild {
       : child_(other.child_ == nullptr ? nullptr : std::make_unique<C>(*other.child_)),
         present_(other.present_) {}
   LazyChild(LazyChild&&) noexcept = default;
-  LazyChild& operator=(const LazyChild& other) { return *this = LazyChild(other); }
+  LazyChild& operator=(const LazyChild&) = delete;  // Assign copies
   LazyChild& operator=(LazyChild&& other) noexcept {
     // Callers may hold the address of an existing child, so it stays where it is.
     if (child_ == nullptr) {
@@ -169,10 +169,7 @@ class ChildList final : public ItemList {
     for (const auto& item : other.items_) items_.push_back(std::make_unique<C>(*item));
   }
   ChildList(ChildList&&) noexcept = default;
-  ChildList& operator=(const ChildList& other) {
-    if (this != &other) items_ = std::move(ChildList(other).items_);
-    return *this;
-  }
+  ChildList& operator=(const ChildList&) = delete;  // Assign copies
   ChildList& operator=(ChildList&&) noexcept = default;
   ~ChildList() = default;
 

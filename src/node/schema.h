@@ -99,7 +99,8 @@ struct Attribute {
     return row;
   }
   consteval Attribute OneWhenAbsent() const {
-    internal::Require(type == ValueType::kNumber, "only a number can be 1 when it is absent");
+    internal::Require(is_optional && type == ValueType::kNumber,
+                      "only an optional number can be 1 when it is absent");
     Attribute row = *this;
     row.is_one_when_absent = true;
     return row;

@@ -53,8 +53,9 @@ ConfigResult CXMLLiteManagerReader::OpenFromString(const wchar_t* xml_text) {
   if (!reader_) return kFailed;
   if (xml_text == nullptr) return kInvalidArgument;
   const std::size_t length = std::wcslen(xml_text);
-  if (length == 0) return kInvalidArgument;  // the conversion would change the last error
-  if (length > static_cast<std::size_t>(std::numeric_limits<int>::max())) return kInvalidArgument;
+  // Of nothing, the conversion would change the last error; of more than this, it takes nothing.
+  constexpr auto kMost = static_cast<std::size_t>(std::numeric_limits<int>::max());
+  if (length == 0 || length > kMost) return kInvalidArgument;
   const auto wide_size = static_cast<int>(length);
   const int size =
       WideCharToMultiByte(CP_UTF8, 0, xml_text, wide_size, nullptr, 0, nullptr, nullptr);

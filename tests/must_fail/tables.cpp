@@ -45,7 +45,7 @@ constexpr Child kChildren[] = {
 };
 constexpr Content kText = TextOf<&CLeaf::number>().LeadingDigits();
 constexpr Content kOptionalText = TextOf<&CLeaf::optional_string>().AlwaysWritten();
-#elif CASE == 1   // only a number can be 1 when it is absent
+#elif CASE == 1   // only an optional number can be 1 when it is absent
 constexpr Attribute kRow = Attr<&CLeaf::optional_string>(L"Name").OneWhenAbsent();
 #elif CASE == 2   // a required attribute has no presence flag
 constexpr Attribute kRow = Attr<&CLeaf::number>(L"Name").PresentWhenClear();
