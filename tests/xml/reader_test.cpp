@@ -116,6 +116,11 @@ TEST_F(ManagerReader, ConvertsStrings) {
   EXPECT_STREQ(reader_.GetAttribute(L"b"), L"x\uFFFDy");
   Open(L"<A b='\xDC00\xDC00'/>");
   EXPECT_STREQ(reader_.GetAttribute(L"b"), L"\uFFFD\uFFFD");
+  Open(L"<A b='\U0010FFFF'/>");
+  EXPECT_STREQ(reader_.GetAttribute(L"b"), L"\U0010FFFF");
+  // The encoding is that of the conversion, whatever the text declares.
+  Open(L"<?xml version='1.0' encoding='ISO-8859-1'?><A b='\u00E9'/>");
+  EXPECT_STREQ(reader_.GetAttribute(L"b"), L"\u00E9");
 }
 
 TEST_F(ManagerReader, FindsAttributes) {
@@ -345,6 +350,7 @@ TEST_F(ManagerReader, IsClosedWhenMemoryRunsOutInAnOpen) {
   for (const auto& open : opens) {
     bool failed = true;
     for (std::size_t n = 0; failed; ++n) {
+      ASSERT_LT(n, 1000U);
       reader_.Close();
       failed = false;
       try {
@@ -371,6 +377,10 @@ TEST_F(ManagerReader, SeesTheZeroBehindAString) {
   ASSERT_EQ(reader_.OpenFile(file.Wide().c_str()), 0);
   EXPECT_EQ(reader_.NextNode(), kNone);
   EXPECT_EQ(tolvaGetLastError(), 1U);
+  // A zero that a file ends with is no character.
+  file.Write({"<A/>\0", 5});
+  ASSERT_EQ(reader_.OpenFile(file.Wide().c_str()), 0);
+  EXPECT_EQ(tolvaReadToEnd(&reader_), -101);
 }
 #endif
 
@@ -410,6 +420,21 @@ TEST(Manager, HasALastErrorForEachThread) {
   other.join();
   EXPECT_EQ(error, 1U);
 }
+
+#if !defined(_WIN32)
+TEST(Manager, WithoutMemoryForItsReaderRefusesEverything) {
+  ManagerPtr reader;
+  {
+    const FailingAllocations failing(1);  // the first makes the manager itself
+    reader = MakeReader();
+  }
+  EXPECT_EQ(tolvaGetLastError(), 0x8007000EU);
+  const TempFile file("<A/>");
+  EXPECT_EQ(reader->OpenFile(file.Wide().c_str()), -101);
+  EXPECT_EQ(reader->OpenFromString(L"<A/>"), -101);
+  EXPECT_EQ(reader->Close(), 0);
+}
+#endif
 
 TEST(Manager, IsReaderOrWriterByTheArgument) {
   const ManagerPtr reader = MakeReader();
