@@ -51,10 +51,10 @@ format: ## Format the sources
 	@tools/packages.sh test
 	@tools/format.sh
 
-tidy: ## clang-tidy over the sources
+tidy: ## clang-tidy over the sources that have changed since they were clean
 	@tools/packages.sh test
 	@cmake --preset linux-clang > /dev/null
-	@tools/tidy.sh
+	@tools/tidy.py
 
 fuzz: ## Run each fuzz target for a minute, after the inputs that are known
 	@tools/packages.sh test

@@ -218,7 +218,7 @@ part_abi() {
 part_tidy() {
   echo 'clang-tidy'
   check 'linux-clang: configure' cmake --preset linux-clang || return
-  check 'clang-tidy' tools/tidy.sh
+  check 'clang-tidy' tools/tidy.py
 }
 
 parts=("$@")
