@@ -1,6 +1,10 @@
 # Everything that this repository can do, by name: `make help`.
 .DEFAULT_GOAL := help
-.PHONY: help demo demo-windows build test abi documents format tidy conformance fuzz bench clean
+.PHONY: help demo demo-windows build quick test abi lists documents format tidy
+.PHONY: conformance fuzz bench clean
+
+# Where ccache is installed, what has been compiled once is not compiled again.
+export CMAKE_CXX_COMPILER_LAUNCHER ?= $(shell command -v ccache)
 
 help: ## This list
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-14s %s\n", $$1, $$2 }' Makefile
@@ -29,6 +33,10 @@ build: ## The library alone, optimised, in build/linux-release
 	@cmake --preset linux-release -DTOLVA_TESTS=OFF > /dev/null
 	@cmake --build --preset linux-release --target tolva
 
+quick: ## After a change: formatting, release build, unit tests
+	@tools/packages.sh test
+	@tools/test.sh quick
+
 test: ## All tests and checks, on Linux and Windows
 	@tools/packages.sh test
 	@tools/test.sh
@@ -36,6 +44,17 @@ test: ## All tests and checks, on Linux and Windows
 abi: ## Compare the binary interface with the lists in abi/
 	@tools/packages.sh test
 	@tools/abi.sh
+
+lists: ## Make the lists of the binary interface and docs/documents.md anew
+	@tools/packages.sh test
+	@cmake --preset linux-release > /dev/null
+	@cmake --build --preset linux-release --target tolva documents
+	@cmake --preset windows > /dev/null
+	@cmake --build --preset windows --target tolva
+	@tools/abi.sh --update
+	@tools/abi.sh linux --update
+	@tools/abi.sh windows --update
+	@cp build/linux-release/documents.md docs/documents.md
 
 documents: ## Make docs/documents.md anew from the tables
 	@tools/packages.sh build

@@ -5,7 +5,7 @@ set -eu
 
 build='g++ cmake ninja-build'
 windows='g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64'
-test="$build $windows googletest clang clang-format clang-tidy llvm libclang-rt-14-dev pkg-config shellcheck libexpat1-dev valgrind"
+test="$build $windows googletest clang clang-format clang-tidy llvm libclang-rt-14-dev pkg-config shellcheck libexpat1-dev valgrind ccache python3 pyflakes3"
 case ${1:-} in
   build) wanted=$build ;;
   windows) wanted="$build $windows" ;;

@@ -2,7 +2,7 @@
 # Runs everything that can fail: each build with its tests, and the checks of the sources and of the
 # binary interface. Ends with one line of totals; fails when anything did.
 #   test.sh [part...]      only these parts: sources linux conformance sanitizers valgrind fuzz
-#                          windows windows-own abi tidy
+#                          windows windows-own abi tidy; or quick, what to run after each change
 set -u
 cd "$(dirname "$0")/.." || exit
 
@@ -40,10 +40,11 @@ check() {
   fi
 }
 
-# programs <preset> [launcher]: every test program of a build, each of its tests counted
+# programs <preset> [launcher] [pattern]: the test programs of a build, each of its tests counted
 programs() {
-  local preset=$1 launcher=${2:-} program name xml log status ran bad left_out found=no
-  for program in build/"$preset"/tests/tolva_*_tests*; do
+  local preset=$1 launcher=${2:-} pattern=${3:-*} program name xml log status ran bad left_out found=no
+  # shellcheck disable=SC2231  # the pattern is one
+  for program in build/"$preset"/tests/tolva_${pattern}_tests*; do
     [ -x "$program" ] || continue
     found=yes
     name=$(basename "$program" .exe)
@@ -116,6 +117,7 @@ part_sources() {
   echo 'Sources'
   check 'formatting' tools/format.sh --check
   check 'shell scripts' shellcheck tools/*.sh tests/tables/*.sh .ci/run
+  check 'Python scripts' pyflakes3 tools/*.py
   check 'examples of the pages' tools/check-examples.sh
   check 'tables that must not compile' tools/must-fail.sh
 }
@@ -142,6 +144,15 @@ pkg_config_consumer() { # <library folder>
   # shellcheck disable=SC2086
   g++ -std=c++17 tests/consumer/main.cpp $flags -Wl,-rpath,"$1" -o build/linux-release/pc-consumer &&
     build/linux-release/pc-consumer build/linux-release/pc-consumer.xml
+}
+
+part_quick() {
+  check 'formatting' tools/format.sh --check
+  check 'linux-release: configure' cmake --preset linux-release || return
+  check 'linux-release: build' cmake --build --preset linux-release \
+    --target tolva_inner_tests tolva_api_tests || return
+  programs linux-release '' inner
+  programs linux-release '' api
 }
 
 part_conformance() {
