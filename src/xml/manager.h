@@ -18,7 +18,6 @@ class CXMLLiteManager : public IXMLLiteManager {
   explicit CXMLLiteManager(Kind kind) : kind_(kind) {}
   ~CXMLLiteManager() override { CXMLLiteManager::Close(); }
 
-  ConfigResult OpenFile(const wchar_t* /*path*/) override { return kFailed; }
   ConfigResult OpenFromString(const wchar_t* /*xml_text*/) override { return kFailed; }
 
   /// Releases the stream.
