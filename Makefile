@@ -1,6 +1,6 @@
 # Everything that this repository can do, by name: `make help`.
 .DEFAULT_GOAL := help
-.PHONY: help demo demo-windows build quick test abi lists documents format tidy
+.PHONY: help demo demo-windows build quick test mutants abi lists documents format tidy
 .PHONY: conformance fuzz bench clean
 
 # Where ccache is installed, what has been compiled once is not compiled again.
@@ -40,6 +40,10 @@ quick: ## After a change: formatting, release build, unit tests
 test: ## All tests and checks, on Linux and Windows
 	@tools/packages.sh test
 	@tools/test.sh
+
+mutants: ## Whether the tests notice small faults (ARGS='--count 20 ...', see tools/mutants.py)
+	@tools/packages.sh mutants
+	@tools/mutants.py $(ARGS)
 
 abi: ## Compare the binary interface with the lists in abi/
 	@tools/packages.sh test

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages that a target needs, if any of them is missing:
-#   packages.sh build|windows|test|conformance|bench
+#   packages.sh build|windows|test|mutants|conformance|bench
 set -eu
 
 build='g++ cmake ninja-build'
@@ -10,6 +10,7 @@ case ${1:-} in
   build) wanted=$build ;;
   windows) wanted="$build $windows" ;;
   test) wanted=$test ;;
+  mutants) wanted="$build googletest libexpat1-dev ccache python3" ;;
   conformance)
     wanted=$test
     command -v npm > /dev/null || wanted="$wanted npm"
@@ -17,7 +18,7 @@ case ${1:-} in
   bench)
     wanted="$build libbenchmark-dev libpugixml-dev libexpat1-dev libxml2-dev libxerces-c-dev xsdcxx"
     ;;
-  *) echo 'usage: packages.sh build|windows|test|conformance|bench' >&2; exit 2 ;;
+  *) echo 'usage: packages.sh build|windows|test|mutants|conformance|bench' >&2; exit 2 ;;
 esac
 
 missing=
