@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "documents/examples.h"
 #include "platform/platform.h"
 #include "support/capabilities.h"
+#include "support/documents.h"
 #include "support/files.h"
 #include "support/nodes.h"
 #include "support/steps.h"
@@ -27,7 +27,7 @@ namespace tolva::test {
 namespace {
 
 #if defined(TOLVA_OWN_XML_LAYER)
-class FailingStreams : public testing::TestWithParam<NamedExample> {};
+class FailingStreams : public testing::TestWithParam<const char*> {};
 
 /// The types of the nodes that come, and what comes behind them.
 std::pair<std::vector<int>, HRESULT> NodesOf(StackStream& stream) {
@@ -46,7 +46,7 @@ std::pair<std::vector<int>, HRESULT> NodesOf(StackStream& stream) {
 
 /// A stream that fails at any byte is reported for what it is, behind the nodes before it.
 TEST_P(FailingStreams, AreReportedBehindWhatTheyGave) {
-  const std::string document = WriteFile(*GetParam().make().Read());
+  const std::string document = ReadDocument(GetParam());
   TextStream whole(document);
   const auto [all, end] = NodesOf(whole);
   EXPECT_EQ(end, S_FALSE);
@@ -64,13 +64,13 @@ TEST_P(FailingStreams, AreReportedBehindWhatTheyGave) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, FailingStreams, testing::ValuesIn(kExamples), NameOfExample);
+INSTANTIATE_TEST_SUITE_P(All, FailingStreams, testing::ValuesIn(kDocuments));
 #endif
 
 /// A call of the platform's writer that fails, and works again the next time: whatever it should
 /// have written is lost, and whoever closes the document is told.
 TEST(PassingFailures, OfTheWriterAreTold) {
-  const Example::Node root = PolicyExample().Read();
+  const auto root = ReadPolicy();
   const TempFile file;
   Diagnostics diagnostics;
   for (int n = 0;; ++n) {
@@ -94,10 +94,9 @@ TEST(PassingFailures, OfTheWriterAreTold) {
 
 #if !defined(_WIN32)
 /// A policy that takes many blocks to write.
-Example::Node MakeLargePolicy() {
-  using namespace TolvaInterface;
-  Example::Node root = PolicyExample().Read();
-  ILocationArray& locations = *static_cast<IILPClientConfiguration&>(*root).GetLocationArray();
+std::unique_ptr<node::IElement> MakeLargePolicy() {
+  auto root = ReadPolicy();
+  TolvaInterface::ILocationArray& locations = *root->GetLocationArray();
   for (int i = 1; i < 60; ++i) EXPECT_EQ(locations.AddLocation(locations.GetLocationAt(0)), 0);
   return root;
 }
@@ -113,7 +112,7 @@ ConfigResult WriteAndClose(const node::IElement& root, const TempFile& file) {
 
 /// A disk that is full once: either the file is whole, or the caller has been told.
 TEST(PassingFailures, OfTheDiskAreTold) {
-  const Example::Node root = MakeLargePolicy();
+  const auto root = MakeLargePolicy();
   const std::string whole = WriteFile(*root);
   ASSERT_GT(whole.size(), 130'000U);
   Diagnostics diagnostics;
@@ -135,7 +134,7 @@ TEST(PassingFailures, OfTheDiskAreTold) {
 /// fills it.
 TEST(PassingFailures, FallIntoAnyCall) {
   using namespace TolvaInterface;
-  const Example::Node root = MakeLargePolicy();
+  const auto root = MakeLargePolicy();
   auto& policy = static_cast<IILPClientConfiguration&>(*root);
   Diagnostics diagnostics;
   std::wstring name = policy.GetName();
@@ -148,7 +147,7 @@ TEST(PassingFailures, FallIntoAnyCall) {
 }
 
 TEST(PassingFailures, OfAnInterruptedWriteAreNone) {
-  const Example::Node root = MakeLargePolicy();
+  const auto root = MakeLargePolicy();
   const std::string whole = WriteFile(*root);
   const TempFile file;
   for (const int n : {0, 1, 2}) {
@@ -160,7 +159,7 @@ TEST(PassingFailures, OfAnInterruptedWriteAreNone) {
 }
 
 TEST(FailingClose, IsTold) {
-  const Example::Node root = PolicyExample().Read();
+  const auto root = ReadPolicy();
   const TempFile file;
   const ManagerPtr writer = MakeWriter();
   ASSERT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
@@ -224,12 +223,12 @@ void ExpectFullDisk(const node::IElement& root, const std::string& whole, std::s
 }
 
 TEST(FullDisk, IsReportedWhereverItIsMet) {
-  const Example::Node example = PolicyExample().Read();
+  const auto example = ReadPolicy();
   const std::string one_block = WriteFile(*example);
   for (std::size_t room = 0; room < one_block.size(); ++room) {
     ExpectFullDisk(*example, one_block, room);
   }
-  const Example::Node large = MakeLargePolicy();
+  const auto large = MakeLargePolicy();
   const std::string blocks = WriteFile(*large);
   for (std::size_t room = 0; room < blocks.size(); room += 4093) {
     ExpectFullDisk(*large, blocks, room);

@@ -1,0 +1,62 @@
+#include "node/numbers.h"
+
+#include <gtest/gtest.h>
+
+namespace tolva::test {
+namespace {
+
+TEST(Numbers, AreDigitsAlone) {
+  using node::Numbers;
+  struct Reading {
+    const wchar_t* text;
+    DWORD as_signed;
+    DWORD as_unsigned;
+  };
+  for (const Reading& one : {
+           Reading{L"", 0, 0},
+           Reading{L"007", 7, 7},
+           Reading{L"2147483647", 2147483647, 2147483647},
+           Reading{L"2147483648", 2147483647, 2147483648},
+           Reading{L"4294967295", 2147483647, 4294967295},
+           Reading{L"4294967296", 2147483647, 0},
+           Reading{L"4294967303", 2147483647, 7},
+           Reading{L"9223372036854775807", 2147483647, 4294967295},
+           Reading{L"9223372036854775808", 2147483647, 4294967295},
+           Reading{L"99999999999999999999999999999999", 2147483647, 4294967295},
+           Reading{L"00000000000000000000000000000000000000000000000005", 5, 5},
+       }) {
+    DWORD value = 1;
+    EXPECT_TRUE(node::ParseNumber(one.text, Numbers::kSigned, &value));
+    EXPECT_EQ(value, one.as_signed) << one.text;
+    EXPECT_TRUE(node::ParseNumber(one.text, Numbers::kUnsigned, &value));
+    EXPECT_EQ(value, one.as_unsigned) << one.text;
+  }
+  for (const wchar_t* const text : {L"+1", L"-1", L" 1", L"1 ", L"1\t", L"0x1", L"12a", L"1.0",
+                                    L"\u0661", L"\uFF11", L"\u00B2"}) {
+    DWORD value = 4711;
+    std::uint64_t long_value = 4711;
+    EXPECT_FALSE(node::ParseNumber(text, Numbers::kSigned, &value)) << text;
+    EXPECT_FALSE(node::ParseNumber(text, Numbers::kUnsigned, &value)) << text;
+    EXPECT_FALSE(node::ParseLongNumber(text, &long_value)) << text;
+    EXPECT_EQ(value, 4711U);
+  }
+  std::uint64_t value = 0;
+  EXPECT_TRUE(node::ParseLongNumber(L"18446744073709551614", &value));
+  EXPECT_EQ(value, 18446744073709551614U);
+  EXPECT_TRUE(node::ParseLongNumber(L"18446744073709551616", &value));
+  EXPECT_EQ(value, 18446744073709551615U);
+}
+
+TEST(Numbers, AreWrittenWithOrWithoutASign) {
+  using node::Numbers;
+  node::NumberText text;
+  EXPECT_STREQ(node::FormatNumber(0, Numbers::kSigned, text), L"0");
+  EXPECT_STREQ(node::FormatNumber(2147483647, Numbers::kSigned, text), L"2147483647");
+  EXPECT_STREQ(node::FormatNumber(2147483648, Numbers::kSigned, text), L"-2147483648");
+  EXPECT_STREQ(node::FormatNumber(4294967295, Numbers::kSigned, text), L"-1");
+  EXPECT_STREQ(node::FormatNumber(4294967295, Numbers::kUnsigned, text), L"4294967295");
+  EXPECT_STREQ(node::FormatLongNumber(18446744073709551615U, text), L"18446744073709551615");
+}
+
+}  // namespace
+}  // namespace tolva::test

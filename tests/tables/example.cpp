@@ -1,0 +1,286 @@
+#include "tables/example.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "support/files.h"
+
+namespace tolva::test {
+
+using node::Occurrence;
+using node::ValueType;
+
+namespace {
+
+/// Ends the test: GoogleTest reports what is thrown.
+void Require(bool holds, const char* reason, const std::wstring& name) {
+  if (!holds) throw std::runtime_error(reason + (": " + std::string(name.begin(), name.end())));
+}
+
+std::wstring NameOf(const node::Schema& table) { return table.element; }
+std::wstring NameOf(const node::Attribute& row) { return row.name; }
+std::wstring NameOf(const node::Child& row) { return row.name; }
+
+/// The row of that name; null: there is none.
+template <class Row>
+const Row* Find(std::span<const Row> rows, const std::wstring& name) {
+  const auto found =
+      std::find_if(rows.begin(), rows.end(), [&](const Row& row) { return NameOf(row) == name; });
+  return found == rows.end() ? nullptr : &*found;
+}
+
+bool IsNumber(ValueType type) {
+  return type == ValueType::kNumber || type == ValueType::kLongNumber;
+}
+
+std::wstring ReadDocument(const std::string& name) {
+  std::wstring text = FromUtf8(TempFile::ReadFile(TOLVA_DOCUMENTS "/" + name + ".xml"));
+  // Comments are not written; nor are the line ends after them.
+  for (std::size_t start = 0; (start = text.find(L"<!--")) != std::wstring::npos;) {
+    text.erase(start, text.find(L"-->", start) + 4 - start);
+  }
+  return text.erase(0, text.find(L"?>") + 3);
+}
+
+}  // namespace
+
+/// Of characters up to U+FFFF.
+std::wstring FromUtf8(const std::string& bytes) {
+  std::wstring text;
+  for (const char byte : bytes) {
+    const auto value = static_cast<unsigned char>(byte);
+    if (value >= 0x80 && value < 0xC0) {
+      text.back() = static_cast<wchar_t>((text.back() << 6) | (value & 0x3F));
+    } else {
+      text += static_cast<wchar_t>(value < 0x80 ? value : value & (value < 0xE0 ? 0x1F : 0x0F));
+    }
+  }
+  return text;
+}
+
+Example::Example(const char* document, const node::Schema& root, const Departures& departures)
+    : departures_(departures), root_(root), text_(ReadDocument(document)) {
+  Parse();
+  RequireEveryRow();
+}
+
+void Example::Parse() {
+  std::vector<std::size_t> open;
+  for (std::size_t at = 0; (at = text_.find(L'<', at)) != std::wstring::npos;) {
+    const std::size_t close = text_.find(L'>', at);
+    Require(close != std::wstring::npos, "a tag does not end", text_.substr(at));
+    if (text_[at + 1] == L'/') {
+      Require(!open.empty(), "an end tag without an element", text_.substr(at));
+      elements_[open.back()].close = at;
+      elements_[open.back()].end = close + 1;
+      open.pop_back();
+    } else {
+      Open(at, close, open.empty() ? 0 : open.back());
+      if (text_[close - 1] != L'/') open.push_back(elements_.size() - 1);
+    }
+    at = close;
+  }
+  Require(!elements_.empty() && open.empty(), "an element does not end", text_);
+}
+
+void Example::Open(std::size_t at, std::size_t close, std::size_t parent) {
+  std::size_t space = text_.find_first_of(L" />", at);
+  const std::wstring name = text_.substr(at + 1, space - at - 1);
+  Element element = MakeElement(name, parent);
+  element.start = at;
+  element.inside = element.close = element.end = close + 1;
+  while (text_[space] == L' ') {
+    const std::size_t equals = text_.find(L'=', space);
+    const std::size_t end = text_.find(L'"', equals + 2) + 1;
+    Require(space < equals && equals < end && end <= close, "an attribute does not end", name);
+    const std::wstring attribute = text_.substr(space + 1, equals - space - 1);
+    const node::Attribute* const row = Find(element.schema->attributes, attribute);
+    Require(row != nullptr, "no row", name + L"/" + attribute);
+    element.attributes.push_back({row, space, end});
+    space = end;
+  }
+  if (!elements_.empty()) elements_[parent].children.push_back(elements_.size());
+  elements_.push_back(std::move(element));
+}
+
+Example::Element Example::MakeElement(const std::wstring& name, std::size_t parent) const {
+  Element element = {&root_, nullptr, name, parent, 0, 0};
+  if (!elements_.empty()) {
+    const std::wstring path = Path(elements_[parent], name);
+    element.row = Find(elements_[parent].schema->children, name);
+    Require(element.row != nullptr, "no row", path);
+    element.schema = element.row->schema;
+    const auto own = departures_.reported_names.find(path);
+    if (own != departures_.reported_names.end()) element.reported_name = own->second;
+  }
+  Require(NameOf(*element.schema) == name, "another element", name);
+  return element;
+}
+
+/// An example has each attribute of its elements, and each kind of child somewhere.
+void Example::RequireEveryRow() const {
+  std::set<const void*> found;
+  for (const Element& element : elements_) {
+    found.insert(element.schema);
+    for (const Attribute& attribute : element.attributes) found.insert(attribute.row);
+  }
+  for (const Element& element : elements_) {
+    for (const node::Attribute& row : element.schema->attributes) {
+      Require(found.contains(&row), "not in the example", Path(element, NameOf(row)));
+    }
+    for (const node::Child& row : element.schema->children) {
+      Require(found.contains(row.schema), "not in the example", Path(element, NameOf(row)));
+    }
+  }
+}
+
+std::wstring Example::Path(const Element& element, const std::wstring& row) {
+  return NameOf(*element.schema) + L"/" + row;
+}
+
+/// A report, and what each element around adds to it.
+Texts Example::WithParents(std::wstring report, std::size_t element, bool reading) const {
+  Texts reports = {std::move(report)};
+  for (const Element* at = &elements_[element]; at->row != nullptr; at = &elements_[at->parent]) {
+    const wchar_t* what = reading ? L"read require" : L"write optional";
+    switch (at->row->occurrence) {
+      case Occurrence::kRequired:
+        what = reading ? L"read require" : L"write require";
+        break;
+      case Occurrence::kRepeated:
+        what = reading ? L"read  multiple" : L"write none to multiple";
+        break;
+      case Occurrence::kOptional:
+        break;
+    }
+    reports.push_back(std::wstring(L"XMLManager: ") + what + L" element failed. element:" +
+                      at->reported_name);
+  }
+  for (std::wstring& text : reports) {
+    const auto own = departures_.reports.find(text);
+    if (own != departures_.reports.end()) text = own->second;
+  }
+  std::erase(reports, L"");
+  return reports;
+}
+
+void Example::AddReadFaults(std::size_t index, const Attribute& attribute,
+                            std::vector<ReadFault>& faults) const {
+  const Element& element = elements_[index];
+  const node::Attribute& row = *attribute.row;
+  const std::wstring name = L" element:" + element.reported_name + L", attr:" + NameOf(row);
+  const std::wstring malformed =
+      (IsNumber(row.type) ? L"XMLManager: read required dword/bool Attribute failed."
+       : row.is_optional
+           ? L"XMLLiteManager: read optional ENUM Attribute failed due to unknow enum type."
+           : L"XMLLiteManager: read required ENUM Attribute failed.") +
+      name;
+  const std::wstring missing = row.type == ValueType::kString
+                                   ? L"XMLManager: read required ENUM Attribute failed." + name
+                               : row.type == ValueType::kEnum
+                                   ? L"XMLLITEManager: read required ENUM Attribute failed." + name
+                                   : malformed;
+  std::wstring without = text_;
+  without.erase(attribute.start, attribute.end - attribute.start);
+  if (row.is_optional || departures_.dispensable.contains(Path(element, NameOf(row)))) {
+    faults.push_back({without, {}, 0});
+  } else {
+    faults.push_back({without, WithParents(missing, index, true), -101});
+  }
+  if (row.type == ValueType::kString) return;
+  std::wstring spoilt = text_;
+  spoilt.insert(attribute.end - 1, L"x");
+  faults.push_back({spoilt, WithParents(malformed, index, true), -101});
+}
+
+void Example::AddTextFaults(std::size_t index, std::vector<ReadFault>& faults) const {
+  const Element& element = elements_[index];
+  const bool is_number = IsNumber(element.schema->content.type);
+  const std::wstring failed = is_number
+                                  ? L"XMLManager: read required dword/bool content failed. element:"
+                                  : L"XMLManager: read required string content failed. element:";
+  const bool is_lenient = departures_.lenient.contains(element.reported_name);
+  std::wstring without = text_;
+  without.erase(element.inside, element.close - element.inside);
+  if (element.schema->content.is_optional) {
+    faults.push_back({without, {}, 0});
+  } else if (is_lenient && !is_number) {
+    faults.push_back({without, {failed + element.reported_name}, 0});
+  } else {
+    faults.push_back({without, WithParents(failed + L"Content", index, true), -101});
+  }
+  if (!is_number) return;
+  std::wstring spoilt = text_;
+  spoilt.insert(element.inside, L"x");
+  if (is_lenient) {
+    faults.push_back({spoilt, {}, 0});
+  } else {
+    faults.push_back({spoilt, WithParents(failed + element.reported_name, index, true), -101});
+  }
+}
+
+std::vector<Example::ReadFault> Example::ReadFaults() const {
+  std::vector<ReadFault> faults;
+  for (std::size_t i = 0; i < elements_.size(); ++i) {
+    const Element& element = elements_[i];
+    for (const Attribute& attribute : element.attributes) AddReadFaults(i, attribute, faults);
+    if (element.schema->content.locate != nullptr) AddTextFaults(i, faults);
+    if (element.row == nullptr || element.row->occurrence != Occurrence::kRequired) continue;
+    std::wstring without = text_;
+    without.erase(element.start, element.end - element.start);
+    if (departures_.dispensable.contains(Path(elements_[element.parent], NameOf(*element.row)))) {
+      faults.push_back({without, {}, 0});
+    } else {
+      const std::wstring missing = L"XMLManager: sub-element " + element.reported_name;
+      faults.push_back(
+          {without, WithParents(missing + L" is missing", element.parent, true), -101});
+    }
+  }
+  return faults;
+}
+
+void Example::AddWrites(std::size_t index, std::vector<Write>& writes) const {
+  const Element& element = elements_[index];
+  const std::wstring& name = element.reported_name;
+  const auto fails = [&](const std::wstring& report) {
+    writes.push_back({WithParents(L"XML" + report, index, false), {}});
+  };
+  const auto goes_unnoticed = [&] { writes.emplace_back(); };
+  const node::Content& content = element.schema->content;
+  if (content.locate != nullptr) {  // one call writes it all
+    if (content.is_optional) return goes_unnoticed();
+    const wchar_t* const type = IsNumber(content.type) ? L"DWORD/BOOL" : L"string";
+    return fails(L"Manager: write required content " + (type + (L" failed. element:" + name)));
+  }
+  const std::size_t first = writes.size();
+  fails(L"Manager: fail to add element: " + name);
+  for (const Attribute& attribute : element.attributes) {
+    const node::Attribute& row = *attribute.row;
+    if (row.is_optional || departures_.unchecked.contains(Path(element, NameOf(row)))) {
+      goes_unnoticed();
+      continue;
+    }
+    const wchar_t* const what = IsNumber(row.type) ? L"Manager: read required DWORD/BOOL"
+                                : row.type == ValueType::kString
+                                    ? L"Manager: write required string"
+                                    : L"LiteManager: write required ENUM";
+    fails(what + (L" Attribute failed. element:" + name + L", attr:" + NameOf(row)));
+  }
+  for (const std::size_t child : element.children) AddWrites(child, writes);
+  fails(L"Manager: fail to close element: " + name);
+  goes_unnoticed();  // the line feed
+  if (element.row == nullptr) return;
+  const auto own =
+      departures_.announced.find(Path(elements_[element.parent], NameOf(*element.row)));
+  if (own == departures_.announced.end()) return;
+  writes[first].announced.push_back(own->second.first);
+  writes.back().announced.push_back(own->second.second);
+}
+
+std::vector<Example::Write> Example::Writes() const {
+  std::vector<Write> writes;
+  AddWrites(0, writes);
+  return writes;
+}
+
+}  // namespace tolva::test
