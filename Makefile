@@ -1,6 +1,6 @@
 # Everything that this repository can do, by name: `make help`.
 .DEFAULT_GOAL := help
-.PHONY: help demo demo-windows build quick test mutants abi lists documents format tidy
+.PHONY: help demo demo-windows build quick test coverage mutants abi lists documents format tidy
 .PHONY: conformance fuzz bench clean
 
 # Where ccache is installed, what has been compiled once is not compiled again.
@@ -40,6 +40,12 @@ quick: ## After a change: formatting, release build, unit tests
 test: ## All tests and checks, on Linux and Windows
 	@tools/packages.sh test
 	@tools/test.sh
+
+coverage: ## Which lines and branches the tests reach; fails on a new gap
+	@tools/packages.sh test
+	@cmake --preset linux-coverage > /dev/null
+	@cmake --build --preset linux-coverage
+	@tools/coverage.py
 
 mutants: ## Whether the tests notice small faults (ARGS='--count 20 ...', see tools/mutants.py)
 	@tools/packages.sh mutants
