@@ -127,6 +127,12 @@ def end_of_brackets(code, start):
     return 0
 
 
+def is_needless_break(codes, i):
+    """Whether a switch ends here even without its `break`."""
+    around = [code.strip() for code in codes[max(i - 1, 0) : i + 3]]
+    return around[:2] == ["default:", "break;"] or around[1:] == ["break;", "default:", "break;"]
+
+
 def without_comments_and_literals(text):
     """The same text, with their characters replaced."""
     both = re.compile(f"(?P<comment>{COMMENT.pattern})|{LITERAL.pattern}")
@@ -141,7 +147,7 @@ def find_faults(path, text):
     """All faults that can be put into a file, in the order of its lines."""
     codes = without_comments_and_literals(text).split("\n")
     for number, (line, code) in enumerate(zip(text.split("\n"), codes), 1):
-        if LEFT_ALONE.match(code):
+        if LEFT_ALONE.match(code) or is_needless_break(codes, number - 1):
             continue
         code = code.rstrip()
         for kind, (start, end), new in [

@@ -90,7 +90,7 @@ constexpr Attribute kRow[] = {Attr<&CLeaf::number>(L"Name")};
 constexpr Attribute kRow[] = {Attr<&CLeaf::number>(L"p:Name")};
 #define TOLVA_ROWS .attributes = kRow
 #elif CASE == 20  // the name of a child consists of letters and digits
-constexpr Child kRows[] = {Elem<&CTree::leaf>(L"4")};
+constexpr Child kRows[] = {Elem<&CTree::leaf>(L"0")};
 #define TOLVA_ROWS .children = kRows
 #elif CASE == 21  // an element has 32 kinds of children at most
 constexpr Child kLeaf = Elem<&CTree::leaf>(L"Leaf");

@@ -80,10 +80,10 @@ class Example {
   void RequireEveryRow() const;
   static std::wstring Path(const Element& element, const std::wstring& row);
   Texts WithParents(std::wstring report, std::size_t element, bool reading) const;
-  void AddReadFaults(std::size_t element, const Attribute& attribute,
+  void AddReadFaults(std::size_t index, const Attribute& attribute,
                      std::vector<ReadFault>& faults) const;
-  void AddTextFaults(std::size_t element, std::vector<ReadFault>& faults) const;
-  void AddWrites(std::size_t element, std::vector<Write>& writes) const;
+  void AddTextFaults(std::size_t index, std::vector<ReadFault>& faults) const;
+  void AddWrites(std::size_t index, std::vector<Write>& writes) const;
 
   const Departures& departures_;
   const node::Schema& root_;
