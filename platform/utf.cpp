@@ -37,24 +37,6 @@ int MeasureCharacter(const unsigned char* at, std::size_t size) {
   return non_character ? 0 : length;
 }
 
-#if TOLVA_HAS_VECTORS
-/// Widens sixteen ASCII bytes.
-void Widen(Bytes ascii, wchar_t* out) {
-  const __m128i zero = _mm_setzero_si128();
-  const __m128i halves[2] = {_mm_unpacklo_epi8(ascii.native(), zero),
-                             _mm_unpackhi_epi8(ascii.native(), zero)};
-  auto* at = reinterpret_cast<__m128i*>(out);
-  for (const __m128i& half : halves) {
-    if constexpr (sizeof(wchar_t) == 2) {
-      _mm_storeu_si128(at++, half);
-    } else {
-      _mm_storeu_si128(at++, _mm_unpacklo_epi16(half, zero));
-      _mm_storeu_si128(at++, _mm_unpackhi_epi16(half, zero));
-    }
-  }
-}
-#endif
-
 wchar_t* EncodeWide(char32_t c, wchar_t* out) {
   if constexpr (sizeof(wchar_t) == 2) {
     if (c > 0xFFFF) {
@@ -67,40 +49,44 @@ wchar_t* EncodeWide(char32_t c, wchar_t* out) {
   return out;
 }
 
+/// Where the first stretch of 64 bytes starts that holds something other than printable ASCII and
+/// line feeds; if there is none, less than 64 bytes before the end.
+std::size_t SkipPrintableAscii(const char* text, std::size_t at, std::size_t size) {
+  constexpr std::size_t kStretch = 4 * Bytes::kCount;
+  for (; at + kStretch <= size; at += kStretch) {
+    const auto unusual = [block_at = text + at](std::size_t part) {
+      const Bytes block = Bytes::Load(block_at + part * Bytes::kCount);
+      return block.IsControlOrNonAscii().AndNot(block.Is('\n'));
+    };
+    if ((unusual(0) | unusual(1) | unusual(2) | unusual(3)).ToMask() != 0) break;
+  }
+  return at;
+}
+
+/// How many of sixteen bytes stand before the first that is neither printable ASCII nor white
+/// space.
+unsigned CountUsualBytes(const char* at) {
+  const Bytes block = Bytes::Load(at);
+  return FirstOf(block.IsControlOrNonAscii()
+                     .AndNot(block.Is('\n') | block.Is('\r') | block.Is('\t'))
+                     .ToMask());
+}
+
 }  // namespace
 
 Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
   const auto* const bytes = reinterpret_cast<const unsigned char*>(text);
-  constexpr std::size_t kAtOnce = 64;
+  constexpr std::size_t kStretch = 64;
   std::size_t i = 0;
   while (i < size) {
-#if TOLVA_HAS_VECTORS
-    // Mostly text is ASCII, and of the control characters line feeds alone are common.
-    static_assert(kAtOnce == 4 * Bytes::kCount);
-    for (; i + kAtOnce <= size; i += kAtOnce) {
-      const auto unusual = [at = text + i](std::size_t part) {
-        const Bytes block = Bytes::Load(at + part * Bytes::kCount);
-        return block.IsBelowBlankOrNonAscii().Without(block.Is('\n'));
-      };
-      if ((unusual(0) | unusual(1) | unusual(2) | unusual(3)).ToMask() != 0) break;
-    }
-#endif
-    // What the stretch holds that is not so common is looked at more closely.
-    const std::size_t stretch = std::min(size, i + kAtOnce);
-    while (i < stretch) {
-#if TOLVA_HAS_VECTORS
+    i = SkipPrintableAscii(text, i, size);
+    const std::size_t stretch_end = std::min(size, i + kStretch);
+    while (i < stretch_end) {
       if (i + Bytes::kCount <= size) {
-        const Bytes block = Bytes::Load(text + i);
-        const Mask unusual = block.IsBelowBlankOrNonAscii()
-                                 .Without(block.Is('\n') | block.Is('\r') | block.Is('\t'))
-                                 .ToMask();
-        if (unusual == 0) {
-          i += Bytes::kCount;
-          continue;
-        }
-        i += FirstOf(unusual);
+        const unsigned usual = CountUsualBytes(text + i);
+        i += usual;
+        if (usual == Bytes::kCount) continue;
       }
-#endif
       if (bytes[i] < 0x80) {
         if (!IsXmlCharacter(bytes[i])) return {i, true};
         ++i;
@@ -116,15 +102,12 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
 }
 
 const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept {
-  constexpr std::ptrdiff_t kCount = 16;
+  constexpr std::ptrdiff_t kCount = Bytes::kCount;
   while (at != end) {
-#if TOLVA_HAS_VECTORS
-    static_assert(kCount == Bytes::kCount);
-    if (end - at >= kCount && Bytes::LoadNarrowed(at).IsBelowBlankOrNonAscii().ToMask() == 0) {
+    if (end - at >= kCount && Bytes::LoadNarrowed(at).IsControlOrNonAscii().ToMask() == 0) {
       at += kCount;
       continue;
     }
-#endif
     const wchar_t* const stretch = at + std::min(kCount, end - at);
     while (at < stretch) {
       if (*at >= L' ' && *at < 0xD800) {  // almost always
@@ -139,35 +122,27 @@ const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept {
 }
 
 void AppendWide(std::string_view utf8, Buffer<wchar_t>& out) {
+  static_assert(kReadAhead >= Bytes::kCount);
   // No character takes more units than it has bytes.
   wchar_t* const start = out.Room(utf8.size() + kReadAhead);
   wchar_t* to = start;
   const char* at = utf8.data();
   const char* const end = at + utf8.size();
   while (at != end) {
-#if TOLVA_HAS_VECTORS
-    static_assert(kReadAhead >= Bytes::kCount);
+    // Sixteen bytes are widened whatever they are. The ASCII characters at the front are kept.
     Bytes block = Bytes::Load(at);
-    for (; end - at > static_cast<std::ptrdiff_t>(Bytes::kCount) && block.IsAscii();
-         block = Bytes::Load(at)) {
-      Widen(block, to);
+    block.StoreWidened(to);
+    while (block.ToMask() == 0 && end - at > static_cast<std::ptrdiff_t>(Bytes::kCount)) {
       at += Bytes::kCount;
       to += Bytes::kCount;
+      block = Bytes::Load(at);
+      block.StoreWidened(to);
     }
-    // The last ones are widened whatever they are; the ASCII characters at the front are kept.
-    Widen(block, to);
-    const Mask others = block.ToMask();
-    const std::size_t ascii = std::min<std::size_t>(others == 0 ? Bytes::kCount : FirstOf(others),
-                                                    static_cast<std::size_t>(end - at));
+    const auto ascii =
+        std::min<std::size_t>(FirstOf(block.ToMask()), static_cast<std::size_t>(end - at));
     at += ascii;
     to += ascii;
-    if (ascii == Bytes::kCount || at == end) continue;
-#endif
-    if (static_cast<unsigned char>(*at) < 0x80) {
-      *to++ = static_cast<wchar_t>(*at++);
-    } else {
-      to = EncodeWide(TakeCodePoint(at), to);
-    }
+    if (at != end) to = EncodeWide(TakeCodePoint(at), to);
   }
   out.Commit(static_cast<std::size_t>(to - start));
 }

@@ -54,11 +54,8 @@ const char* SkipNameSlowly(const char* at, bool started);
 inline const char* SkipName(const char* at) {
   if (!IsClass(*at, kNameStart)) return IsAscii(*at) ? at : SkipNameSlowly(at, false);
   ++at;
-#if TOLVA_HAS_VECTORS
   // Mostly letters, and no more than sixteen.
-  const Mask others = ~Bytes::Load(at).IsLetter().ToMask();
-  at += FirstOf(others);
-#endif
+  at += FirstOf(~Bytes::Load(at).IsLetter().ToMask());
   while (IsClass(*at, kName)) ++at;
   return IsAscii(*at) ? at : SkipNameSlowly(at, true);
 }
@@ -68,32 +65,22 @@ inline const char* SkipSpace(const char* at) {
   if (!IsClass(*at, kSpace)) return at;
   ++at;
   if (!IsClass(*at, kSpace)) return at;
-#if TOLVA_HAS_VECTORS
   for (;; at += Bytes::kCount) {
     const Bytes block = Bytes::Load(at);
     const Bytes space = block.Is(' ') | block.Is('\n') | block.Is('\r') | block.Is('\t');
-    const Mask others = ~space.ToMask() & kAll;
+    const Mask others = ~space.ToMask() & kAllBytes;
     if (others != 0) return at + FirstOf(others);
   }
-#else
-  while (IsClass(*at, kSpace)) ++at;
-  return at;
-#endif
 }
 
 /// Runs to the first of the characters in `Stops`, or to zero.
 template <char... Stops>
 const char* Find(const char* at) {
-#if TOLVA_HAS_VECTORS
   for (;; at += Bytes::kCount) {
     const Bytes block = Bytes::Load(at);
     const Mask found = (block.Is('\0') | ... | block.Is(Stops)).ToMask();
     if (found != 0) return at + FirstOf(found);
   }
-#else
-  while (*at != '\0' && ((*at != Stops) && ...)) ++at;
-  return at;
-#endif
 }
 
 /// Runs to what ends an attribute value or has to be looked at in it: the quote, '<', '&', TAB, LF
@@ -101,7 +88,6 @@ const char* Find(const char* at) {
 template <char Quote>
 const char* FindInAttribute(const char* at) {
   constexpr CharacterClass kStops = Quote == '"' ? kInDouble : kInSingle;
-#if TOLVA_HAS_VECTORS
   // Most values are short. A processor that guesses their lengths is done with them sooner than one
   // that waits for a vector's answer.
   const char* const vector_start = at + Bytes::kCount;
@@ -111,13 +97,9 @@ const char* FindInAttribute(const char* at) {
   for (;; at += Bytes::kCount) {
     const Bytes block = Bytes::Load(at);
     const Mask found =
-        (block.IsBelowBlank() | block.Is(Quote) | block.Is('<') | block.Is('&')).ToMask();
+        (block.IsControl() | block.Is(Quote) | block.Is('<') | block.Is('&')).ToMask();
     if (found != 0) return at + FirstOf(found);
   }
-#else
-  while (!IsClass(*at, kStops)) ++at;
-  return at;
-#endif
 }
 
 }  // namespace tolva::platform::own_xml

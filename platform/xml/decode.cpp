@@ -48,7 +48,6 @@ const char* FindSpecial(const char* at, const char* end, ValueKind kind) {
   const char reference = kind == ValueKind::kLiteral ? '\r' : '&';
   const char line_feed = kind == ValueKind::kAttribute ? '\n' : '\r';
   const char tab = kind == ValueKind::kAttribute ? '\t' : '\r';
-#if TOLVA_HAS_VECTORS
   static_assert(kReadAhead >= Bytes::kCount);
   for (; at < end; at += Bytes::kCount) {
     const Bytes block = Bytes::Load(at);
@@ -57,10 +56,6 @@ const char* FindSpecial(const char* at, const char* end, ValueKind kind) {
     if (found != 0) return std::min(at + FirstOf(found), end);
   }
   return end;
-#else
-  return std::find_if(
-      at, end, [=](char c) { return c == '\r' || c == reference || c == line_feed || c == tab; });
-#endif
 }
 
 }  // namespace

@@ -50,18 +50,13 @@ inline HRESULT ReadQName(const char* at, Name& name) {
 /// Whether `text` stands at `at`, in the window. Behind the text, too, a vector's width is
 /// readable.
 bool StandsAt(const char* at, std::string_view text) {
-#if TOLVA_HAS_VECTORS
   for (std::size_t i = 0; i < text.size(); i += Bytes::kCount) {
     const Mask equal = Bytes::Load(at + i).Is(Bytes::Load(text.data() + i)).ToMask();
-    const Mask others = ~equal & kAll;
+    const Mask others = ~equal & kAllBytes;
     // Names hold no zero, so a difference is found before the padding of the window ends.
     if (others != 0) return FirstOf(others) + i >= text.size();
   }
   return true;
-#else
-  // One character after the other, and none behind a difference: there the window may end.
-  return std::equal(text.begin(), text.end(), at, [](char x, char y) { return x == y; });
-#endif
 }
 
 const char* EndOf(std::string_view text) { return text.data() + text.size(); }
@@ -277,15 +272,11 @@ HRESULT Parser::ParseStartTag(const char* at) {
 
 /// Leaves a vector's width behind the names.
 void Parser::PushName(std::string_view name) {
-#if TOLVA_HAS_VECTORS
   char* const room = open_names_.Room(name.size() + Bytes::kCount);
   for (std::size_t i = 0; i < name.size(); i += Bytes::kCount) {
     Bytes::Load(name.data() + i).Store(room + i);
   }
   open_names_.Commit(name.size());
-#else
-  open_names_.Append(name.data(), name.size());
-#endif
 }
 
 /// Sets `end` to the '>' or '/' that ends the tag.

@@ -87,11 +87,10 @@ HRESULT AppendEscaped(const wchar_t* text, Escaped place, Buffer<char>& out) {
     char* const start = out.Room(6 * kStretch);
     char* to = start;
     while (text < stretch) {
-#if TOLVA_HAS_VECTORS
       constexpr auto kCount = static_cast<std::ptrdiff_t>(Bytes::kCount);
       if (stretch - text >= kCount) {
         const Bytes block = Bytes::LoadNarrowed(text);
-        const Mask others = (block.IsBelowBlankOrNonAscii() | block.Is('<') | block.Is('>') |
+        const Mask others = (block.IsControlOrNonAscii() | block.Is('<') | block.Is('>') |
                              block.Is('&') | block.Is('"'))
                                 .ToMask();
         const auto plain = others == 0 ? kCount : static_cast<std::ptrdiff_t>(FirstOf(others));
@@ -100,7 +99,6 @@ HRESULT AppendEscaped(const wchar_t* text, Escaped place, Buffer<char>& out) {
         text += plain;
         if (plain == kCount) continue;
       }
-#endif
       const auto unit = static_cast<char32_t>(*text);
       if (unit < 0x80) {
         ++text;
