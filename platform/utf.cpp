@@ -7,6 +7,9 @@
 namespace tolva::platform {
 namespace {
 
+/// How many bytes are looked at together.
+constexpr std::size_t kStretch = 4 * Bytes::kCount;
+
 /// The length of the well-formed, legal character that starts with a byte of 0x80 or more; 0 when
 /// there is none; -1 when the buffer ends before that can be said.
 int MeasureCharacter(const unsigned char* at, std::size_t size) {
@@ -49,43 +52,41 @@ wchar_t* EncodeWide(char32_t c, wchar_t* out) {
   return out;
 }
 
-/// Where the first stretch of 64 bytes starts that holds something other than printable ASCII and
-/// line feeds; if there is none, less than 64 bytes before the end.
-std::size_t SkipPrintableAscii(const char* text, std::size_t at, std::size_t size) {
-  constexpr std::size_t kStretch = 4 * Bytes::kCount;
+/// Skips 64 bytes at a time while they are what most text is: printable ASCII and line feeds.
+std::size_t SkipUsual(const char* text, std::size_t at, std::size_t size) {
+  const auto usual = [](const char* part) {
+    const Bytes block = Bytes::Load(part);
+    return block.IsPrintable() | block.Is('\n');
+  };
   for (; at + kStretch <= size; at += kStretch) {
-    const auto unusual = [block_at = text + at](std::size_t part) {
-      const Bytes block = Bytes::Load(block_at + part * Bytes::kCount);
-      return block.IsControlOrNonAscii().AndNot(block.Is('\n'));
-    };
-    if ((unusual(0) | unusual(1) | unusual(2) | unusual(3)).ToMask() != 0) break;
+    const char* const part = text + at;
+    const Bytes all = usual(part) & usual(part + Bytes::kCount) & usual(part + 2 * Bytes::kCount) &
+                      usual(part + 3 * Bytes::kCount);
+    if (all.ToMask() != kAllBytes) break;
   }
   return at;
 }
 
-/// How many of sixteen bytes stand before the first that is neither printable ASCII nor white
-/// space.
-unsigned CountUsualBytes(const char* at) {
+/// How many of sixteen bytes are before the first that is neither printable ASCII nor white space.
+unsigned CountPlain(const char* at) {
   const Bytes block = Bytes::Load(at);
-  return FirstOf(block.IsControlOrNonAscii()
-                     .AndNot(block.Is('\n') | block.Is('\r') | block.Is('\t'))
-                     .ToMask());
+  const Bytes plain = block.IsPrintable() | block.Is('\n') | block.Is('\r') | block.Is('\t');
+  return FirstOf(~plain.ToMask());
 }
 
 }  // namespace
 
 Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
   const auto* const bytes = reinterpret_cast<const unsigned char*>(text);
-  constexpr std::size_t kStretch = 64;
   std::size_t i = 0;
   while (i < size) {
-    i = SkipPrintableAscii(text, i, size);
+    i = SkipUsual(text, i, size);
     const std::size_t stretch_end = std::min(size, i + kStretch);
     while (i < stretch_end) {
       if (i + Bytes::kCount <= size) {
-        const unsigned usual = CountUsualBytes(text + i);
-        i += usual;
-        if (usual == Bytes::kCount) continue;
+        const unsigned plain = CountPlain(text + i);
+        i += plain;
+        if (plain == Bytes::kCount) continue;
       }
       if (bytes[i] < 0x80) {
         if (!IsXmlCharacter(bytes[i])) return {i, true};
@@ -104,7 +105,7 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
 const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept {
   constexpr std::ptrdiff_t kCount = Bytes::kCount;
   while (at != end) {
-    if (end - at >= kCount && Bytes::LoadNarrowed(at).IsControlOrNonAscii().ToMask() == 0) {
+    if (end - at >= kCount && Bytes::LoadNarrowed(at).IsPrintable().ToMask() == kAllBytes) {
       at += kCount;
       continue;
     }

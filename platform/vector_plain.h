@@ -18,7 +18,7 @@ class PlainBytes {
   }
 
   /// Reads sixteen wide characters. ASCII characters keep their value; every other character
-  /// becomes a byte that is a control character or not ASCII.
+  /// becomes a byte that is not printable.
   static PlainBytes LoadNarrowed(const wchar_t* at) {
     return Make([at](std::size_t i) {
       const auto c = static_cast<char32_t>(at[i]);
@@ -50,13 +50,15 @@ class PlainBytes {
     return {ZeroBytes(low_ & kOnes * 0xE0), ZeroBytes(high_ & kOnes * 0xE0)};
   }
 
-  /// The control characters below space, and what is not ASCII.
-  PlainBytes IsControlOrNonAscii() const { return IsControl() | *this; }
+  /// The ASCII characters from space on.
+  PlainBytes IsPrintable() const { return PlainBytes(kTops, kTops).AndNot(IsControl() | *this); }
 
   /// 'a' to 'z' and 'A' to 'Z'.
   PlainBytes IsLetter() const { return {Letters(low_), Letters(high_)}; }
 
   PlainBytes operator|(PlainBytes other) const { return {low_ | other.low_, high_ | other.high_}; }
+
+  PlainBytes operator&(PlainBytes other) const { return {low_ & other.low_, high_ & other.high_}; }
 
   /// The bits that are set here and not in `other`.
   PlainBytes AndNot(PlainBytes other) const { return {low_ & ~other.low_, high_ & ~other.high_}; }

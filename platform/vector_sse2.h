@@ -53,10 +53,8 @@ class Sse2Bytes {
     return Sse2Bytes(_mm_cmpeq_epi8(_mm_min_epu8(bytes_, _mm_set1_epi8(0x1F)), bytes_));
   }
 
-  /// As signed numbers all of these are below space.
-  Sse2Bytes IsControlOrNonAscii() const {
-    return Sse2Bytes(_mm_cmplt_epi8(bytes_, _mm_set1_epi8(0x20)));
-  }
+  /// Bytes that are not ASCII are negative as signed numbers.
+  Sse2Bytes IsPrintable() const { return Sse2Bytes(_mm_cmpgt_epi8(bytes_, _mm_set1_epi8(0x1F))); }
 
   Sse2Bytes IsLetter() const {
     const __m128i index =
@@ -66,6 +64,9 @@ class Sse2Bytes {
 
   Sse2Bytes operator|(Sse2Bytes other) const {
     return Sse2Bytes(_mm_or_si128(bytes_, other.bytes_));
+  }
+  Sse2Bytes operator&(Sse2Bytes other) const {
+    return Sse2Bytes(_mm_and_si128(bytes_, other.bytes_));
   }
   Sse2Bytes AndNot(Sse2Bytes other) const {
     return Sse2Bytes(_mm_andnot_si128(other.bytes_, bytes_));

@@ -68,8 +68,8 @@ inline const char* SkipSpace(const char* at) {
   for (;; at += Bytes::kCount) {
     const Bytes block = Bytes::Load(at);
     const Bytes space = block.Is(' ') | block.Is('\n') | block.Is('\r') | block.Is('\t');
-    const Mask others = ~space.ToMask() & kAllBytes;
-    if (others != 0) return at + FirstOf(others);
+    const unsigned spaces = FirstOf(~space.ToMask());
+    if (spaces != Bytes::kCount) return at + spaces;
   }
 }
 

@@ -90,10 +90,9 @@ HRESULT AppendEscaped(const wchar_t* text, Escaped place, Buffer<char>& out) {
       constexpr auto kCount = static_cast<std::ptrdiff_t>(Bytes::kCount);
       if (stretch - text >= kCount) {
         const Bytes block = Bytes::LoadNarrowed(text);
-        const Mask others = (block.IsControlOrNonAscii() | block.Is('<') | block.Is('>') |
-                             block.Is('&') | block.Is('"'))
-                                .ToMask();
-        const auto plain = others == 0 ? kCount : static_cast<std::ptrdiff_t>(FirstOf(others));
+        const Bytes escaped = block.Is('<') | block.Is('>') | block.Is('&') | block.Is('"');
+        const auto plain =
+            static_cast<std::ptrdiff_t>(FirstOf(~block.IsPrintable().AndNot(escaped).ToMask()));
         block.Store(to);
         to += plain;
         text += plain;

@@ -41,8 +41,11 @@ TYPED_TEST(BytesTest, ComparesEachByte) {
         MaskOf(at, [](unsigned c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); });
     EXPECT_EQ(block.ToMask(), non_ascii);
     EXPECT_EQ(block.IsControl().ToMask(), control);
-    EXPECT_EQ(block.IsControlOrNonAscii().ToMask(), control | non_ascii);
-    EXPECT_EQ(block.IsControlOrNonAscii().AndNot(block.IsControl()).ToMask(), non_ascii);
+    EXPECT_EQ(block.IsPrintable().ToMask(), kAllBytes & ~control & ~non_ascii);
+    EXPECT_EQ(block.IsPrintable().AndNot(block.IsLetter()).ToMask(),
+              kAllBytes & ~control & ~non_ascii & ~letter);
+    EXPECT_EQ((block.IsPrintable() & block.Is('a')).ToMask(), block.Is('a').ToMask());
+    EXPECT_EQ((block.IsPrintable() & block.Is('\n')).ToMask(), 0U);
     EXPECT_EQ(block.IsLetter().ToMask(), letter);
     EXPECT_EQ((block.Is('z') | block.Is('\xFF')).ToMask(),
               MaskOf(at, [](unsigned c) { return c == 'z' || c == 0xFF; }));
@@ -64,7 +67,7 @@ TYPED_TEST(BytesTest, KeepsAsciiWhenNarrowedAndWidened) {
       wide[place] = static_cast<wchar_t>(c);
       const Bytes block = Bytes::LoadNarrowed(wide.data());
       if (static_cast<char32_t>(wide[place]) >= 0x80) {
-        EXPECT_EQ(block.IsControlOrNonAscii().ToMask(), Mask{1} << place) << std::hex << c;
+        EXPECT_EQ(block.IsPrintable().ToMask(), kAllBytes & ~(Mask{1} << place)) << std::hex << c;
         continue;
       }
       std::array<char, Bytes::kCount> stored{};
