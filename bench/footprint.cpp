@@ -137,10 +137,10 @@ void WalkGigabyte() {
     if (!stream) file.Fail("not opened");
     platform::own_xml::Parser parser;
     parser.SetInput(stream.Get(), false);
-    platform::HRESULT result = platform::S_OK;
-    while ((result = parser.Read()) == platform::S_OK) {
-    }
-    if (result != platform::S_FALSE) file.Fail("not well-formed");
+    using platform::own_xml::ReadResult;
+    ReadResult result = ReadResult::kNode;
+    while (result == ReadResult::kNode) result = parser.Read();
+    if (result != ReadResult::kEnd) file.Fail("not well-formed");
   }
   std::printf("\nA file of %.2f GB walked in %.2f s, %.0f KB of memory at most\n",
               static_cast<double>(std::filesystem::file_size(file.path())) * 1e-9, Seconds(start),

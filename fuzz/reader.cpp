@@ -24,9 +24,9 @@ std::string AccountOf(std::string_view document, std::size_t piece) {
   stream->Release();
   std::string account;
   Buffer<char> value;
-  HRESULT result = S_OK;
+  own_xml::ReadResult result = own_xml::ReadResult::kNode;
   std::size_t nodes = 0;
-  while ((result = parser.Read()) == S_OK) {
+  while ((result = parser.Read()) == own_xml::ReadResult::kNode) {
     Expect(++nodes <= document.size(), "no more nodes than bytes");
     Add(account, std::to_string(parser.type()));
     Add(account, parser.name().text);
@@ -44,7 +44,8 @@ std::string AccountOf(std::string_view document, std::size_t piece) {
     }
   }
   Expect(parser.Read() == result, "a verdict that stays");
-  Add(account, std::to_string(result));
+  const bool has_ended = result == own_xml::ReadResult::kEnd;
+  Add(account, has_ended ? "end" : std::to_string(parser.fault()));
   return account;
 }
 

@@ -89,8 +89,8 @@ Account ReadAccount(std::string_view document) {
   stream->Release();
   Account account;
   Buffer<char> value;
-  HRESULT result = S_OK;
-  while ((result = parser.Read()) == S_OK) {
+  own_xml::ReadResult result = own_xml::ReadResult::kNode;
+  while ((result = parser.Read()) == own_xml::ReadResult::kNode) {
     value.Clear();
     switch (parser.type()) {
       case XmlNodeType_Element:
@@ -114,7 +114,7 @@ Account ReadAccount(std::string_view document) {
         break;
     }
   }
-  Expect(result == S_FALSE, "a document that is well-formed");
+  Expect(result == own_xml::ReadResult::kEnd, "a document that is well-formed");
   return account;
 }
 

@@ -15,7 +15,14 @@ namespace tolva::platform {
 inline constexpr char32_t kReplacementCharacter = 0xFFFD;
 inline constexpr char32_t kLastCodePoint = 0x10FFFF;
 
+constexpr bool IsHighSurrogate(char32_t c) { return c >= 0xD800 && c <= 0xDBFF; }
+constexpr bool IsLowSurrogate(char32_t c) { return c >= 0xDC00 && c <= 0xDFFF; }
 constexpr bool IsSurrogate(char32_t c) { return c >= 0xD800 && c <= 0xDFFF; }
+
+/// The code point of a surrogate pair.
+constexpr char32_t CombineSurrogates(char32_t high, char32_t low) {
+  return 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00);
+}
 
 /// Whether XML 1.0 allows the code point in a document.
 constexpr bool IsXmlCharacter(char32_t c) {
@@ -27,11 +34,11 @@ constexpr bool IsXmlCharacter(char32_t c) {
 /// enough, a value beyond U+10FFFF come back as they are.
 constexpr char32_t TakeCodePoint(const wchar_t*& at, const wchar_t* end) {
   const auto first = static_cast<char32_t>(*at++);
-  if (first < 0xD800 || first > 0xDBFF || at == end) return first;
+  if (!IsHighSurrogate(first) || at == end) return first;
   const auto second = static_cast<char32_t>(*at);
-  if (second < 0xDC00 || second > 0xDFFF) return first;
+  if (!IsLowSurrogate(second)) return first;
   ++at;
-  return 0x10000 + ((first - 0xD800) << 10) + (second - 0xDC00);
+  return CombineSurrogates(first, second);
 }
 
 /// Writes the code point, at most U+10FFFF, as one to four bytes; returns where they end.

@@ -40,7 +40,7 @@ Reference ReadCharacterReference(const char* at) {
   if (at == digits) return {hexadecimal ? WC_E_HEXDIGIT : WC_E_DIGIT, at, 0};
   if (*at != ';') return {WC_E_SEMICOLON, at, 0};
   if (!IsXmlCharacter(c)) return {WC_E_XMLCHARACTER, at, 0};
-  return {S_OK, at + 1, c};
+  return {kDone, at + 1, c};
 }
 
 /// The first character of a text that does not stand for itself.
@@ -69,7 +69,7 @@ Reference ReadReference(const char* at) {
   if (*end != ';') return {WC_E_SEMICOLON, end, 0};
   const std::string_view name(at, static_cast<std::size_t>(end - at));
   for (const Entity& entity : kEntities) {
-    if (entity.name == name) return {S_OK, end + 1, static_cast<char32_t>(entity.character)};
+    if (entity.name == name) return {kDone, end + 1, static_cast<char32_t>(entity.character)};
   }
   return {WC_E_UNDECLAREDENTITY, end, 0};
 }

@@ -5,17 +5,14 @@
 #include <string_view>
 
 #include "platform/buffer.h"
-#include "platform/xml/hresults.h"
+#include "platform/xml/status.h"
 
 namespace tolva::platform::own_xml {
 
-/// A scan met the end of the window: more input is needed to go on. No failure code.
-inline constexpr HRESULT kMoreInput = 2;
-
 /// A character or entity reference.
 struct Reference {
-  HRESULT result;      ///< S_OK, kMoreInput, or what is wrong with it
-  const char* end;     ///< behind the semicolon
+  Status status;
+  const char* end;     ///< after the semicolon
   char32_t character;  ///< what it stands for
 };
 

@@ -98,26 +98,26 @@ void ScopedStrings::GrowSlots() {
   }
 }
 
-HRESULT Namespaces::Enter(const Name& element, std::span<const Attribute> attributes) {
+Status Namespaces::Enter(const Name& element, std::span<const Attribute> attributes) {
   for (const Attribute& attribute : attributes) {
     const bool declares = attribute.name.text == "xmlns" || attribute.name.PrefixText() == "xmlns";
     if (!declares) continue;
-    const HRESULT result = Declare(attribute);
-    if (FAILED(result)) return result;
+    const Status status = Declare(attribute);
+    if (!status.IsDone()) return status;
   }
 
   ScopedStrings::Id uri = ScopedStrings::kNone;
   if (element.prefix != 0) {
-    const HRESULT result = Resolve(element.PrefixText(), uri);
-    if (FAILED(result)) return result;
+    const Status status = Resolve(element.PrefixText(), uri);
+    if (!status.IsDone()) return status;
   }
 
   if (names_.capacity() > kNamesKept) names_ = std::vector<ExpandedName>();
   names_.clear();
   for (const Attribute& attribute : attributes) {
     if (attribute.name.prefix == 0 || attribute.name.PrefixText() == "xmlns") continue;
-    const HRESULT result = Resolve(attribute.name.PrefixText(), uri);
-    if (FAILED(result)) return result;
+    const Status status = Resolve(attribute.name.PrefixText(), uri);
+    if (!status.IsDone()) return status;
     names_.push_back({uri, attribute.name.Local()});
   }
   const auto key = [](const ExpandedName& name) { return std::tie(name.uri, name.local); };
@@ -126,21 +126,21 @@ HRESULT Namespaces::Enter(const Name& element, std::span<const Attribute> attrib
   const auto same = std::adjacent_find(
       names_.begin(), names_.end(),
       [key](const ExpandedName& a, const ExpandedName& b) { return key(a) == key(b); });
-  return same == names_.end() ? S_OK : WC_E_UNIQUEATTRIBUTE;
+  return same == names_.end() ? kDone : WC_E_UNIQUEATTRIBUTE;
 }
 
-HRESULT Namespaces::Declare(const Attribute& attribute) {
+Status Namespaces::Declare(const Attribute& attribute) {
   uri_.Clear();
   AppendValue(attribute.value, ValueKind::kAttribute, uri_);
   const std::string_view uri(uri_.data(), uri_.size());
   const bool is_default = attribute.name.prefix == 0;
   const std::string_view prefix = attribute.name.Local();
   if (!is_default && prefix == "xmlns") return NC_E_XMLNSPREFIXRESERVED;
-  if (!is_default && prefix == "xml") return uri == kXmlUri ? S_OK : NC_E_XMLPREFIXRESERVED;
+  if (!is_default && prefix == "xml") return uri == kXmlUri ? kDone : NC_E_XMLPREFIXRESERVED;
   if (uri == kXmlUri) return NC_E_XMLURIRESERVED;
   if (uri == kXmlnsUri) return NC_E_XMLNSURIRESERVED;
   // The default namespace decides nothing here: attributes are not in it.
-  if (is_default) return S_OK;
+  if (is_default) return kDone;
   if (uri.empty()) return NC_E_EMPTYURI;
 
   const std::size_t uris_before = uris_.size();
@@ -148,19 +148,19 @@ HRESULT Namespaces::Declare(const Attribute& attribute) {
   if (id == ScopedStrings::kNone) id = uris_.Push(uri);
   bindings_.Append(Binding{id, uris_before});
   prefixes_.Push(prefix);
-  return S_OK;
+  return kDone;
 }
 
-HRESULT Namespaces::Resolve(std::string_view prefix, ScopedStrings::Id& uri) const {
+Status Namespaces::Resolve(std::string_view prefix, ScopedStrings::Id& uri) const {
   if (prefix == "xmlns") return NC_E_XMLNSPREFIXRESERVED;
   if (prefix == "xml") {
     uri = kXmlNamespace;
-    return S_OK;
+    return kDone;
   }
   const ScopedStrings::Id binding = prefixes_.Find(prefix);
   if (binding == ScopedStrings::kNone) return NC_E_UNDECLAREDPREFIX;
   uri = bindings_.data()[binding].uri;
-  return S_OK;
+  return kDone;
 }
 
 void Namespaces::Clear() {

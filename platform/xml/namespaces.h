@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/buffer.h"
-#include "platform/xml/hresults.h"
+#include "platform/xml/status.h"
 
 namespace tolva::platform::own_xml {
 
@@ -73,7 +73,7 @@ class Namespaces {
   /// Takes in the declarations of a start tag, then judges its names by all that are in force:
   /// S_OK, an NC_E_ code, or WC_E_UNIQUEATTRIBUTE for two attributes of one namespace and local
   /// name.
-  HRESULT Enter(const Name& element, std::span<const Attribute> attributes);
+  Status Enter(const Name& element, std::span<const Attribute> attributes);
 
   /// How many declarations are in force.
   std::size_t size() const { return bindings_.size(); }
@@ -97,8 +97,8 @@ class Namespaces {
   };
 
   void LetGo(std::size_t count);
-  HRESULT Declare(const Attribute& attribute);
-  HRESULT Resolve(std::string_view prefix, ScopedStrings::Id& uri) const;
+  Status Declare(const Attribute& attribute);
+  Status Resolve(std::string_view prefix, ScopedStrings::Id& uri) const;
 
   ScopedStrings prefixes_;
   ScopedStrings uris_;

@@ -1,14 +1,14 @@
-// A pull parser for XML 1.0 (fifth edition) and Namespaces in XML 1.0, without document type
-// declarations, which it refuses.
+// A pull parser for XML 1.0 (fifth edition) and Namespaces in XML 1.0. It refuses document type
+// declarations.
 //
-// Reading is forward only. A node consists of slices of the input; nothing is decoded or copied but
-// the names of the open elements. Memory is a block of input or the current node if that is larger,
-// the current start tag's attributes, and the names of the open elements; once these have grown to
-// what a document needs, no node costs an allocation. Time is linear in the document's size,
-// whatever it holds.
+// Reading is forward only. The parts of a node are slices of the input; nothing is decoded or
+// copied but the names of the open elements. Memory is a block of input, or the current node if
+// that is larger, the attributes of the current start tag, and the names of the open elements. Once
+// these have grown to what a document needs, no node costs an allocation. Time is linear in the
+// size of the document, whatever it contains.
 //
-// Faults are reported where they stand: all nodes before the one at fault are delivered first. The
-// codes are those of XmlLite.
+// A fault is reported where it is: all nodes before it are delivered first. The codes of faults are
+// those of XmlLite.
 #pragma once
 
 #include <cstdint>
@@ -18,9 +18,9 @@
 
 #include "platform/buffer.h"
 #include "platform/xml/decode.h"
+#include "platform/xml/duplicate_filter.h"
 #include "platform/xml/input.h"
 #include "platform/xml/namespaces.h"
-#include "platform/xml/twin_names.h"
 
 namespace tolva::platform {
 
@@ -39,96 +39,112 @@ enum XmlNodeType : std::int32_t {
 
 namespace own_xml {
 
+enum class ReadResult {
+  kNode,   ///< there is a next node, and the parser is on it
+  kEnd,    ///< the document has ended
+  kFault,  ///< the document is malformed or cannot be read
+};
+
 class Parser {
  public:
-  /// As many elements may be open at once; one more is refused.
+  /// How many elements may be open. One more is a fault.
   static constexpr std::size_t kMaxDepth = 256;
 
-  /// Starts on a stream, which is kept until the next call; null lets the last one go. `converted`:
-  /// the text is UTF-8, whatever encoding it declares.
+  /// Starts on a stream, which is kept until the next call; null releases the last one.
+  /// `converted`: the text is UTF-8, whatever encoding it declares.
   void SetInput(ISequentialStream* stream, bool converted);
 
-  /// Moves to the next node: S_OK; S_FALSE behind the last one; or what is wrong with the document,
-  /// now and from then on. The slices below are valid until the next call.
-  HRESULT Read();
+  /// Moves to the next node. After the end and after a fault every further call returns the same.
+  /// The slices below are valid until the next call.
+  ReadResult Read();
+
+  /// What is wrong, after kFault: an XmlLite code, the stream's failure, E_OUTOFMEMORY after a call
+  /// that has thrown, or E_UNEXPECTED if there is no input.
+  HRESULT fault() const { return fault_; }
 
   XmlNodeType type() const { return type_; }
 
-  /// The name of an Element, EndElement or ProcessingInstruction; else empty.
+  /// The name of an Element, EndElement or ProcessingInstruction; otherwise empty.
   const Name& name() const { return name_; }
 
-  /// The text of a Text, CDATA, Whitespace, Comment or ProcessingInstruction as it stands in the
-  /// document; else empty. It is its own value when `value_is_plain`.
+  /// The source text of a Text, CDATA, Whitespace, Comment or ProcessingInstruction; otherwise
+  /// empty. If `value_is_plain`, it is the value as well.
   std::string_view value() const { return value_; }
   bool value_is_plain() const { return value_is_plain_; }
 
-  /// The attributes of an Element, in the document's order.
+  /// The attributes of an Element, in document order.
   std::span<const Attribute> attributes() const { return {attributes_.data(), attributes_.size()}; }
 
-  /// False: no attribute's name begins with this character.
+  /// False: no attribute has a name that starts with this character.
   bool MayHaveAttribute(wchar_t initial) const {
     const bool is_ascii = static_cast<std::uint32_t>(initial) < 0x80;
-    return !is_ascii || (attribute_initials_ & InitialOf(static_cast<char>(initial))) != 0;
+    return !is_ascii || (attribute_initials_ & InitialBit(static_cast<char>(initial))) != 0;
   }
 
-  /// Whether the document is at its end, but for a zero where the input should have ended.
-  bool EndsAtTerminator() const { return IsBehindRoot() && input_.stopped_at_zero(); }
+  /// Whether the document is complete, except that a zero follows it where the input should end.
+  bool EndsAtTerminator() const { return IsAfterRoot() && input_.stopped_at_zero(); }
 
-  /// The Element was written as an empty tag. It has no EndElement then.
+  /// The Element is an empty tag. It has no EndElement.
   bool is_empty_element() const { return is_empty_element_; }
 
  private:
   struct OpenElement {
     std::size_t name_start;    ///< in `open_names_`
     std::size_t prefix;        ///< of the name
-    std::size_t declarations;  ///< namespace declarations that were in force around it
+    std::size_t declarations;  ///< how many namespace declarations were in scope around it
   };
 
-  /// What is found out about a start tag on the way.
+  /// What the names in a start tag call for.
   struct TagTraits {
-    std::uint64_t initials = 0;   ///< InitialOf each attribute's name
-    bool has_namespaces = false;  ///< a colon or a declaration
-    bool may_have_twins = false;  ///< two attributes may have the same name
+    void Add(const Name& attribute);
+
+    std::uint64_t initials = 0;        ///< InitialBit of each attribute's name
+    bool uses_namespaces = false;      ///< there is a prefix or a namespace declaration
+    bool may_have_duplicates = false;  ///< two attributes may have the same name
+    DuplicateFilter filter;
   };
 
-  void Forget();
-  void ForgetAttributes();
-  HRESULT ParseNode();
-  HRESULT ParseOutsideRoot();
-  HRESULT ParseText();
-  HRESULT ParseCharacters(const char* behind_space);
-  HRESULT ParseMarkup(const char* at);
-  HRESULT ParseStartTag(const char* at);
-  HRESULT ParseAttributes(const char* at, const char*& end, TagTraits& traits);
-  template <char Quote>
-  static HRESULT ParseAttributeValue(const char*& at, Attribute& attribute);
-  HRESULT CheckUniqueNames();
-  void PushName(std::string_view name);
-  HRESULT ParseEndTag(const char* at);
-  HRESULT ParseComment(const char* at);
-  HRESULT ParseCData(const char* at);
-  HRESULT ParseProcessingInstruction(const char* at);
-  HRESULT ParseDeclaration(const char* at);
-  HRESULT ParseDeclarationItem(const char*& at, std::string_view name, std::string_view& value);
-
-  HRESULT Deliver(XmlNodeType type, const char* end);
-  HRESULT FaultAtLimit() const;
-  /// One bit for what a name begins with.
-  static std::uint64_t InitialOf(char c) {
+  /// One bit for the first character of a name.
+  static std::uint64_t InitialBit(char c) {
     return std::uint64_t{1} << (static_cast<unsigned char>(c) % 64);
   }
 
+  void ClearNode();
+  void ClearAttributes();
+  Status ParseNode();
+  Status ParseOutsideRoot();
+  Status ParseText();
+  Status ParseCharacters(const char* after_space);
+  Status ParseMarkup(const char* at);
+  Status ParseStartTag(const char* at);
+  Status ParseAttributes(const char* at, const char*& end, TagTraits& traits);
+  Status OpenScope(const TagTraits& traits);
+  Status CheckUniqueNames();
+  void PushName(std::string_view name);
+  Status ParseEndTag(const char* at);
+  Status ParseExclamation(const char* at);
+  Status ParseComment(const char* at);
+  Status ParseCData(const char* at);
+  Status ParseProcessingInstruction(const char* at);
+  Status ParseDeclaration(const char* at);
+  Status ParseEncodingDeclaration(const char*& at) const;
+
+  Status Deliver(XmlNodeType type, const char* end);
+  ReadResult Fail(HRESULT fault);
+  ReadResult EndAtLimit();
+
   bool IsOutsideRoot() const { return open_elements_.size() == 0; }
-  /// All that the window shows has been delivered, and the root with it.
-  bool IsBehindRoot() const { return has_root_ && IsOutsideRoot() && at_ == input_.limit(); }
+  /// The window shows nothing more after the root.
+  bool IsAfterRoot() const { return has_root_ && IsOutsideRoot() && at_ == input_.limit(); }
   std::string_view InnermostName() const;
 
   Input input_;
-  const char* at_ = nullptr;       ///< behind the current node
-  bool started_ = false;           ///< something has been delivered
-  bool has_root_ = false;          ///< the root's start tag has been delivered
-  bool at_limit_ = false;          ///< the input has nothing to add to its window
-  HRESULT result_ = E_UNEXPECTED;  ///< what Read answers without looking, unless S_OK
+  const char* at_ = nullptr;    ///< the end of the current node
+  bool has_delivered_ = false;  ///< there has been a node
+  bool has_root_ = false;       ///< there has been the root's start tag
+  bool at_limit_ = false;       ///< there is no more input than the window shows
+  ReadResult result_ = ReadResult::kFault;
+  HRESULT fault_ = E_UNEXPECTED;
 
   XmlNodeType type_ = XmlNodeType_None;
   Name name_;
@@ -136,7 +152,7 @@ class Parser {
   bool value_is_plain_ = true;
   bool is_empty_element_ = false;
   Buffer<Attribute> attributes_;
-  std::uint64_t attribute_initials_ = 0;  ///< InitialOf each one's name
+  std::uint64_t attribute_initials_ = 0;  ///< InitialBit of each one's name
   std::vector<std::string_view> sorted_names_;
 
   Buffer<char> open_names_;

@@ -54,7 +54,7 @@ own_xml::ValueKind KindOf(XmlNodeType type) {
 HRESULT XmlReader::SetInput(ISequentialStream* input, bool converted) {
   parser_.SetInput(input, converted);
   attribute_ = kNoAttribute;
-  ForgetStrings();
+  ClearStrings();
   return S_OK;
 }
 
@@ -70,7 +70,7 @@ void XmlReader::MoveTo(std::size_t attribute) {
 }
 
 /// Memory that a long string has needed is given back behind its node.
-void XmlReader::ForgetStrings() {
+void XmlReader::ClearStrings() {
   name_.Clear();
   value_.Clear();
   decoded_.Clear();

@@ -29,12 +29,13 @@ class XmlReader final : public RefCounted<> {
   /// S_OK, S_FALSE behind the last node (`*type` None), or a failure that stays.
   HRESULT Read(XmlNodeType* type) {
     // Strings that were asked for, some of them perhaps left for another attribute.
-    if (name_.size() + value_.size() + next_attribute_ != 0) ForgetStrings();
+    if (name_.size() + value_.size() + next_attribute_ != 0) ClearStrings();
     attribute_ = kNoAttribute;
     next_attribute_ = 0;
-    const HRESULT result = parser_.Read();
+    const own_xml::ReadResult result = parser_.Read();
     *type = parser_.type();
-    return result;
+    if (result == own_xml::ReadResult::kNode) return S_OK;
+    return result == own_xml::ReadResult::kEnd ? S_FALSE : parser_.fault();
   }
 
   HRESULT GetLocalName(const wchar_t** name, UINT* length);
@@ -58,7 +59,7 @@ class XmlReader final : public RefCounted<> {
   static constexpr std::size_t kNoAttribute = static_cast<std::size_t>(-1);
 
   void MoveTo(std::size_t attribute);
-  void ForgetStrings();
+  void ClearStrings();
   void FillValue(std::string_view raw, bool is_plain, own_xml::ValueKind kind);
 
   own_xml::Parser parser_;

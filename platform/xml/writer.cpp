@@ -248,7 +248,7 @@ HRESULT XmlWriter::WriteStartElement(const wchar_t* prefix, const wchar_t* name,
   Change change(*this);
   const HRESULT result = StartElement(name);
   if (FAILED(result)) return result;
-  twin_names_.Clear();
+  duplicate_filter_.Clear();
   attribute_names_.Clear();
   attribute_name_ends_.Clear();
   return change.Keep();
@@ -299,7 +299,7 @@ HRESULT XmlWriter::WriteAttributeString(const wchar_t* prefix, const wchar_t* na
   attribute_name_ends_.Room(1);
   attribute_names_.Room(name_size);
   bool has_twin = false;
-  if (twin_names_.MayHaveTwin(new_name)) {
+  if (duplicate_filter_.MayBeDuplicate(new_name)) {
     for (std::size_t i = 0; i < attribute_name_ends_.size(); ++i) {
       has_twin = has_twin || is_new_name(i);
     }

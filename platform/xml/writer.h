@@ -8,8 +8,8 @@
 #include "platform/buffer.h"
 #include "platform/com_ptr.h"
 #include "platform/ref_counted.h"
+#include "platform/xml/duplicate_filter.h"
 #include "platform/xml/hresults.h"
-#include "platform/xml/twin_names.h"
 
 namespace tolva::platform {
 
@@ -126,7 +126,7 @@ class XmlWriter final : public RefCounted<> {
   Buffer<OpenElement> open_elements_;
 
   // The names of the attributes of the start tag.
-  own_xml::TwinNames twin_names_;
+  own_xml::DuplicateFilter duplicate_filter_;
   Buffer<char> attribute_names_;
   Buffer<std::size_t> attribute_name_ends_;
 };

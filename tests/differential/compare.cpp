@@ -69,19 +69,20 @@ class Nodes {
 
 class OwnReader {
  public:
-  /// What is wrong with the document, or S_FALSE.
+  /// What is wrong with the document, or S_OK.
   HRESULT Read(std::string_view document, std::size_t block) {
     nodes_.Clear();
     depth_ = 0;
     TextStream stream(document, block);
     parser_.SetInput(&stream, false);
-    HRESULT result = S_OK;
-    for (std::size_t n = 0; result == S_OK && n <= document.size(); ++n) {
-      result = parser_.Read();
-      if (result == S_OK) AddNode();
+    own_xml::ReadResult result = own_xml::ReadResult::kNode;
+    std::size_t nodes = 0;
+    while ((result = parser_.Read()) == own_xml::ReadResult::kNode && nodes++ <= document.size()) {
+      AddNode();
     }
+    const HRESULT fault = result == own_xml::ReadResult::kFault ? parser_.fault() : S_OK;
     parser_.SetInput(nullptr, false);
-    return result;
+    return fault;
   }
 
   const std::string& nodes() const { return nodes_.text(); }
@@ -381,7 +382,7 @@ std::optional<std::string> Difference(std::string_view document) {
     if (!same) return Report(document, "the own parser minds blocks of " + std::to_string(block));
   }
 
-  const bool accepted = result == S_FALSE;
+  const bool accepted = result == S_OK;
   const bool expat_accepts = expat.Read(document, false);
   if (!accepted) {
     if (!expat_accepts || IsKnownAcceptance(document, result, expat)) return std::nullopt;
