@@ -41,7 +41,7 @@ class Plans {
   const Plan& root() const { return *root_; }
 
  private:
-  static std::string Narrow(const wchar_t* text) {
+  static std::string Narrow(std::wstring_view text) {
     std::string narrow;
     while (*text != 0) narrow += static_cast<char>(*text++);
     return narrow;
@@ -56,7 +56,7 @@ class Plans {
     made->name = Narrow(schema.element);
     for (const node::Attribute& row : schema.attributes) {
       made->attributes.push_back({Narrow(row.name), &row, {}});
-      for (const wchar_t* const text : row.enum_texts.texts) {
+      for (const node::Name& text : row.enum_texts.texts) {
         made->attributes.back().enum_texts.push_back(Narrow(text));
       }
     }
@@ -64,7 +64,7 @@ class Plans {
     for (const node::Child& row : schema.children) {
       if (row.occurrence == node::Occurrence::kRequired) made->required |= bit;
       bit <<= 1;
-      made->children.push_back({Narrow(row.name), &row, Make(*row.schema)});
+      made->children.push_back({Narrow(row.name()), &row, Make(*row.schema)});
     }
     return made;
   }

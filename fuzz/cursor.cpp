@@ -1,6 +1,6 @@
 // Calls of the cursor in any order: the last bytes of the document are the program as well.
-#include <cwchar>
 #include <iterator>
+#include <numeric>
 
 #include "support.h"
 #include "xml/reader.h"
@@ -8,15 +8,26 @@
 namespace {
 
 using namespace tolva::fuzz;
+using namespace tolva::platform;
 using tolva::xml::CXMLLiteManagerReader;
 
 constexpr std::size_t kProgram = 48;
-const wchar_t* const kNames[] = {L"Name", L"Enabled", L"a", L"xmlns", L"p:a", L"", nullptr};
+struct AttributeRow {
+  Name name;
+};
+constexpr AttributeRow kAttributeRows[] = {{L"Name"}, {L"Enabled"}, {L"a"}, {L"value"}};
+const Names kAttributes(std::span<const AttributeRow>(kAttributeRows), &AttributeRow::name);
 
-/// Reads a string that the cursor has handed out to its end.
-void Use(const wchar_t* text) {
-  static volatile std::size_t length = 0;
-  if (text != nullptr) length = length + std::wcslen(text);
+struct TagRow {
+  KnownTag tag;
+};
+const TagRow kTagRows[] = {{{L"Location", &kAttributes}}, {{L"a", &kAttributes}}};
+const KnownTags kTags(std::span<const TagRow>(kTagRows), &TagRow::tag);
+
+/// Reads every byte of a value that the cursor has handed out.
+void Use(std::string_view value) {
+  static volatile int sum = 0;
+  sum = sum + std::accumulate(value.begin(), value.end(), 0);
 }
 
 }  // namespace
@@ -28,6 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (reader.OpenFile(file.path()) != 0) return 0;
   const std::uint8_t* const program = size > kProgram ? data + size - kProgram : data;
   std::size_t moves = 0;
+  std::size_t tag = 0;
   for (const std::uint8_t* at = program; moves <= size + 1;) {
     const std::uint8_t call = *at;
     if (++at == data + size) at = program;
@@ -40,7 +52,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Use(reader.GetText());
         break;
       case 2:
-        Use(reader.GetAttribute(kNames[call / 8 % std::size(kNames)]));
+        reader.FindAttributes(kAttributes);
+        Use(reader.GetAttribute(call / 8 % std::size(kAttributeRows)));
+        reader.StoreAttributeError();
         break;
       case 3:
         Use(reader.GetLocalName());
@@ -50,6 +64,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         break;
       case 5:
         if (call == 253) reader.Close();
+        break;
+      case 6:
+        tag %= std::size(kTagRows);
+        if (reader.NextNode(kTags, tag) == 0 && call > 128) return 0;
         break;
       default:
         if (reader.NextNode() == 0 && call > 128) return 0;

@@ -34,10 +34,10 @@ const Factory kFactories[] = {
 #undef TOLVA_FACTORY
 };
 
-std::vector<const Factory*> FactoriesOf(const wchar_t* element) {
+std::vector<const Factory*> FactoriesOf(std::string_view element) {
   std::vector<const Factory*> found;
   for (const Factory& factory : kFactories) {
-    if (std::wcscmp(factory.schema->element, element) == 0) found.push_back(&factory);
+    if (factory.schema->element == element) found.push_back(&factory);
   }
   return found;
 }
@@ -97,8 +97,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   input.Write(Text(data, size));
   tolva::xml::CXMLLiteManagerReader reader;
   if (reader.OpenFile(input.path()) != 0) return 0;
-  const wchar_t* const element = reader.GetLocalName();
-  if (element == nullptr) return 0;
-  for (const Factory* const factory : FactoriesOf(element)) TryOne(*factory, input);
+  for (const Factory* const factory : FactoriesOf(reader.GetLocalName())) TryOne(*factory, input);
   return 0;
 }

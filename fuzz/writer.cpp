@@ -14,6 +14,7 @@ namespace {
 using namespace tolva::platform;
 using namespace tolva::fuzz;
 using tolva::xml::CXMLLiteManagerWriter;
+using End = CXMLLiteManagerWriter::End;
 
 /// Bytes as a program: calls and their arguments.
 class Program {
@@ -36,15 +37,17 @@ class Program {
     return text;
   }
 
-  std::wstring TakeName() {
-    static const wchar_t* const kNames[] = {L"a", L"Name", L"\u00E9", L"a:b", L"1", L"x y", L""};
-    return kNames[Take() % std::size(kNames)];
-  }
+  std::size_t Take(std::size_t count) { return Take() % count; }
 
  private:
   const std::uint8_t* at_;
   const std::uint8_t* end_;
 };
+
+constexpr Name kElements[] = {L"a", L"Name", L"b-c_d.e",
+                              L"ANameOfTheGreatestLengthThatATableCanHave123"};
+constexpr Name kAttributes[] = {L"Name", L"a", L"enabled", L"A1", L"x", L"y"};
+constexpr std::string_view kPlain[] = {"0", "-1", "4294967295", "true"};
 
 /// What the file should hold: start tags with their attributes, texts, end tags.
 struct Account {
@@ -126,47 +129,65 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (writer.OpenFile(file.path()) != 0) return 0;
   Account account;
   int depth = 0;
+  std::size_t next_attribute = 0;  // an element has none of its attributes twice
   for (Program program(data, size); !program.IsOver();) {
-    switch (program.Take() % 5) {
+    const std::uint8_t call = program.Take();
+    switch (call % 5) {
       case 0: {
-        const std::wstring name = program.TakeName();
         if (depth == 255) break;  // deeper than can be read
-        if (writer.StartElement(name.c_str()) == 0) {
-          account.Add('s', Utf8(name));
+        const Name& name = kElements[program.Take(std::size(kElements))];
+        if (writer.StartElement(name) == 0) {
+          account.Add('s', name.narrow());
+          next_attribute = 0;
           ++depth;
         }
         break;
       }
       case 1: {
-        const std::wstring name = program.TakeName();
-        const std::wstring value = program.TakeText();
-        if (writer.WriteAttribute(name.c_str(), value) == 0) {
-          account.Add('a', Utf8(name) + "=" + Utf8(value));
+        if (next_attribute == std::size(kAttributes)) break;
+        const Name& name = kAttributes[next_attribute++];
+        const bool is_plain = call / 5 % 4 == 0;
+        std::wstring text = is_plain ? L"" : program.TakeText();
+        const std::string_view plain = kPlain[call / 20 % std::size(kPlain)];
+        const int result =
+            is_plain ? writer.WritePlainAttribute(name, plain) : writer.WriteAttribute(name, text);
+        if (result == 0) {
+          account.Add(
+              'a', std::string(name.narrow()) + "=" + (is_plain ? std::string(plain) : Utf8(text)));
         }
         break;
       }
-      case 2:
-        if (writer.EndElement(nullptr) == 0) {
-          account.Add('e');
-          --depth;
-        }
-        break;
-      case 3: {
-        const std::wstring text = program.TakeText();
-        if (writer.EndElement(text) == 0) {
-          account.AddText(Utf8(text));
+      case 2: {
+        const bool is_empty_tag = call / 5 % 2 == 0;
+        if (writer.EndElement(is_empty_tag ? End::kEmptyTag : End::kEndTag) == 0) {
           account.Add('e');
           --depth;
         }
         break;
       }
       default: {
-        const std::wstring name = program.TakeName();
-        const std::wstring text = program.TakeText();
-        if (writer.WriteElementString(name.c_str(), text) == 0) {
-          account.Add('s', Utf8(name));
+        const Name& name = kElements[program.Take(std::size(kElements))];
+        const std::string_view plain = kPlain[call / 20 % std::size(kPlain)];
+        std::wstring text;
+        int result = 0;
+        switch (call / 5 % 4) {
+          case 0:
+            result = writer.WriteEmptyElement(name);
+            break;
+          case 1:
+            result = writer.WritePlainElement(name, plain);
+            text.assign(plain.begin(), plain.end());
+            break;
+          default:
+            text = program.TakeText();
+            result = writer.WriteElement(name, text);
+            break;
+        }
+        if (result == 0) {
+          account.Add('s', name.narrow());
           account.AddText(Utf8(text));
           account.Add('e');
+          next_attribute = std::size(kAttributes);
         }
         break;
       }

@@ -1,4 +1,4 @@
-// A growing array without initialisation, for bytes and characters on their way.
+// A growing array of bytes, characters and other plain values.
 #pragma once
 
 #include <algorithm>
@@ -10,8 +10,8 @@
 
 namespace tolva::platform {
 
-/// Like a std::vector<T>, but what it grows by is not written twice. Keeps its memory when it is
-/// emptied, up to a size that is worth keeping.
+/// Like std::vector<T>, but new items are not initialised before they are written. An emptied
+/// buffer keeps its memory for the next items, up to a certain size.
 template <class T>
 class Buffer {
   static_assert(std::is_trivially_copyable_v<T>);
@@ -22,7 +22,8 @@ class Buffer {
   std::size_t size() const noexcept { return size_; }
   std::size_t capacity() const noexcept { return capacity_; }
 
-  /// Makes room for `count` more items and returns where they go; `Commit` then says how many came.
+  /// Makes room for `count` more items and returns where to write them. `Commit` then adds those
+  /// that have been written.
   T* Room(std::size_t count) {
     if (capacity_ - size_ < count) Grow(size_ + count);
     return items_.get() + size_;
@@ -41,14 +42,16 @@ class Buffer {
     ++size_;
   }
 
+  /// Removes all but the first `size` items.
   void Truncate(std::size_t size) noexcept { size_ = size; }
 
-  /// Empties the buffer. Memory beyond what is worth keeping is given back.
+  /// Removes all items. Releases the memory if it is large.
   void Clear() noexcept {
     size_ = 0;
     if (capacity_ > kBytesKept / sizeof(T)) Release();
   }
 
+  /// Removes all items and releases the memory.
   void Release() noexcept {
     items_.reset();
     size_ = 0;

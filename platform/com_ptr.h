@@ -5,7 +5,7 @@
 
 namespace tolva::platform {
 
-/// Owns one reference to a T; empty when null.
+/// Owns one reference to a T, or is null.
 template <class T>
 class ComPtr {
  public:
@@ -19,13 +19,13 @@ class ComPtr {
   }
   ~ComPtr() { Reset(); }
 
-  /// Takes over a reference that the caller holds, dropping the earlier one.
+  /// Takes ownership of a reference that the caller holds. Releases the previous one.
   void Attach(T* object) noexcept {
     T* const old = std::exchange(object_, object);
     if (old != nullptr) old->Release();
   }
 
-  /// Adds a reference of its own, dropping the earlier one. `object` may be null.
+  /// Adds a reference to `object`, which may be null. Releases the previous one.
   void Share(T* object) noexcept {
     if (object != nullptr) object->AddRef();
     Attach(object);
@@ -33,7 +33,7 @@ class ComPtr {
 
   void Reset() noexcept { Attach(nullptr); }
 
-  /// Where a creating function may store its new reference.
+  /// The address at which a function stores a new reference. Releases the previous one.
   T** Receive() noexcept {
     Reset();
     return &object_;

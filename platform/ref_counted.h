@@ -1,11 +1,11 @@
-// Reference counting for the platform objects that are implemented here.
+// Reference counting for the objects of the platform that are implemented here.
 #pragma once
 
 #include "platform/system.h"
 
 namespace tolva::platform {
 
-/// What a counted object implements that has no other interface.
+/// The interface of a counted object that has no other.
 class Counted {
  public:
   Counted() = default;
@@ -19,8 +19,8 @@ class Counted {
   virtual ~Counted() = default;
 };
 
-/// Implements the counting of `Interface`. A new object has one reference, its maker's. One thread
-/// at a time, like all that the library uses.
+/// Implements the counting of `Interface`. A new object has one reference, which belongs to its
+/// creator. Not thread-safe.
 template <class Interface = Counted>
 class RefCounted : public Interface {
  public:

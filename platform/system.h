@@ -1,4 +1,4 @@
-// The platform without its XML reader and writer.
+// The platform without the XML reader and writer.
 #pragma once
 
 #if defined(_WIN32)

@@ -7,11 +7,11 @@
 namespace tolva::platform {
 namespace {
 
-/// How many bytes are looked at together.
+/// The number of bytes that are compared together.
 constexpr std::size_t kStretch = 4 * Bytes::kCount;
 
-/// The length of the well-formed, legal character that starts with a byte of 0x80 or more; 0 when
-/// there is none; -1 when the buffer ends before that can be said.
+/// The length of a character that starts with a byte of 0x80 or more. 0 if it is malformed or XML
+/// does not allow it; -1 if the buffer ends within it.
 int MeasureCharacter(const unsigned char* at, std::size_t size) {
   const unsigned lead = at[0];
   int length = 0;
@@ -52,7 +52,7 @@ wchar_t* EncodeWide(char32_t c, wchar_t* out) {
   return out;
 }
 
-/// Skips 64 bytes at a time while they are what most text is: printable ASCII and line feeds.
+/// Skips 64 bytes at a time while they are printable ASCII and line feeds, as most text is.
 std::size_t SkipUsual(const char* text, std::size_t at, std::size_t size) {
   const auto usual = [](const char* part) {
     const Bytes block = Bytes::Load(part);
@@ -67,7 +67,8 @@ std::size_t SkipUsual(const char* text, std::size_t at, std::size_t size) {
   return at;
 }
 
-/// How many of sixteen bytes are before the first that is neither printable ASCII nor white space.
+/// Counts, of sixteen bytes, those before the first that is neither printable ASCII nor white
+/// space.
 unsigned CountPlain(const char* at) {
   const Bytes block = Bytes::Load(at);
   const Bytes plain = block.IsPrintable() | block.Is('\n') | block.Is('\r') | block.Is('\t');
@@ -124,13 +125,13 @@ const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept {
 
 void AppendWide(std::string_view utf8, Buffer<wchar_t>& out) {
   static_assert(kReadAhead >= Bytes::kCount);
-  // No character takes more units than it has bytes.
+  // A character has no more units than bytes.
   wchar_t* const start = out.Room(utf8.size() + kReadAhead);
   wchar_t* to = start;
   const char* at = utf8.data();
   const char* const end = at + utf8.size();
   while (at != end) {
-    // Sixteen bytes are widened whatever they are. The ASCII characters at the front are kept.
+    // All sixteen bytes are widened. Only the ASCII characters at the front are kept.
     Bytes block = Bytes::Load(at);
     block.StoreWidened(to);
     while (block.ToMask() == 0 && end - at > static_cast<std::ptrdiff_t>(Bytes::kCount)) {
@@ -146,6 +147,35 @@ void AppendWide(std::string_view utf8, Buffer<wchar_t>& out) {
     if (at != end) to = EncodeWide(TakeCodePoint(at), to);
   }
   out.Commit(static_cast<std::size_t>(to - start));
+}
+
+void AssignWide(std::string_view utf8, std::wstring& text) {
+  constexpr std::size_t kShort = 4 * Bytes::kCount;
+  if (utf8.size() <= kShort) {
+    // Most values are short and ASCII. The blocks also cover what follows the value.
+    wchar_t wide[kShort];
+    Mask others = 0;
+    std::size_t done = 0;
+    do {
+      const Bytes block = Bytes::Load(utf8.data() + done);
+      block.StoreWidened(wide + done);
+      const std::size_t left = utf8.size() - done;
+      const Mask counted = left >= Bytes::kCount ? kAllBytes : (Mask{1} << left) - 1;
+      others |= block.ToMask() & counted;
+      done += Bytes::kCount;
+    } while (done < utf8.size());
+    if (others == 0) {
+      if (text.capacity() < utf8.size()) {
+        text = std::wstring(wide, utf8.size());  // cheaper than growing
+      } else {
+        text.assign(wide, utf8.size());
+      }
+      return;
+    }
+  }
+  Buffer<wchar_t> wide;
+  AppendWide(utf8, wide);
+  text.assign(wide.data(), wide.size());
 }
 
 void AppendUtf8(std::wstring_view wide, std::string& out) {

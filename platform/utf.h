@@ -1,7 +1,7 @@
 // Conversion between UTF-8 and wide strings.
 //
-// A wide string is UTF-16 where wchar_t has 16 bits and a sequence of code points elsewhere; where
-// it is the latter, a surrogate pair is accepted for the code point that it stands for.
+// A wide string is UTF-16 where wchar_t has 16 bits, and a sequence of code points elsewhere. In a
+// sequence of code points, a surrogate pair is read as the code point that it encodes.
 #pragma once
 
 #include <cstddef>
@@ -30,8 +30,8 @@ constexpr bool IsXmlCharacter(char32_t c) {
   return c < 0xD800 || (c > 0xDFFF && c < 0xFFFE) || (c > 0xFFFF && c <= kLastCodePoint);
 }
 
-/// Takes one code point off the front of the range. A lone surrogate and, where wchar_t is wide
-/// enough, a value beyond U+10FFFF come back as they are.
+/// Reads the code point at `at`, before `end`, and moves `at` after it. A lone surrogate is
+/// returned as it is, and so is a value beyond U+10FFFF.
 constexpr char32_t TakeCodePoint(const wchar_t*& at, const wchar_t* end) {
   const auto first = static_cast<char32_t>(*at++);
   if (!IsHighSurrogate(first) || at == end) return first;
@@ -41,7 +41,7 @@ constexpr char32_t TakeCodePoint(const wchar_t*& at, const wchar_t* end) {
   return CombineSurrogates(first, second);
 }
 
-/// Writes the code point, at most U+10FFFF, as one to four bytes; returns where they end.
+/// Writes a code point, at most U+10FFFF, as one to four bytes. Returns where they end.
 constexpr char* EncodeUtf8(char32_t c, char* out) {
   if (c < 0x80) {
     *out++ = static_cast<char>(c);
@@ -61,7 +61,7 @@ constexpr char* EncodeUtf8(char32_t c, char* out) {
   return out;
 }
 
-/// Takes one code point off the front of well-formed UTF-8.
+/// Reads the code point at `at`, in well-formed UTF-8, and moves `at` after it.
 constexpr char32_t TakeCodePoint(const char*& at) {
   const auto next = [&at] { return static_cast<char32_t>(static_cast<unsigned char>(*at++)); };
   const char32_t first = next();
@@ -73,26 +73,32 @@ constexpr char32_t TakeCodePoint(const char*& at) {
   return c;
 }
 
-/// What can be said of the UTF-8 at the front of a buffer.
+/// The front of a buffer, as far as it is UTF-8 and XML allows its characters.
 struct Utf8Prefix {
-  std::size_t size;  ///< bytes that are whole, well-formed characters allowed in XML
-  bool malformed;    ///< what follows can become no such character, whatever comes behind it
+  std::size_t size;  ///< in bytes
+  bool malformed;    ///< what follows is not such a character; false if that depends on more bytes
 };
 
-/// Looks at `size` bytes; behind what it accepts there may be an unfinished character.
+/// Validates `size` bytes.
 Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept;
 
-/// The first character that XML does not allow, a lone surrogate for one; `end` when there is none.
+/// Finds the first character that XML does not allow. Lone surrogates are not allowed. Returns
+/// `end` if there is none.
 const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept;
 
-/// How many bytes behind its text AppendWide looks at; they may hold anything.
+/// The number of bytes after a text that AppendWide may read. Their values have no effect.
 inline constexpr std::size_t kReadAhead = 16;
 
-/// Appends well-formed UTF-8, with `kReadAhead` readable bytes behind it, as a wide string. Leaves
+/// Appends well-formed UTF-8, which `kReadAhead` readable bytes follow, as a wide string. Leaves
 /// room for a terminating zero.
 void AppendWide(std::string_view utf8, Buffer<wchar_t>& out);
 
-/// Appends a wide string as UTF-8; what is no code point becomes U+FFFD.
+// Replaces the text by a value, which is UTF-8 with `kReadAhead` readable bytes after it, or wide.
+
+void AssignWide(std::string_view utf8, std::wstring& text);
+inline void AssignWide(std::wstring_view wide, std::wstring& text) { text = wide; }
+
+/// Appends a wide string as UTF-8. What is not a code point becomes U+FFFD.
 void AppendUtf8(std::wstring_view wide, std::string& out);
 
 }  // namespace tolva::platform

@@ -32,4 +32,9 @@ inline unsigned FirstOf(Mask mask) {
   return static_cast<unsigned>(std::countr_zero(mask | ~kAllBytes));
 }
 
+/// Copies text in blocks: up to 15 bytes after it are read and written as well.
+inline void CopyBlocks(const char* from, std::size_t size, char* to) {
+  for (std::size_t i = 0; i < size; i += Bytes::kCount) Bytes::Load(from + i).Store(to + i);
+}
+
 }  // namespace tolva::platform

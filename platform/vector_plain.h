@@ -12,6 +12,11 @@ class PlainBytes {
  public:
   static constexpr std::size_t kCount = 16;
 
+  static PlainBytes Fill(char c) {
+    const Word all = kOnes * static_cast<unsigned char>(c);
+    return {all, all};
+  }
+
   /// Reads sixteen bytes, at any alignment.
   static PlainBytes Load(const char* at) {
     return Make([at](std::size_t i) { return static_cast<unsigned char>(at[i]); });
@@ -40,10 +45,7 @@ class PlainBytes {
     return {ZeroBytes(low_ ^ other.low_), ZeroBytes(high_ ^ other.high_)};
   }
 
-  PlainBytes Is(char c) const {
-    const Word all = kOnes * static_cast<unsigned char>(c);
-    return {ZeroBytes(low_ ^ all), ZeroBytes(high_ ^ all)};
-  }
+  PlainBytes Is(char c) const { return Is(Fill(c)); }
 
   /// The control characters below space.
   PlainBytes IsControl() const {

@@ -13,6 +13,8 @@ class Sse2Bytes {
  public:
   static constexpr std::size_t kCount = 16;
 
+  static Sse2Bytes Fill(char c) { return Sse2Bytes(_mm_set1_epi8(c)); }
+
   static Sse2Bytes Load(const char* at) {
     return Sse2Bytes(_mm_loadu_si128(reinterpret_cast<const __m128i*>(at)));
   }

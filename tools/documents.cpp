@@ -63,7 +63,7 @@ std::string TypeOf(ValueType type, const EnumTexts& texts, Numbers numbers) {
       break;
   }
   std::string all;
-  for (const wchar_t* const text : texts.texts) all += (all.empty() ? "" : ", ") + Code(text);
+  for (const Name& text : texts.texts) all += (all.empty() ? "" : ", ") + Code(text);
   return all;
 }
 
@@ -106,7 +106,7 @@ void Describe(const Schema& table) {
   if (!table.children.empty()) {
     std::cout << "\n| Child | |\n| --- | --- |\n";
     for (const Child& row : table.children) {
-      std::cout << "| " << Code(row.name) << " | " << OccurrenceOf(row) << " |\n";
+      std::cout << "| " << Code(row.name()) << " | " << OccurrenceOf(row) << " |\n";
     }
   }
 }

@@ -28,7 +28,7 @@ for source in tests/must_fail/*.cpp; do
           "$compiler" "$source" "$number" "$reason" "$said"
         failed=1
       fi
-    done < <(sed -n 's|^#elif CASE == \([0-9]*\)  // \(.*\)|\1\t\2|p' "$source")
+    done < <(sed -n 's|^#elif CASE == \([0-9]*\)  *// \(.*\)|\1\t\2|p' "$source")
   done
 done
 exit $failed

@@ -22,7 +22,7 @@ bool IsDirectory(const std::string& path) {
   return stat(path.c_str(), &about) == 0 && S_ISDIR(about.st_mode);
 }
 
-/// POSIX says ENOENT for a missing file and for a missing folder alike; Windows tells them apart.
+/// POSIX has ENOENT for a missing file and for a missing folder. Windows has a code for each.
 DWORD ErrorOfMissing(const std::string& path) {
   const std::size_t slash = path.rfind('/');
   if (path.empty()) return ERROR_PATH_NOT_FOUND;
@@ -34,8 +34,6 @@ DWORD ErrorOfMissing(const std::string& path) {
 
 DWORD ErrorOf(int error_number) noexcept {
   switch (error_number) {
-    case ENOENT:
-      return ERROR_FILE_NOT_FOUND;
     case ENOTDIR:
     case ELOOP:
       return ERROR_PATH_NOT_FOUND;
@@ -66,7 +64,7 @@ DWORD ErrorOf(int error_number) noexcept {
 int Open(const wchar_t* path, int flags, DWORD* error) noexcept try {
   std::string name;
   AppendUtf8(path, name);
-  // O_NONBLOCK: opening a named pipe must not wait for the process at its other end.
+  // O_NONBLOCK: the opening of a named pipe must not wait for the process at its other end.
   const int file = open(name.c_str(), flags | O_CLOEXEC | O_NONBLOCK, 0666);
   if (file < 0) {
     *error = errno == ENOENT ? ErrorOfMissing(name) : ErrorOf(errno);

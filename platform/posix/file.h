@@ -1,15 +1,15 @@
-// Opening files by wide path, and the Windows error codes of what can go wrong.
+// Opens files by wide path, and translates errors to those of Windows.
 #pragma once
 
 #include "platform/posix/system.h"
 
 namespace tolva::platform::posix {
 
-/// The Windows error code that says the same as an `errno` value.
+/// The Windows error code for an `errno` value other than ENOENT, which has two.
 DWORD ErrorOf(int error_number) noexcept;
 
-/// Opens a file without ever waiting for another process; -1 with `*error` set. Directories are
-/// refused with ERROR_ACCESS_DENIED.
+/// Opens a file without waiting for other processes. Returns its descriptor, or -1 and sets
+/// `*error`. A directory fails with ERROR_ACCESS_DENIED.
 int Open(const wchar_t* path, int flags, DWORD* error) noexcept;
 
 }  // namespace tolva::platform::posix

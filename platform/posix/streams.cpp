@@ -49,9 +49,9 @@ class FileStream final : public RefCounted<IStream> {
     return S_OK;
   }
 
-  /// Closes the file: some file systems do not say before then that they could not store it.
+  /// Closes the file. Some file systems report only then that they have not stored it.
   HRESULT Commit(DWORD /*flags*/) noexcept override {
-    // The descriptor is gone even if `close` is interrupted.
+    // Linux releases the descriptor even if `close` is interrupted.
     const bool failed = file_ >= 0 && close(file_) != 0 && errno != EINTR;
     if (failed) committed_ = ResultOfErrno();
     file_ = -1;
@@ -59,8 +59,8 @@ class FileStream final : public RefCounted<IStream> {
   }
 
  private:
-  int file_;                  ///< -1 when it is closed
-  HRESULT committed_ = S_OK;  ///< the failure with which it was closed
+  int file_;                  ///< -1 after it has been closed
+  HRESULT committed_ = S_OK;  ///< the result of closing it
 };
 
 class MemoryStream final : public RefCounted<IStream> {
@@ -87,8 +87,8 @@ class MemoryStream final : public RefCounted<IStream> {
   UINT position_ = 0;
 };
 
-/// Reading takes files only; writing takes devices too (/dev/null), but no pipe, whose reader might
-/// go away.
+/// Only regular files can be read. Devices such as /dev/null can be written as well, but not pipes:
+/// the process that reads from a pipe may end.
 bool IsAcceptable(int file, bool for_writing) {
   struct stat about {};
   if (fstat(file, &about) != 0) return false;

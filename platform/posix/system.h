@@ -1,6 +1,6 @@
-// The Windows interfaces that the library calls, for systems that have none of them: names,
-// signatures and results are those of the Windows SDK, narrowed to what is called here. Flags that
-// have no counterpart are accepted and have no effect.
+// The Windows interfaces that the library calls, for other systems. Names, signatures and results
+// are those of the Windows SDK, limited to what the library uses. Flags that have no counterpart
+// are accepted and have no effect.
 #pragma once
 
 #include <cstdint>
@@ -52,14 +52,14 @@ constexpr HRESULT HRESULT_FROM_WIN32(DWORD error) {
   return error == 0 ? S_OK : static_cast<HRESULT>(0x80070000U | (error & 0xFFFFU));
 }
 
-/// The calling thread's last-error value. A cell of its own, not `errno`, which any C library call
+/// The last-error value of the calling thread. It is not `errno`, which any call of the C library
 /// may change.
 DWORD GetLastError() noexcept;
 void SetLastError(DWORD error) noexcept;
 
 // ---- streams -----------------------------------------------------------------------------------
 
-/// A sequence of bytes, reference-counted; destroyed by the last Release.
+/// A sequence of bytes. It is reference-counted: the last Release destroys it.
 class ISequentialStream {
  public:
   ISequentialStream() = default;
@@ -69,10 +69,11 @@ class ISequentialStream {
   virtual ULONG AddRef() noexcept = 0;
   virtual ULONG Release() noexcept = 0;
 
-  /// Reads up to `size` bytes. `*read` is less than `size` only at the end or on a failure.
+  /// Reads up to `size` bytes and sets `*read` to their number. It is less than `size` only at the
+  /// end and after a failure.
   virtual HRESULT Read(void* buffer, ULONG size, ULONG* read) noexcept = 0;
 
-  /// Writes `size` bytes; `*written` says how many arrived.
+  /// Writes `size` bytes and sets `*written` to the number of those that have been taken.
   virtual HRESULT Write(const void* buffer, ULONG size, ULONG* written) noexcept = 0;
 
  protected:
@@ -81,11 +82,10 @@ class ISequentialStream {
 
 inline constexpr DWORD STGC_DEFAULT = 0;
 
-/// Seeking and the rest of the Windows interface are not used by the library.
+/// The library does not use seeking and the rest of the Windows interface.
 class IStream : public ISequentialStream {
  public:
-  /// Brings everything written to where the stream keeps it. Nothing can be written afterwards,
-  /// other than on Windows.
+  /// Stores everything that has been written. Unlike on Windows, nothing can be written afterwards.
   virtual HRESULT Commit(DWORD flags) noexcept = 0;
 };
 
@@ -93,11 +93,12 @@ inline constexpr DWORD STGM_READ = 0;
 inline constexpr DWORD STGM_WRITE = 1;
 inline constexpr DWORD STGM_CREATE = 0x1000;
 
-/// Opens a file as a stream: STGM_READ, or STGM_CREATE | STGM_WRITE, which creates or truncates it.
-/// Reading a directory or anything that is not made of bytes fails like a missing permission.
+/// Opens a file as a stream. `mode` is STGM_READ, or STGM_CREATE | STGM_WRITE to create or truncate
+/// it. To read a directory or anything else that is not a regular file fails with
+/// ERROR_ACCESS_DENIED.
 HRESULT SHCreateStreamOnFileW(const wchar_t* path, DWORD mode, IStream** stream) noexcept;
 
-/// A stream over a copy of `size` bytes; null when memory is short.
+/// Returns a stream over a copy of `size` bytes, or null if there is not enough memory.
 IStream* SHCreateMemStream(const BYTE* bytes, UINT size) noexcept;
 
 // ---- files -------------------------------------------------------------------------------------
@@ -108,12 +109,13 @@ inline constexpr DWORD OPEN_EXISTING = 3;
 inline constexpr DWORD FILE_ATTRIBUTE_NORMAL = 0x80;
 inline constexpr DWORD FILE_FLAG_OVERLAPPED = 0x40000000;
 
-/// Opens an existing file for reading, the only way in which the library calls it. There is no
-/// share mode: a file that another process holds open is opened all the same.
+/// Opens an existing file for reading: the library uses nothing else. The share mode has no effect,
+/// so a file that another process has open can be opened.
 HANDLE CreateFileW(const wchar_t* path, DWORD access, DWORD share_mode, void* security,
                    DWORD disposition, DWORD flags, HANDLE template_file) noexcept;
 
-/// The low 32 bits of the file's size.
+/// Returns the low 32 bits of the file's size, and sets `*size_high`, which may be null, to the
+/// high ones.
 DWORD GetFileSize(HANDLE file, DWORD* size_high) noexcept;
 
 BOOL CloseHandle(HANDLE file) noexcept;
@@ -122,9 +124,10 @@ BOOL CloseHandle(HANDLE file) noexcept;
 
 inline constexpr UINT CP_UTF8 = 65001;
 
-/// Converts to UTF-8. Wide strings are code points here: a surrogate pair is combined, and a lone
-/// surrogate or a value beyond U+10FFFF becomes U+FFFD. Without a buffer the result is the size
-/// needed; 0 is a failure (no text, a result that does not fit).
+/// Converts `length` characters to UTF-8. Returns the size of the result, which is not stored if
+/// `buffer` is null. Returns 0 if there is no text or the result does not fit. Wide strings are
+/// code points here: a surrogate pair is combined, and a lone surrogate or a value beyond U+10FFFF
+/// becomes U+FFFD.
 int WideCharToMultiByte(UINT code_page, DWORD flags, const wchar_t* text, int length, char* buffer,
                         int capacity, const char* default_char, BOOL* default_used) noexcept;
 

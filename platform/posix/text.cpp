@@ -12,7 +12,7 @@ int WideCharToMultiByte(UINT /*code_page*/, DWORD /*flags*/, const wchar_t* text
                         char* buffer, int capacity, const char* /*default_char*/,
                         BOOL* /*default_used*/) noexcept {
   if (text == nullptr || length <= 0) return 0;
-  // Whether it is converted or only measured, a result has to fit.
+  // The size of the result has to fit into an int even if there is no buffer.
   const auto room = static_cast<std::size_t>(buffer == nullptr ? std::numeric_limits<int>::max()
                                                                : std::max(capacity, 0));
   std::size_t size = 0;

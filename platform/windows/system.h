@@ -1,5 +1,5 @@
-// On Windows the system supplies files, streams, UTF-8 conversion and the last-error cell: the
-// declarations come from its headers, and the calls need no adapting.
+// On Windows the system has files, streams, UTF-8 conversion and the last-error value. Its own
+// headers declare them.
 #pragma once
 
 #if !defined(NOMINMAX)

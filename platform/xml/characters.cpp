@@ -10,7 +10,7 @@ struct Range {
   char32_t last;
 };
 
-// Productions [4] and [4a] of XML 1.0, fifth edition, beyond ASCII.
+// Productions [4] and [4a] of XML 1.0, fifth edition, without ASCII.
 constexpr Range kStartRanges[] = {
     {0xC0, 0xD6},     {0xD8, 0xF6},     {0xF8, 0x2FF},    {0x370, 0x37D},
     {0x37F, 0x1FFF},  {0x200C, 0x200D}, {0x2070, 0x218F}, {0x2C00, 0x2FEF},
@@ -35,7 +35,7 @@ bool IsNameCharacter(char32_t c) {
   return IsIn(kStartRanges, c) || IsIn(kFurtherRanges, c);
 }
 
-const char* SkipNameSlowly(const char* at, bool started) {
+const char* SkipNonAsciiName(const char* at, bool started) {
   for (;;) {
     const char* next = at;
     const char32_t c = TakeCodePoint(next);

@@ -1,7 +1,7 @@
-// Classes of characters, and the scans that run to the next character of a class.
+// Classes of characters, and scans for the next character of a class.
 //
-// All scans work on text as `Input` shows it: legal UTF-8, zero at its end, readable for a vector's
-// width behind that. Every scan therefore stops at zero.
+// The scans of UTF-8 work on the window of an `Input`: valid UTF-8, followed by a zero and by a
+// vector's width of readable bytes. Every scan stops at the zero.
 #pragma once
 
 #include <array>
@@ -13,16 +13,16 @@
 namespace tolva::platform::own_xml {
 
 enum CharacterClass : std::uint8_t {
-  kSpace = 1,      ///< blank, TAB, LF, CR
-  kName = 2,       ///< may stand in a name (ASCII, without the colon)
-  kNameStart = 4,  ///< may start a name (likewise)
-  kInDouble = 8,   ///< ends a value in double quotes or has to be looked at in it
-  kInSingle = 16,  ///< likewise in single quotes
+  kSpace = 1,             ///< white space: space, TAB, LF, CR
+  kName = 2,              ///< allowed in a name: ASCII, without the colon
+  kNameStart = 4,         ///< allowed as the first character of a name: likewise
+  kDoubleQuoteStop = 8,   ///< ends a value in double quotes, or is special in it
+  kSingleQuoteStop = 16,  ///< ends a value in single quotes, or is special in it
 };
 
 inline constexpr auto kClasses = [] {
   std::array<std::uint8_t, 256> classes{};
-  for (unsigned c = 0; c < 0x20; ++c) classes[c] = kInDouble | kInSingle;
+  for (unsigned c = 0; c < 0x20; ++c) classes[c] = kDoubleQuoteStop | kSingleQuoteStop;
   for (const char c : {' ', '\t', '\n', '\r'}) classes[static_cast<unsigned char>(c)] |= kSpace;
   for (unsigned c = '0'; c <= '9'; ++c) classes[c] = kName;
   for (unsigned c = 'a'; c <= 'z'; ++c) classes[c] = kName | kNameStart;
@@ -30,10 +30,10 @@ inline constexpr auto kClasses = [] {
   classes['_'] = kName | kNameStart;
   classes['-'] = kName;
   classes['.'] = kName;
-  classes['<'] = kInDouble | kInSingle;
-  classes['&'] = kInDouble | kInSingle;
-  classes['"'] = kInDouble;
-  classes['\''] = kInSingle;
+  classes['<'] = kDoubleQuoteStop | kSingleQuoteStop;
+  classes['&'] = kDoubleQuoteStop | kSingleQuoteStop;
+  classes['"'] = kDoubleQuoteStop;
+  classes['\''] = kSingleQuoteStop;
   return classes;
 }();
 
@@ -43,25 +43,26 @@ inline bool IsClass(char c, CharacterClass wanted) {
 
 inline bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
-/// The fifth edition's NameStartChar and NameChar, the colon excepted.
+/// NameStartChar and NameChar of XML 1.0, fifth edition, without the colon.
 bool IsNameStartCharacter(char32_t c);
 bool IsNameCharacter(char32_t c);
 
-/// `SkipName` from the first character outside ASCII on.
-const char* SkipNameSlowly(const char* at, bool started);
+/// Skips the rest of a name, or a whole name if it has not `started`, that contains a character
+/// that is not ASCII.
+const char* SkipNonAsciiName(const char* at, bool started);
 
-/// Where the name without a colon that starts at `at` ends; `at` itself when none does.
+/// Skips a name without a colon, if there is one at `at`.
 inline const char* SkipName(const char* at) {
-  if (!IsClass(*at, kNameStart)) return IsAscii(*at) ? at : SkipNameSlowly(at, false);
+  if (!IsClass(*at, kNameStart)) return IsAscii(*at) ? at : SkipNonAsciiName(at, false);
   ++at;
-  // Mostly letters, and no more than sixteen.
+  // Most names are up to sixteen letters.
   at += FirstOf(~Bytes::Load(at).IsLetter().ToMask());
   while (IsClass(*at, kName)) ++at;
-  return IsAscii(*at) ? at : SkipNameSlowly(at, true);
+  return IsAscii(*at) ? at : SkipNonAsciiName(at, true);
 }
 
 inline const char* SkipSpace(const char* at) {
-  // Mostly there is one blank or none.
+  // Most often there is one space or none.
   if (!IsClass(*at, kSpace)) return at;
   ++at;
   if (!IsClass(*at, kSpace)) return at;
@@ -73,7 +74,7 @@ inline const char* SkipSpace(const char* at) {
   }
 }
 
-/// Runs to the first of the characters in `Stops`, or to zero.
+/// Finds the first of the characters in `Stops`, or the zero.
 template <char... Stops>
 const char* Find(const char* at) {
   for (;; at += Bytes::kCount) {
@@ -83,13 +84,13 @@ const char* Find(const char* at) {
   }
 }
 
-/// Runs to what ends an attribute value or has to be looked at in it: the quote, '<', '&', TAB, LF
-/// and CR.
+/// Finds what ends an attribute value or is special in it: the quote, '<', '&', TAB, LF and CR, or
+/// the zero.
 template <char Quote>
 const char* FindInAttribute(const char* at) {
-  constexpr CharacterClass kStops = Quote == '"' ? kInDouble : kInSingle;
-  // Most values are short. A processor that guesses their lengths is done with them sooner than one
-  // that waits for a vector's answer.
+  constexpr CharacterClass kStops = Quote == '"' ? kDoubleQuoteStop : kSingleQuoteStop;
+  // Most values are short. A loop whose end the processor predicts is faster for them than to wait
+  // for the result of a vector comparison.
   const char* const vector_start = at + Bytes::kCount;
   for (; at != vector_start; ++at) {
     if (IsClass(*at, kStops)) return at;

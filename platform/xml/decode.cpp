@@ -17,7 +17,7 @@ constexpr Entity kEntities[] = {
     {"lt", '<'}, {"gt", '>'}, {"amp", '&'}, {"quot", '"'}, {"apos", '\''},
 };
 
-/// The value of a digit, or something above 15.
+/// The value of a hexadecimal digit; otherwise 255.
 unsigned DigitOf(char c) {
   if (c >= '0' && c <= '9') return static_cast<unsigned>(c - '0');
   if (c >= 'a' && c <= 'f') return static_cast<unsigned>(c - 'a' + 10);
@@ -25,7 +25,7 @@ unsigned DigitOf(char c) {
   return 255;
 }
 
-/// `at` stands behind "&#".
+/// `at` is after "&#".
 Reference ReadCharacterReference(const char* at) {
   const bool hexadecimal = *at == 'x';
   if (hexadecimal) ++at;
@@ -33,7 +33,7 @@ Reference ReadCharacterReference(const char* at) {
   const char* const digits = at;
   char32_t c = 0;
   for (; DigitOf(*at) < base; ++at) {
-    // Beyond the last code point a value stays beyond it, however many digits follow.
+    // A value beyond the last code point stays beyond it, however many digits follow.
     if (c <= kLastCodePoint) c = c * base + DigitOf(*at);
   }
   if (*at == '\0') return {kMoreInput, at, 0};
@@ -43,7 +43,7 @@ Reference ReadCharacterReference(const char* at) {
   return {kDone, at + 1, c};
 }
 
-/// The first character of a text that does not stand for itself.
+/// Finds the first character that does not stand for itself, or `end`.
 const char* FindSpecial(const char* at, const char* end, ValueKind kind) {
   const char reference = kind == ValueKind::kLiteral ? '\r' : '&';
   const char line_feed = kind == ValueKind::kAttribute ? '\n' : '\r';
@@ -74,9 +74,9 @@ Reference ReadReference(const char* at) {
   return {WC_E_UNDECLAREDENTITY, end, 0};
 }
 
-void AppendValue(std::string_view raw, ValueKind kind, Buffer<char>& out) {
-  const char* at = raw.data();
-  const char* const end = at + raw.size();
+void AppendValue(std::string_view source, ValueKind kind, Buffer<char>& out) {
+  const char* at = source.data();
+  const char* const end = at + source.size();
   while (at != end) {
     const char* const special = FindSpecial(at, end, kind);
     out.Append(at, static_cast<std::size_t>(special - at));

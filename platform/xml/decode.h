@@ -1,4 +1,4 @@
-// From the text of a document to the value that it stands for.
+// From the source text of a document to the values that it stands for.
 #pragma once
 
 #include <cstdint>
@@ -16,18 +16,18 @@ struct Reference {
   char32_t character;  ///< what it stands for
 };
 
-/// Reads the reference that starts with the '&' at `at`, in text that ends with zero.
+/// Reads the reference whose '&' is at `at`. The text ends with a zero.
 Reference ReadReference(const char* at);
 
-/// What has to be done to a value's text.
+/// How the value is made of the source text.
 enum class ValueKind : std::uint8_t {
-  kLiteral,    ///< line ends: CR LF and CR become LF (comments, CDATA, processing instructions)
-  kText,       ///< line ends and references
-  kAttribute,  ///< line ends, TAB and LF become blanks; references
+  kLiteral,    ///< CR LF and CR become LF (comments, CDATA sections, processing instructions)
+  kText,       ///< likewise, and references are replaced
+  kAttribute,  ///< CR LF, CR, LF and TAB become a space, and references are replaced
 };
 
-/// Appends the value of `raw`, which has been found well-formed and has `kReadAhead` readable bytes
-/// behind it, as everything in an Input's window has.
-void AppendValue(std::string_view raw, ValueKind kind, Buffer<char>& out);
+/// Appends the value of `source`, which is well-formed. `kReadAhead` readable bytes follow it, as
+/// in an Input's window.
+void AppendValue(std::string_view source, ValueKind kind, Buffer<char>& out);
 
 }  // namespace tolva::platform::own_xml

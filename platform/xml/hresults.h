@@ -1,4 +1,4 @@
-// The failures that the XML reader and writer report, with the names and values of XmlLite.
+// The failure codes of the XML reader and writer, with XmlLite's names and values.
 #pragma once
 
 #include "platform/system.h"

@@ -12,16 +12,16 @@ namespace {
 constexpr std::string_view kXmlUri = "http://www.w3.org/XML/1998/namespace";
 constexpr std::string_view kXmlnsUri = "http://www.w3.org/2000/xmlns/";
 
-/// Stands for the namespace of the prefix "xml", which needs no declaration.
+/// The namespace of the prefix "xml", which needs no declaration.
 constexpr ScopedStrings::Id kXmlNamespace = ScopedStrings::kNone - 1;
 
-/// What a document with very many names has needed is not kept behind it.
+/// Larger tables, which few documents need, are released.
 constexpr std::size_t kSlotsKept = 4096;
 constexpr std::size_t kNamesKept = 1024;
 
 constexpr std::uint64_t kHashPrime = 0x7FFFFFFF;
 
-/// A number that the author of a document cannot foresee.
+/// A number that the author of a document cannot know.
 std::uint64_t MakeHashKey(const void* address) {
   const auto time = std::chrono::steady_clock::now().time_since_epoch().count();
   const auto mixed =
@@ -34,8 +34,8 @@ std::uint64_t MakeHashKey(const void* address) {
 
 ScopedStrings::ScopedStrings() : key_(MakeHashKey(this)) {}
 
-/// The text's bytes as the coefficients of a polynomial, evaluated at the key: two texts of n bytes
-/// share a value for at most n of the two thousand million keys.
+/// A polynomial with the bytes of the text as coefficients, evaluated at the key. Two texts of n
+/// bytes have the same hash for at most n of the two thousand million keys.
 std::uint32_t ScopedStrings::Hash(std::string_view text) const {
   std::uint64_t hash = text.size();
   for (const char c : text) hash = (hash * key_ + static_cast<unsigned char>(c)) % kHashPrime;
@@ -46,7 +46,7 @@ std::string_view ScopedStrings::TextOf(const Entry& entry) const {
   return {characters_.data() + entry.start, entry.size};
 }
 
-/// Where the text is, or where it belongs.
+/// The slot of the text, or the free slot in which it belongs.
 std::size_t ScopedStrings::SlotOf(std::string_view text, std::uint32_t hash) const {
   const std::size_t mask = slots_.size() - 1;
   std::size_t slot = hash & mask;
@@ -78,7 +78,7 @@ ScopedStrings::Id ScopedStrings::Push(std::string_view text) {
 void ScopedStrings::Truncate(std::size_t count) {
   while (entries_.size() > count) {
     const Entry& last = entries_.data()[entries_.size() - 1];
-    // Emptying a slot breaks no search: whatever was placed past it has gone before.
+    // To empty a slot breaks no search: the strings that were added after it are gone.
     slots_[SlotOf(TextOf(last), last.hash)] = last.hidden;
     characters_.Truncate(last.start);
     entries_.Truncate(entries_.size() - 1);
@@ -91,14 +91,14 @@ void ScopedStrings::Truncate(std::size_t count) {
 
 void ScopedStrings::GrowSlots() {
   slots_ = std::vector<Id>(std::max<std::size_t>(16, slots_.size() * 2), kNone);
-  // Oldest first, so that the order in which slots were taken stays that of the strings.
+  // Oldest first, as the strings were added.
   for (std::size_t i = 0; i < entries_.size(); ++i) {
     const Entry& entry = entries_.data()[i];
     slots_[SlotOf(TextOf(entry), entry.hash)] = static_cast<Id>(i);
   }
 }
 
-Status Namespaces::Enter(const Name& element, std::span<const Attribute> attributes) {
+Status Namespaces::Enter(const QName& element, std::span<const Attribute> attributes) {
   for (const Attribute& attribute : attributes) {
     const bool declares = attribute.name.text == "xmlns" || attribute.name.PrefixText() == "xmlns";
     if (!declares) continue;
@@ -139,7 +139,7 @@ Status Namespaces::Declare(const Attribute& attribute) {
   if (!is_default && prefix == "xml") return uri == kXmlUri ? kDone : NC_E_XMLPREFIXRESERVED;
   if (uri == kXmlUri) return NC_E_XMLURIRESERVED;
   if (uri == kXmlnsUri) return NC_E_XMLNSURIRESERVED;
-  // The default namespace decides nothing here: attributes are not in it.
+  // The default namespace makes no difference: attributes are not in it.
   if (is_default) return kDone;
   if (uri.empty()) return NC_E_EMPTYURI;
 
@@ -171,10 +171,10 @@ void Namespaces::Clear() {
   if (names_.capacity() > kNamesKept) names_ = std::vector<ExpandedName>();
 }
 
-void Namespaces::LetGo(std::size_t count) {
-  uris_.Truncate(bindings_.data()[count].uris_before);
-  bindings_.Truncate(count);
-  prefixes_.Truncate(count);
+void Namespaces::RemoveFrom(std::size_t index) {
+  uris_.Truncate(bindings_.data()[index].uris_before);
+  bindings_.Truncate(index);
+  prefixes_.Truncate(index);
 }
 
 }  // namespace tolva::platform::own_xml

@@ -1,4 +1,4 @@
-// Namespaces in XML 1.0, as far as a document can offend against them.
+// Validates a document by Namespaces in XML 1.0.
 #pragma once
 
 #include <cstddef>
@@ -12,24 +12,24 @@
 
 namespace tolva::platform::own_xml {
 
-/// A name as it stands in the document.
-struct Name {
+/// A name as it is written in the document.
+struct QName {
   std::string_view text;
-  std::size_t prefix = 0;  ///< characters before the colon; 0: there is none
+  std::size_t prefix = 0;  ///< the number of characters before the colon; 0 if there is none
 
   std::string_view PrefixText() const { return text.substr(0, prefix); }
   std::string_view Local() const { return prefix == 0 ? text : text.substr(prefix + 1); }
 };
 
-/// An attribute of a start tag; the slices lie in the input.
+/// An attribute of a start tag. The slices are parts of the input.
 struct Attribute {
-  Name name;
-  std::string_view value;  ///< between the quotes
-  bool plain = true;       ///< the value stands for itself: nothing in it needs decoding
+  QName name;
+  std::string_view value;  ///< the source text between the quotes
+  bool plain = true;       ///< the source text is the value as well
 };
 
-/// Strings that are known for as long as they are in scope. What came last goes first. Finding is
-/// by hashing with a key that a document's author cannot know, so no input makes it slow.
+/// A stack of strings with fast search. It hashes with a key that the author of a document cannot
+/// know, so no document makes it slow.
 class ScopedStrings {
  public:
   using Id = std::uint32_t;
@@ -37,13 +37,13 @@ class ScopedStrings {
 
   ScopedStrings();
 
-  /// The newest string equal to `text`.
+  /// The newest string that is equal to `text`; kNone if there is none.
   Id Find(std::string_view text) const;
 
-  /// Brings a string into scope, hiding an older equal one. Its id is the number of older strings.
+  /// Adds a string, which hides older ones that are equal. Its id is the number of older strings.
   Id Push(std::string_view text);
 
-  /// Lets all strings but the `count` oldest go.
+  /// Removes all but the `count` oldest strings.
   void Truncate(std::size_t count);
 
   std::size_t size() const { return entries_.size(); }
@@ -64,46 +64,48 @@ class ScopedStrings {
   std::uint64_t key_;
   Buffer<char> characters_;
   Buffer<Entry> entries_;
-  std::vector<Id> slots_;  ///< open addressing, a power of two
+  std::vector<Id> slots_;  ///< a hash table with open addressing; the size is a power of two
 };
 
-/// The namespace declarations in force.
+/// The namespace declarations in scope.
 class Namespaces {
  public:
-  /// Takes in the declarations of a start tag, then judges its names by all that are in force:
-  /// S_OK, an NC_E_ code, or WC_E_UNIQUEATTRIBUTE for two attributes of one namespace and local
+  /// Adds the namespace declarations of a start tag, then validates the names in it. The fault is
+  /// an NC_E_ code, or WC_E_UNIQUEATTRIBUTE if two attributes have the same namespace and local
   /// name.
-  Status Enter(const Name& element, std::span<const Attribute> attributes);
+  Status Enter(const QName& element, std::span<const Attribute> attributes);
 
-  /// How many declarations are in force.
+  /// The number of declarations in scope.
   std::size_t size() const { return bindings_.size(); }
 
-  /// Lets all but the `count` oldest go.
+  /// Removes all but the `count` oldest declarations.
   void Leave(std::size_t count) {
-    if (count < bindings_.size()) LetGo(count);
+    if (count < bindings_.size()) RemoveFrom(count);
   }
 
-  /// Lets all go, whatever state they are in, and memory that is not worth keeping.
+  /// Removes all declarations, even after a call that has thrown. Releases the memory if it is
+  /// large.
   void Clear();
 
  private:
+  /// A declared prefix.
   struct Binding {
     ScopedStrings::Id uri;
-    std::size_t uris_before;
+    std::size_t uris_before;  ///< the number of URIs before the declaration
   };
   struct ExpandedName {
     ScopedStrings::Id uri;
     std::string_view local;
   };
 
-  void LetGo(std::size_t count);
+  void RemoveFrom(std::size_t index);
   Status Declare(const Attribute& attribute);
   Status Resolve(std::string_view prefix, ScopedStrings::Id& uri) const;
 
   ScopedStrings prefixes_;
   ScopedStrings uris_;
-  Buffer<Binding> bindings_;  ///< by the prefix's id
-  Buffer<char> uri_;
+  Buffer<Binding> bindings_;  ///< by the id of the prefix
+  Buffer<char> uri_;          ///< of the current declaration
   std::vector<ExpandedName> names_;
 };
 

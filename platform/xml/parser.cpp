@@ -11,6 +11,9 @@ namespace {
 /// What is parsed before there is any input.
 constexpr char kNoInput[Input::kPadding] = {};
 
+/// So many attributes never take much memory.
+constexpr std::size_t kFewAttributes = 64;
+
 /// Start tags with more attributes than this do not keep their memory.
 constexpr std::size_t kAttributesKept = 1024;
 
@@ -59,7 +62,7 @@ bool StartsWithName(const char* at, std::string_view name) {
 // ---- names -------------------------------------------------------------------------------------
 
 /// Reads the rest of a name that has a prefix, from the colon on.
-Status ReadLocalPart(const char* colon, Name& name) {
+Status ReadLocalPart(const char* colon, QName& name) {
   const char* const end = SkipName(colon + 1);
   if (*end == '\0') return kMoreInput;
   if (end == colon + 1) return NC_E_QNAMECHARACTER;
@@ -70,7 +73,7 @@ Status ReadLocalPart(const char* colon, Name& name) {
 }
 
 /// Reads a name that may have a prefix.
-inline Status ReadQName(const char* at, Name& name) {
+inline Status ReadQName(const char* at, QName& name) {
   const char* const end = SkipName(at);
   name.text = Slice(at, end);
   name.prefix = 0;
@@ -109,6 +112,19 @@ Status ReadQuotedValue(const char*& at, Attribute& attribute) {
   attribute.value = Slice(start, at);
   ++at;
   return kDone;
+}
+
+/// Does the same for a value in double quotes of less than a vector's width, if it is plain.
+inline bool ReadShortValue(const char*& at, Attribute& attribute) {
+  const char* const start = at + 1;
+  const Bytes block = Bytes::Load(start);
+  const Bytes ends = block.IsControl() | block.Is('"') | block.Is('<') | block.Is('&');
+  const unsigned size = FirstOf(ends.ToMask());
+  if (size == Bytes::kCount || start[size] != '"') return false;
+  attribute.value = {start, size};
+  attribute.plain = true;
+  at = start + size + 1;
+  return true;
 }
 
 /// Reads what follows an attribute's name: '=' and the value. `at` is moved after it.
@@ -179,12 +195,16 @@ inline void Parser::ClearNode() {
   name_ = {};
   value_ = {};
   is_empty_element_ = false;
-  if (attributes_.size() != 0) ClearAttributes();
+  found_ = 0;
+  if (attributes_.size() <= kFewAttributes) {
+    attributes_.Truncate(0);
+  } else {
+    ClearAttributes();
+  }
 }
 
 void Parser::ClearAttributes() {
   attributes_.Clear();
-  attribute_initials_ = 0;
   if (sorted_names_.capacity() > kAttributesKept) sorted_names_ = std::vector<std::string_view>();
 }
 
@@ -204,23 +224,34 @@ void Parser::SetInput(ISequentialStream* stream, bool converted) {
   at_limit_ = false;
   ClearNode();
   open_names_.Clear();
-  open_elements_.Clear();
+  depth_ = 0;
   namespaces_.Clear();
 }
 
 /// Parses the node at `at_`.
+template <bool skips_space>
 inline Status Parser::ParseNode() {
   if (*at_ == '<') return ParseMarkup(at_ + 1);
   if (*at_ == '\0') return kMoreInput;
-  return IsOutsideRoot() ? ParseOutsideRoot() : ParseText();
+  if (IsOutsideRoot()) return ParseOutsideRoot();
+  if constexpr (skips_space) {
+    const char* const end = SkipSpace(at_);
+    if (*end == '<') {
+      at_ = end;
+      return ParseMarkup(end + 1);
+    }
+    return ParseCharacters(end);
+  }
+  return ParseText();
 }
 
-ReadResult Parser::Read() {
+template <bool skips_space>
+ReadResult Parser::ReadNode() {
   if (result_ != ReadResult::kNode) return result_;
   ClearNode();
-  // If memory runs out, what has been changed by then is not known: the document is given up.
+  // After a call that has thrown, the state is not known: the document cannot be read on.
   result_ = ReadResult::kFault;
-  Status status = ParseNode();
+  Status status = ParseNode<skips_space>();
   while (status.NeedsMoreInput()) {
     // The node is parsed again from its start: `Input::More` sees to it that this is not done too
     // often. It moves the window, so nothing may point there any more.
@@ -229,12 +260,15 @@ ReadResult Parser::Read() {
       if (at_limit_) return EndAtLimit();
       at_limit_ = true;
     }
-    status = ParseNode();
+    status = ParseNode<skips_space>();
   }
   if (!status.IsDone()) return Fail(status.fault());
   result_ = ReadResult::kNode;
   return result_;
 }
+
+template ReadResult Parser::ReadNode<false>();
+template ReadResult Parser::ReadNode<true>();
 
 ReadResult Parser::Fail(HRESULT fault) {
   ClearNode();
@@ -335,7 +369,7 @@ Status Parser::ParseMarkup(const char* at) {
 
 Status Parser::ParseStartTag(const char* at) {
   if (IsOutsideRoot() && has_root_) return WC_E_ROOTELEMENT;
-  if (open_elements_.size() == kMaxDepth) return SC_E_MAXELEMENTDEPTH;
+  if (depth_ == kMaxDepth) return SC_E_MAXELEMENTDEPTH;
 
   Status status = ReadQName(at, name_);
   if (!status.IsDone()) return status;
@@ -346,8 +380,6 @@ Status Parser::ParseStartTag(const char* at) {
     status = ParseAttributes(at, at, traits);
     if (!status.IsDone()) return status;
   }
-  attribute_initials_ = traits.initials;
-
   is_empty_element_ = *at == '/';
   if (is_empty_element_) {
     ++at;
@@ -358,10 +390,9 @@ Status Parser::ParseStartTag(const char* at) {
   return status.IsDone() ? Deliver(XmlNodeType_Element, at + 1) : status;
 }
 
-inline void Parser::TagTraits::Add(const Name& attribute) {
+inline void Parser::TagTraits::Add(const QName& attribute) {
   if (attribute.prefix != 0 || attribute.text == "xmlns") uses_namespaces = true;
   if (filter.MayBeDuplicate(attribute.text)) may_have_duplicates = true;
-  initials |= InitialBit(attribute.text.front());
 }
 
 /// `at` is the end of the element's name. Sets `end` to the '>' or '/' that ends the tag.
@@ -401,12 +432,21 @@ inline Status Parser::OpenScope(const TagTraits& traits) {
     if (!status.IsDone()) return status;
     if (is_empty_element_) namespaces_.Leave(declarations);
   }
-  if (!is_empty_element_) {
-    open_elements_.Append(OpenElement{open_names_.size(), name_.prefix, declarations});
-    PushName(name_.text);
-  }
+  if (!is_empty_element_) OpenElement(name_, declarations);
   has_root_ = true;
   return kDone;
+}
+
+inline void Parser::OpenElement(const QName& name, std::size_t declarations) {
+  const std::size_t name_start = open_names_.size();
+  PushName(name.text);
+  scopes_[depth_++] = {name_start, name.prefix, declarations};
+}
+
+inline void Parser::CloseElement() {
+  const Scope& closed = scopes_[--depth_];
+  namespaces_.Leave(closed.declarations);
+  open_names_.Truncate(closed.name_start);
 }
 
 /// Compares the names as they are written.
@@ -429,7 +469,7 @@ Status Parser::CheckUniqueNames() {
 }
 
 /// Leaves a vector's width readable after the names.
-void Parser::PushName(std::string_view name) {
+inline void Parser::PushName(std::string_view name) {
   char* const room = open_names_.Room(name.size() + Bytes::kCount);
   for (std::size_t i = 0; i < name.size(); i += Bytes::kCount) {
     Bytes::Load(name.data() + i).Store(room + i);
@@ -438,7 +478,7 @@ void Parser::PushName(std::string_view name) {
 }
 
 std::string_view Parser::InnermostName() const {
-  const std::size_t start = open_elements_.data()[open_elements_.size() - 1].name_start;
+  const std::size_t start = scopes_[depth_ - 1].name_start;
   return {open_names_.data() + start, open_names_.size() - start};
 }
 
@@ -448,7 +488,7 @@ Status Parser::ParseEndTag(const char* at) {
   const bool matches =
       StartsWithName(at, expected) && (at[expected.size()] == '>' || IsSpace(at[expected.size()]));
   if (!matches) {
-    Name other;
+    QName other;
     const Status status = ReadQName(at, other);
     if (!status.IsDone()) return status;
     return other.text == expected ? WC_E_GREATERTHAN : WC_E_ELEMENTMATCH;
@@ -458,12 +498,98 @@ Status Parser::ParseEndTag(const char* at) {
   if (*at == '\0') return kMoreInput;
   if (*at != '>') return WC_E_GREATERTHAN;
 
-  const OpenElement closed = open_elements_.data()[open_elements_.size() - 1];
-  name_.prefix = closed.prefix;
-  namespaces_.Leave(closed.declarations);
-  open_names_.Truncate(closed.name_start);
-  open_elements_.Truncate(open_elements_.size() - 1);
+  name_.prefix = scopes_[depth_ - 1].prefix;
+  CloseElement();
   return Deliver(XmlNodeType_EndElement, at + 1);
+}
+
+// ---- tags that a table knows -------------------------------------------------------------------
+
+// These functions read what `ParseStartTag` and `ParseEndTag` read, but nothing unusual, so they
+// have no faults to report. Until they are certain they change nothing that matters. The window
+// ends with zeros, which match nothing, so they need no other check for its end.
+
+bool Parser::ReadKnownTag(const KnownTags& tags, std::size_t& index) {
+  if (result_ != ReadResult::kNode || IsOutsideRoot()) return false;
+  const char* const at = SkipSpace(at_);
+  if (*at != '<') return false;
+  return at[1] == '/' ? ReadKnownEndTag(at + 2) : ReadKnownStartTag(at + 1, tags, index);
+}
+
+inline bool Parser::ReadKnownEndTag(const char* at) {
+  const std::string_view name = InnermostName();
+  if (!StartsWithName(at, name) || at[name.size()] != '>') return false;
+  ClearNode();
+  name_ = {Slice(at, at + name.size()), scopes_[depth_ - 1].prefix};
+  CloseElement();
+  return Deliver(XmlNodeType_EndElement, at + name.size() + 1).IsDone();
+}
+
+inline bool Parser::ReadKnownStartTag(const char* at, const KnownTags& tags, std::size_t& index) {
+  if (tags.size() == 0) return false;
+  std::size_t place = index;
+  for (std::size_t tried = 0; !tags[place].name.IsAt(at); ++tried) {
+    if (tried == tags.size()) return false;
+    if (++place == tags.size()) place = 0;
+  }
+  if (depth_ == kMaxDepth) return false;
+  const QName name = {Slice(at, at + tags[place].name.size()), 0};
+  at = EndOf(name.text);
+  ClearNode();
+  if (*at == ' ' && !ReadKnownAttributes(at, *tags[place].attributes)) return false;
+  const bool is_empty = *at == '/';
+  if (is_empty) ++at;
+  if (*at != '>') return false;
+  if (!is_empty) OpenElement(name, namespaces_.size());
+  name_ = name;
+  is_empty_element_ = is_empty;
+  index = place;
+  return Deliver(XmlNodeType_Element, at + 1).IsDone();
+}
+
+/// `at` is moved from the space before the first attribute to the end of the last. Each attribute
+/// is searched for from the name after the previous one.
+inline bool Parser::ReadKnownAttributes(const char*& at, const Names& names) {
+  if (names.size() == 0) return false;
+  Attribute* const attributes = attributes_.Room(names.size());
+  std::size_t count = 0;
+  std::size_t place = 0;
+  std::uint64_t found = 0;
+  do {
+    for (std::size_t tried = 0; !names[place].StartsAttributeAt(at); ++tried) {
+      if (tried == names.size()) return false;
+      if (++place == names.size()) place = 0;
+    }
+    const std::uint64_t bit = std::uint64_t{1} << place;
+    if ((found & bit) != 0) return false;
+    found |= bit;
+    positions_[place] = static_cast<std::uint32_t>(count);
+    Attribute& attribute = attributes[count++];
+    const char* const name = at + 1;
+    at = name + names[place].size() + 1;  // the first quote
+    attribute.name = {Slice(name, at - 1), 0};
+    if (!ReadShortValue(at, attribute) && !ReadQuotedValue<'"'>(at, attribute).IsDone()) {
+      return false;
+    }
+    if (++place == names.size()) place = 0;
+  } while (*at == ' ');
+  attributes_.Commit(count);
+  found_ = found;
+  return true;
+}
+
+void Parser::FindAttributes(const Names& names) {
+  found_ = 0;
+  for (std::size_t i = 0; i < attributes_.size(); ++i) {
+    const QName& name = attributes_.data()[i].name;
+    if (name.prefix != 0) continue;
+    for (std::size_t place = 0; place < names.size(); ++place) {
+      if (names[place] != name.text) continue;
+      found_ |= std::uint64_t{1} << place;
+      positions_[place] = static_cast<std::uint32_t>(i);
+      break;
+    }
+  }
 }
 
 // ---- other markup ------------------------------------------------------------------------------

@@ -11,12 +11,14 @@
 // those of XmlLite.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string_view>
 #include <vector>
 
 #include "platform/buffer.h"
+#include "platform/name.h"
 #include "platform/xml/decode.h"
 #include "platform/xml/duplicate_filter.h"
 #include "platform/xml/input.h"
@@ -45,9 +47,10 @@ enum class ReadResult {
   kFault,  ///< the document is malformed or cannot be read
 };
 
+/// Reads a document node by node.
 class Parser {
  public:
-  /// How many elements may be open. One more is a fault.
+  /// The number of elements that may be open. One more is a fault.
   static constexpr std::size_t kMaxDepth = 256;
 
   /// Starts on a stream, which is kept until the next call; null releases the last one.
@@ -56,7 +59,17 @@ class Parser {
 
   /// Moves to the next node. After the end and after a fault every further call returns the same.
   /// The slices below are valid until the next call.
-  ReadResult Read();
+  ReadResult Read() { return ReadNode<false>(); }
+
+  /// Like `Read`, but skips white space between tags within the root.
+  ReadResult ReadTag() { return ReadNode<true>(); }
+
+  /// Does what `ReadTag` does, but only if the next node is an end tag, or a start tag in `tags`
+  /// with no attributes that the tag does not know, and if it is written as most tags are: one
+  /// space before each attribute, double quotes, no other space. `index` is where the search among
+  /// the tags starts, and then the place of the tag. Returns false, and changes nothing, in all
+  /// other cases, whether there is a fault or not.
+  bool ReadKnownTag(const KnownTags& tags, std::size_t& index);
 
   /// What is wrong, after kFault: an XmlLite code, the stream's failure, E_OUTOFMEMORY after a call
   /// that has thrown, or E_UNEXPECTED if there is no input.
@@ -65,7 +78,7 @@ class Parser {
   XmlNodeType type() const { return type_; }
 
   /// The name of an Element, EndElement or ProcessingInstruction; otherwise empty.
-  const Name& name() const { return name_; }
+  const QName& name() const { return name_; }
 
   /// The source text of a Text, CDATA, Whitespace, Comment or ProcessingInstruction; otherwise
   /// empty. If `value_is_plain`, it is the value as well.
@@ -75,10 +88,12 @@ class Parser {
   /// The attributes of an Element, in document order.
   std::span<const Attribute> attributes() const { return {attributes_.data(), attributes_.size()}; }
 
-  /// False: no attribute has a name that starts with this character.
-  bool MayHaveAttribute(wchar_t initial) const {
-    const bool is_ascii = static_cast<std::uint32_t>(initial) < 0x80;
-    return !is_ascii || (attribute_initials_ & InitialBit(static_cast<char>(initial))) != 0;
+  /// Looks names up among the attributes. After `ReadKnownTag` those that the tag knows are found.
+  void FindAttributes(const Names& names);
+
+  /// The attribute that has been found for the name at this place; null if there is none.
+  const Attribute* FoundAttribute(std::size_t index) const {
+    return (found_ >> index & 1) != 0 ? attributes_.data() + positions_[index] : nullptr;
   }
 
   /// Whether the document is complete, except that a zero follows it where the input should end.
@@ -88,30 +103,32 @@ class Parser {
   bool is_empty_element() const { return is_empty_element_; }
 
  private:
-  struct OpenElement {
+  struct Scope {
     std::size_t name_start;    ///< in `open_names_`
     std::size_t prefix;        ///< of the name
-    std::size_t declarations;  ///< how many namespace declarations were in scope around it
+    std::size_t declarations;  ///< the number of namespace declarations in scope around it
   };
 
   /// What the names in a start tag call for.
   struct TagTraits {
-    void Add(const Name& attribute);
+    void Add(const QName& attribute);
 
-    std::uint64_t initials = 0;        ///< InitialBit of each attribute's name
     bool uses_namespaces = false;      ///< there is a prefix or a namespace declaration
     bool may_have_duplicates = false;  ///< two attributes may have the same name
     DuplicateFilter filter;
   };
 
-  /// One bit for the first character of a name.
-  static std::uint64_t InitialBit(char c) {
-    return std::uint64_t{1} << (static_cast<unsigned char>(c) % 64);
-  }
-
   void ClearNode();
   void ClearAttributes();
+  template <bool skips_space>
+  ReadResult ReadNode();
+  template <bool skips_space>
   Status ParseNode();
+  bool ReadKnownStartTag(const char* at, const KnownTags& tags, std::size_t& index);
+  bool ReadKnownAttributes(const char*& at, const Names& names);
+  bool ReadKnownEndTag(const char* at);
+  void OpenElement(const QName& name, std::size_t declarations);
+  void CloseElement();
   Status ParseOutsideRoot();
   Status ParseText();
   Status ParseCharacters(const char* after_space);
@@ -133,7 +150,7 @@ class Parser {
   ReadResult Fail(HRESULT fault);
   ReadResult EndAtLimit();
 
-  bool IsOutsideRoot() const { return open_elements_.size() == 0; }
+  bool IsOutsideRoot() const { return depth_ == 0; }
   /// The window shows nothing more after the root.
   bool IsAfterRoot() const { return has_root_ && IsOutsideRoot() && at_ == input_.limit(); }
   std::string_view InnermostName() const;
@@ -147,16 +164,18 @@ class Parser {
   HRESULT fault_ = E_UNEXPECTED;
 
   XmlNodeType type_ = XmlNodeType_None;
-  Name name_;
+  QName name_;
   std::string_view value_;
   bool value_is_plain_ = true;
   bool is_empty_element_ = false;
   Buffer<Attribute> attributes_;
-  std::uint64_t attribute_initials_ = 0;  ///< InitialBit of each one's name
+  std::uint64_t found_ = 0;  ///< one bit for each name that an attribute has been found for
+  std::array<std::uint32_t, Names::kMost> positions_ = {};  ///< where, in `attributes_`
   std::vector<std::string_view> sorted_names_;
 
   Buffer<char> open_names_;
-  Buffer<OpenElement> open_elements_;
+  std::size_t depth_ = 0;                     ///< how many elements are open
+  std::array<Scope, kMaxDepth> scopes_ = {};  ///< theirs
   Namespaces namespaces_;
 };
 

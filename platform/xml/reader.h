@@ -1,72 +1,83 @@
-// The XML reader behind XmlLite's interface.
+// The XML reader of the library's own layer.
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 
 #include "platform/buffer.h"
-#include "platform/ref_counted.h"
+#include "platform/name.h"
+#include "platform/xml/decode.h"
 #include "platform/xml/parser.h"
 
 namespace tolva::platform {
 
-enum DtdProcessing : LONG_PTR { DtdProcessing_Prohibit = 0, DtdProcessing_Parse = 1 };
-
-enum XmlReaderProperty : UINT { XmlReaderProperty_DtdProcessing = 4 };
-
-/// Reads a document node by node, as XmlLite's IXmlReader does, in the calls that the library
-/// makes. There is one implementation, so it is called without a table of virtual functions.
-///
-/// The strings it returns end with zero and are valid until the cursor moves; `length` may be null.
-class XmlReader final : public RefCounted<> {
+/// Reads a document node by node. Results are those of XmlLite's IXmlReader: S_OK, S_FALSE at the
+/// end and where there is no such thing, and failures.
+class XmlReader {
  public:
-  /// Starts on a stream; null lets the last one go. `converted`: its bytes are UTF-8, whatever
-  /// encoding the document declares.
-  HRESULT SetInput(ISequentialStream* input, bool converted = false);
+  /// A name or value as UTF-8, with `kReadAhead` readable bytes after it. Valid until the reader
+  /// moves or returns another value.
+  using Value = std::string_view;
 
-  /// Document type declarations are prohibited; nothing else can be set.
-  HRESULT SetProperty(UINT property, LONG_PTR value);
+  HRESULT Create() { return S_OK; }
 
-  /// S_OK, S_FALSE behind the last node (`*type` None), or a failure that stays.
-  HRESULT Read(XmlNodeType* type) {
-    // Strings that were asked for, some of them perhaps left for another attribute.
-    if (name_.size() + value_.size() + next_attribute_ != 0) ClearStrings();
-    attribute_ = kNoAttribute;
-    next_attribute_ = 0;
-    const own_xml::ReadResult result = parser_.Read();
-    *type = parser_.type();
-    if (result == own_xml::ReadResult::kNode) return S_OK;
-    return result == own_xml::ReadResult::kEnd ? S_FALSE : parser_.fault();
+  /// Starts on a stream, or releases the stream if null.
+  HRESULT SetInput(ISequentialStream* input) { return Start(input, false); }
+
+  /// Starts on a text that is UTF-8, whatever encoding it declares. A zero follows the document.
+  HRESULT SetConvertedInput(ISequentialStream* input) { return Start(input, true); }
+
+  /// Moves to the next node. After the end and after a failure every further call returns the same.
+  HRESULT Read(XmlNodeType* type) { return Deliver(parser_.Read(), type); }
+
+  /// Like `Read`, but skips white space between tags.
+  HRESULT ReadTag(XmlNodeType* type) { return Deliver(parser_.ReadTag(), type); }
+
+  /// Moves to the next node if that is an end tag, or a start tag in `tags` with attributes that
+  /// the tag knows, in the form in which most are written. `index` is where the search among the
+  /// tags starts, and then the place of the tag. Otherwise returns false without having moved.
+  bool ReadKnownTag(const KnownTags& tags, std::size_t& index) {
+    if (!parser_.ReadKnownTag(tags, index)) return false;
+    ReleaseDecoded();
+    return true;
   }
 
-  HRESULT GetLocalName(const wchar_t** name, UINT* length);
-  HRESULT GetValue(const wchar_t** value, UINT* length);
+  XmlNodeType type() const { return parser_.type(); }
+  bool IsEmptyElement() const { return parser_.is_empty_element(); }
 
-  /// FALSE also while the cursor stands on an attribute.
-  BOOL IsEmptyElement() const;
+  /// The local name of the current node, empty if it has none.
+  HRESULT GetLocalName(Value* name) const;
 
-  /// Moves to the attribute of the current element that has this name and no namespace; S_FALSE
-  /// when there is none. Attributes can be asked for in any order; asking in the document's is
-  /// fastest.
-  HRESULT MoveToAttributeByName(const wchar_t* local_name, const wchar_t* namespace_uri);
+  /// Looks the names up among the attributes of the current element. `ReadKnownTag` has done so.
+  void FindAttributes(const Names& names) { parser_.FindAttributes(names); }
 
-  /// Whether what `Read` has refused is nothing but a zero behind the whole document.
-  bool EndsAtTerminator() const { return parser_.EndsAtTerminator(); }
+  /// The value of the attribute that has the name at this place of the names, without a namespace.
+  HRESULT GetAttribute(std::size_t index, Value* value) {
+    const own_xml::Attribute* const attribute = parser_.FoundAttribute(index);
+    if (attribute == nullptr) return S_FALSE;
+    *value = attribute->plain ? attribute->value
+                              : Decode(attribute->value, own_xml::ValueKind::kAttribute);
+    return S_OK;
+  }
 
-  /// Without a document type declaration no attribute has a default.
-  BOOL IsDefault() const { return FALSE; }
+  /// The value of the current node, empty if it has none.
+  HRESULT GetValue(Value* value);
+
+  /// Whether nothing is wrong but the zero that follows a converted text.
+  bool EndsAtTerminator() const { return is_converted_ && parser_.EndsAtTerminator(); }
 
  private:
-  static constexpr std::size_t kNoAttribute = static_cast<std::size_t>(-1);
+  HRESULT Start(ISequentialStream* input, bool is_converted);
+  HRESULT Deliver(own_xml::ReadResult result, XmlNodeType* type);
+  Value Decode(std::string_view source, own_xml::ValueKind kind);
 
-  void MoveTo(std::size_t attribute);
-  void ClearStrings();
-  void FillValue(std::string_view raw, bool is_plain, own_xml::ValueKind kind);
+  /// Memory for a long value is kept no longer than the value.
+  void ReleaseDecoded() {
+    if (decoded_.size() != 0) decoded_.Clear();
+  }
 
   own_xml::Parser parser_;
-  std::size_t attribute_ = kNoAttribute;  ///< the cursor stands on it
-  std::size_t next_attribute_ = 0;        ///< where the next search starts
-  Buffer<wchar_t> name_;                  ///< the local name, once it has been asked for
-  Buffer<wchar_t> value_;                 ///< likewise the value
+  bool is_converted_ = false;
   Buffer<char> decoded_;
 };
 

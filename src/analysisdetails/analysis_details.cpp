@@ -1,14 +1,13 @@
 #include "analysisdetails/analysis_details.h"
 
-#include <cwchar>
-
+#include "platform/utf.h"
 #include "xml/reader.h"
 
 namespace CpsAnalysisDetailsConf {
 namespace {
 
-constexpr const wchar_t* kAddressTypes[] = {L"EmailAddress", L"Other"};
-constexpr const wchar_t* kContentTypes[] = {L"Subject", L"Attachment", L"Other"};
+constexpr Name kAddressTypes[] = {L"EmailAddress", L"Other"};
+constexpr Name kContentTypes[] = {L"Subject", L"Attachment", L"Other"};
 
 }  // namespace
 
@@ -210,13 +209,10 @@ ConfigResult CcustomDisplayText::ReadFromXMLMgr(IXMLLiteManager* manager, int /*
   }
   auto* const reader = tolva::xml::AsReader(manager);
   if (reader == nullptr) return tolva::kFailed;
-  const wchar_t* const name = reader->GetLocalName();
-  if (name == nullptr || std::wcscmp(name, kSchema.element) != 0) {
-    return tolva::kInvalidArgument;
-  }
-  const wchar_t* const text = reader->GetText();
-  if (text != nullptr) {
-    content_ = text;
+  if (kSchema.element != reader->GetLocalName()) return tolva::kInvalidArgument;
+  const Value text = reader->GetText();
+  if (text.data() != nullptr) {
+    tolva::platform::AssignWide(text, content_);
   } else {
     ReportElement(kReadStringContent, kSchema.element);
   }

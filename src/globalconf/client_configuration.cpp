@@ -3,7 +3,7 @@
 namespace GlobalConfInterface {
 namespace {
 
-constexpr const wchar_t* kAppNames[] = {L"RESERVED", L"CHROME", L"FIREFOX"};
+constexpr Name kAppNames[] = {L"RESERVED", L"CHROME", L"FIREFOX"};
 
 }  // namespace
 

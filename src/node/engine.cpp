@@ -1,9 +1,10 @@
 #include "node/engine.h"
 
+#include <bit>
 #include <cstdint>
-#include <cwchar>
 #include <string>
 
+#include "platform/utf.h"
 #include "xml/reader.h"
 #include "xml/writer.h"
 
@@ -86,21 +87,22 @@ std::wstring_view WriteFaultOf(ValueType type) {
   }
 }
 
-/// The text of a value. `buffer` holds the text of a number.
-xml::Text FormatValue(const Attribute& row, const FieldRef& field, Numbers numbers,
-                      NumberText& buffer) {
+ConfigResult WriteAttribute(const Attribute& row, const FieldRef& field, Numbers numbers,
+                            CXMLLiteManagerWriter& writer) {
+  NumberText buffer;
   switch (row.type) {
     case ValueType::kNumber:
-      return FormatNumber(NumberAt(field), numbers, buffer);
+      return writer.WritePlainAttribute(row.name, FormatNumber(NumberAt(field), numbers, buffer));
     case ValueType::kLongNumber:
-      return FormatLongNumber(LongNumberAt(field), buffer);
+      return writer.WritePlainAttribute(row.name, FormatLongNumber(LongNumberAt(field), buffer));
     case ValueType::kEnum: {
       const DWORD value = NumberAt(field);
       const EnumTexts& table = row.enum_texts;
-      return value < table.texts.size() ? table.texts[value] : table.otherwise;
+      const Name& text = value < table.texts.size() ? table.texts[value] : table.otherwise;
+      return writer.WritePlainAttribute(row.name, text.As<Value>());
     }
     default:
-      return StringAt(field);
+      return writer.WriteAttribute(row.name, StringAt(field));
   }
 }
 
@@ -108,9 +110,7 @@ ConfigResult WriteAttributes(const Schema& schema, IElement& node, CXMLLiteManag
   for (const Attribute& row : schema.attributes) {
     const FieldRef field = row.locate(node);
     if (!IsPresent(field)) continue;
-    NumberText buffer;
-    const xml::Text value = FormatValue(row, field, schema.dialect.numbers, buffer);
-    const ConfigResult result = writer.WriteAttribute(row.name, value);
+    const ConfigResult result = WriteAttribute(row, field, schema.dialect.numbers, writer);
     if (result != kSuccess && !row.ignores_write_failure && !row.is_optional) {
       ReportAttribute(WriteFaultOf(row.type), schema.ReportedName(), row.name);
       return kFailed;
@@ -130,27 +130,36 @@ std::wstring_view WriteFaultOf(Occurrence occurrence) {
   }
 }
 
-ConfigResult WriteChild(const Child& row, IElement& node, IXMLLiteManager* manager) {
+ConfigResult WriteElement(const Schema& schema, IElement& node, CXMLLiteManagerWriter& writer);
+
+ConfigResult WriteNode(const Child& row, const IElement& child, int position,
+                       CXMLLiteManagerWriter& writer) {
+  return row.writes_by_table ? WriteElement(*row.schema, Mutable(child), writer)
+                             : child.WriteToXMLMgr(&writer, 0, position);
+}
+
+ConfigResult WriteChild(const Child& row, IElement& node, CXMLLiteManagerWriter& writer) {
   const ChildRef child = row.locate(node);
   if (row.occurrence == Occurrence::kRepeated) {
-    for (std::size_t i = 0; i < child.items->Size(); ++i) {
+    const std::size_t count = child.items->Size();
+    for (std::size_t i = 0; i < count; ++i) {
       const auto position = static_cast<int>(i + 1);
-      const ConfigResult result = child.items->Item(i).WriteToXMLMgr(manager, 0, position);
+      const ConfigResult result = WriteNode(row, child.items->Item(i), position, writer);
       if (result != kSuccess) return result;
     }
     return kSuccess;
   }
   if (child.present != nullptr && *child.present == 0) return kSuccess;
   Report(row.before_write);
-  const ConfigResult result = child.element->WriteToXMLMgr(manager, 0, 1);
+  const ConfigResult result = WriteNode(row, *child.element, 1, writer);
   if (result == kSuccess) Report(row.after_write);
   return result;
 }
 
-ConfigResult WriteChildren(const Schema& schema, IElement& node, IXMLLiteManager* manager) {
+ConfigResult WriteChildren(const Schema& schema, IElement& node, CXMLLiteManagerWriter& writer) {
   for (const Child& row : schema.children) {
-    if (WriteChild(row, node, manager) == kSuccess) continue;
-    ReportElementOr(row.write_report, WriteFaultOf(row.occurrence), row.name);
+    if (WriteChild(row, node, writer) == kSuccess) continue;
+    ReportElementOr(row.write_report, WriteFaultOf(row.occurrence), row.name());
     return kFailed;
   }
   return kSuccess;
@@ -160,16 +169,40 @@ ConfigResult WriteChildren(const Schema& schema, IElement& node, IXMLLiteManager
 ConfigResult WriteContent(const Schema& schema, IElement& node, CXMLLiteManagerWriter& writer) {
   const Content& content = schema.content;
   const FieldRef field = content.locate(node);
-  if (!IsPresent(field) && !content.is_always_written) return kSuccess;
-  NumberText buffer;
   const bool is_string = content.type == ValueType::kString;
-  xml::Text text = nullptr;
-  if (is_string && IsPresent(field)) text = StringAt(field);
-  if (!is_string) text = FormatNumber(NumberAt(field), schema.dialect.numbers, buffer);
-  const ConfigResult result = writer.WriteElementString(schema.element, text);
+  ConfigResult result = kSuccess;
+  if (!is_string) {
+    NumberText buffer;
+    result = writer.WritePlainElement(
+        schema.element, FormatNumber(NumberAt(field), schema.dialect.numbers, buffer));
+  } else if (IsPresent(field)) {
+    result = writer.WriteElement(schema.element, StringAt(field));
+  } else if (content.is_always_written) {
+    result = writer.WriteEmptyElement(schema.element);
+  }
   if (result == kSuccess || content.is_optional) return kSuccess;
   ReportElement(is_string ? kWriteStringContent : kWriteNumberContent, schema.ReportedName());
   return kFailed;
+}
+
+ConfigResult WriteElement(const Schema& schema, IElement& node, CXMLLiteManagerWriter& writer) {
+  if (schema.content.locate != nullptr) return WriteContent(schema, node, writer);
+
+  if (writer.StartElement(schema.element) != kSuccess) {
+    ReportOr(schema.add_report, [&schema] { ReportNotAdded(schema.ReportedName()); });
+    return kFailed;
+  }
+  ConfigResult result = WriteAttributes(schema, node, writer);
+  if (result != kSuccess) return result;
+  result = WriteChildren(schema, node, writer);
+  if (result != kSuccess) return result;
+  using End = CXMLLiteManagerWriter::End;
+  const bool has_end_tag = !schema.children.empty() && !schema.closes_as_empty_tag;
+  if (writer.EndElement(has_end_tag ? End::kEndTag : End::kEmptyTag) != kSuccess) {
+    ReportOr(schema.close_report, [&schema] { ReportNotClosed(schema.ReportedName()); });
+    return kFailed;
+  }
+  return kSuccess;
 }
 
 // ---- reading -----------------------------------------------------------------------------------
@@ -190,11 +223,6 @@ class ClearOnFailure {
   INode* node_;
 };
 
-/// Most names already differ in the first character.
-bool AreEqual(const wchar_t* left, const wchar_t* right) {
-  return *left == *right && std::wcscmp(left, right) == 0;
-}
-
 std::wstring_view AbsentFaultOf(const Attribute& row, const Dialect& dialect) {
   switch (row.type) {
     case ValueType::kString:
@@ -211,16 +239,16 @@ std::wstring_view MalformedFaultOf(const Attribute& row) {
   return row.is_optional ? kReadUnknownOptionalEnum : kReadUnknownEnum;
 }
 
-bool ParseEnum(const wchar_t* text, const EnumTexts& table, DWORD* value) {
+bool ParseEnum(Value text, const EnumTexts& table, DWORD* value) {
   for (std::size_t i = 0; i < table.texts.size(); ++i) {
-    if (!AreEqual(text, table.texts[i])) continue;
+    if (table.texts[i] != text) continue;
     *value = static_cast<DWORD>(i);
     return true;
   }
   return false;
 }
 
-bool ParseValue(const Attribute& row, const wchar_t* text, Numbers numbers, const FieldRef& field) {
+bool ParseValue(const Attribute& row, Value text, Numbers numbers, const FieldRef& field) {
   switch (row.type) {
     case ValueType::kNumber:
       return ParseNumber(text, numbers, &NumberAt(field));
@@ -229,60 +257,67 @@ bool ParseValue(const Attribute& row, const wchar_t* text, Numbers numbers, cons
     case ValueType::kEnum:
       return ParseEnum(text, row.enum_texts, &NumberAt(field));
     default:
-      StringAt(field) = text;
+      AssignWide(text, StringAt(field));
       return true;
   }
 }
 
-ConfigResult ReadAttributes(const Schema& schema, IElement& node, CXMLLiteManagerReader& reader) {
-  for (const Attribute& row : schema.attributes) {
+/// Deals with a missing attribute: false if it fails the read.
+bool AcceptAbsence(const Attribute& row, const Schema& schema, IElement& node) {
+  if (row.is_one_when_absent) {
     const FieldRef field = row.locate(node);
-    const wchar_t* const text = reader.GetAttribute(row.name);
-    if (text == nullptr) {
-      if (row.is_one_when_absent) {
-        *field.present = 1;
-        NumberAt(field) = 1;
-      } else if (!row.is_optional && !row.may_be_absent) {
-        ReportAttributeOr(row.read_report, AbsentFaultOf(row, schema.dialect),
-                          schema.ReportedName(), row.name);
-        return kFailed;
-      }
-      continue;
-    }
-    if (field.present != nullptr) *field.present = 1;
-    if (!ParseValue(row, text, schema.dialect.numbers, field)) {
-      ReportAttributeOr(row.read_report, MalformedFaultOf(row), schema.ReportedName(), row.name);
-      return kFailed;
-    }
+    *field.present = 1;
+    NumberAt(field) = 1;
+    return true;
   }
-  return kSuccess;
+  if (row.is_optional || row.may_be_absent) return true;
+  ReportAttributeOr(row.read_report, AbsentFaultOf(row, schema.dialect), schema.ReportedName(),
+                    row.name);
+  return false;
 }
 
-/// Finds the row of the child with this name, or null. The search starts at `last`, the row of the
-/// previous child, because most documents keep the order of the rows.
-const Child* FindChild(const Schema& schema, const wchar_t* name, const Child* last) {
-  const Child* const end = schema.children.data() + schema.children.size();
-  const Child* row = last;
-  do {
-    if (AreEqual(row->name, name)) return row;
-    if (++row == end) row = schema.children.data();
-  } while (row != last);
-  return nullptr;
+/// Deals with the text of an attribute: false if it fails the read.
+bool AcceptValue(const Attribute& row, Value text, const Schema& schema, IElement& node) {
+  const FieldRef field = row.locate(node);
+  if (field.present != nullptr) *field.present = 1;
+  if (ParseValue(row, text, schema.dialect.numbers, field)) return true;
+  ReportAttributeOr(row.read_report, MalformedFaultOf(row), schema.ReportedName(), row.name);
+  return false;
+}
+
+ConfigResult ReadAttributes(const Schema& schema, IElement& node, CXMLLiteManagerReader& reader) {
+  if (schema.attributes.empty()) return kSuccess;
+  reader.FindAttributes(schema.attribute_names);
+  bool is_accepted = true;
+  std::size_t index = 0;
+  for (const Attribute& row : schema.attributes) {
+    const Value text = reader.GetAttribute(index++);
+    is_accepted = text.data() == nullptr ? AcceptAbsence(row, schema, node)
+                                         : AcceptValue(row, text, schema, node);
+    if (!is_accepted) break;
+  }
+  reader.StoreAttributeError();
+  return is_accepted ? kSuccess : kFailed;
 }
 
 ConfigResult ReadClear(const Schema& schema, INode& node, CXMLLiteManagerReader& reader);
 
-ConfigResult ReadChild(const Child& row, INode& node, CXMLLiteManagerReader& reader) {
+/// `is_clear`: nothing has been read into the child since its parent was cleared.
+ConfigResult ReadChild(const Child& row, bool is_clear, INode& node,
+                       CXMLLiteManagerReader& reader) {
   IElement& child = row.make(node);
   if (row.occurrence == Occurrence::kRepeated) {
     // Items read by their tables, and the row has the name of the table.
     if (ReadClear(*row.schema, static_cast<INode&>(child), reader) == kSuccess) return kSuccess;
     node.Clear();
-    ReportElementOr(row.read_report, kReadItem, row.name);
+    ReportElementOr(row.read_report, kReadItem, row.name());
     return kFailed;
   }
-  if (child.ReadFromXMLMgr(&reader, 0) != kSuccess) {
-    ReportElementOr(row.read_report, kReadChild, row.name);
+  const ConfigResult result = is_clear && row.reads_by_table
+                                  ? ReadClear(*row.schema, static_cast<INode&>(child), reader)
+                                  : child.ReadFromXMLMgr(&reader, 0);
+  if (result != kSuccess) {
+    ReportElementOr(row.read_report, kReadChild, row.name());
     return kFailed;
   }
   DWORD* const present = row.locate(node).present;
@@ -292,38 +327,42 @@ ConfigResult ReadChild(const Child& row, INode& node, CXMLLiteManagerReader& rea
 
 /// `found` has a bit for each row.
 ConfigResult CheckRequiredChildren(const Schema& schema, std::uint32_t found) {
-  for (const bool is_first : {true, false}) {
-    std::uint32_t bit = 1;
-    for (const Child& row : schema.children) {
-      const bool is_required = row.occurrence == Occurrence::kRequired && !row.may_be_absent;
-      const bool is_missing = is_required && (found & bit) == 0;
-      if (is_missing && row.is_reported_first == is_first) {
-        ReportOr(row.absence_report, [&row] { ReportMissing(row.name); });
-        return kFailed;
-      }
-      bit <<= 1;
+  std::uint32_t missing = schema.required_children & ~found;
+  if (missing == 0) return kSuccess;
+  const Child* reported = nullptr;
+  for (; missing != 0; missing &= missing - 1) {
+    const Child& row = schema.children[static_cast<std::size_t>(std::countr_zero(missing))];
+    if (reported == nullptr || (row.is_reported_first && !reported->is_reported_first)) {
+      reported = &row;
     }
   }
-  return kSuccess;
+  ReportOr(reported->absence_report, [reported] { ReportMissing(reported->name()); });
+  return kFailed;
 }
 
 ConfigResult ReadChildren(const Schema& schema, INode& node, CXMLLiteManagerReader& reader) {
-  if (schema.children.empty()) return kSuccess;
+  if (schema.children.empty() || reader.is_empty_element()) {
+    return CheckRequiredChildren(schema, 0);
+  }
   std::uint32_t found = 0;
-  const Child* last = schema.children.data();
-  int type = reader.is_empty_element() ? 0 : reader.NextNode();
+  std::size_t last = 0;  // where the row of the next child is looked for first
+  std::size_t index = 0;
+  int type = reader.NextNode(schema.child_tags, index);
   while (type != XmlNodeType_EndElement && type != XmlNodeType_None) {
-    const wchar_t* const name = reader.GetLocalName();
-    const Child* const row = name == nullptr ? nullptr : FindChild(schema, name, last);
-    if (row == nullptr) {
-      type = reader.SkipElement();
-      continue;
+    if (type == XmlNodeType_Element && index != schema.children.size()) {
+      const std::uint32_t bit = std::uint32_t{1} << index;
+      const bool is_clear = (found & bit) == 0;
+      const ConfigResult result = ReadChild(schema.children[index], is_clear, node, reader);
+      if (result != kSuccess) return result;
+      found |= bit;
+      last = index;
+    } else if (type == XmlNodeType_Element) {
+      reader.FinishElement();
+    } else {
+      reader.GetLocalName();  // there is none, which shows in the last error
     }
-    const ConfigResult result = ReadChild(*row, node, reader);
-    if (result != kSuccess) return result;
-    found |= std::uint32_t{1} << (row - schema.children.data());
-    last = row;
-    type = reader.NextNode();
+    index = last;
+    type = reader.NextNode(schema.child_tags, index);
   }
   return CheckRequiredChildren(schema, found);
 }
@@ -333,16 +372,16 @@ ConfigResult ReadContent(const Schema& schema, IElement& node, CXMLLiteManagerRe
   const Content& content = schema.content;
   if (content.locate == nullptr) return kSuccess;
   const FieldRef field = content.locate(node);
-  const wchar_t* const text = reader.GetText();
+  const Value text = reader.GetText();
   const bool is_string = content.type == ValueType::kString;
-  if (text == nullptr) {
+  if (text.data() == nullptr) {
     if (content.is_optional) return kSuccess;
     ReportElement(is_string ? kReadStringContent : kReadNumberContent, L"Content");
     return kInvalidArgument;
   }
   if (field.present != nullptr) *field.present = 1;
   if (is_string) {
-    StringAt(field) = text;
+    AssignWide(text, StringAt(field));
     return kSuccess;
   }
   if (content.takes_leading_digits) {
@@ -388,23 +427,7 @@ ConfigResult WriteNode(const Schema& schema, const IElement& node, IXMLLiteManag
   }
   CXMLLiteManagerWriter* const writer = xml::AsWriter(manager);
   if (writer == nullptr) return kFailed;
-  IElement& fields = Mutable(node);
-  if (schema.content.locate != nullptr) return WriteContent(schema, fields, *writer);
-
-  if (writer->StartElement(schema.element) != kSuccess) {
-    ReportOr(schema.add_report, [&schema] { ReportNotAdded(schema.ReportedName()); });
-    return kFailed;
-  }
-  ConfigResult result = WriteAttributes(schema, fields, *writer);
-  if (result != kSuccess) return result;
-  result = WriteChildren(schema, fields, manager);
-  if (result != kSuccess) return result;
-  const bool has_end_tag = !schema.children.empty() && !schema.closes_as_empty_tag;
-  if (writer->EndElement(has_end_tag ? L"" : nullptr) != kSuccess) {
-    ReportOr(schema.close_report, [&schema] { ReportNotClosed(schema.ReportedName()); });
-    return kFailed;
-  }
-  return kSuccess;
+  return WriteElement(schema, Mutable(node), *writer);
 }
 
 ConfigResult ReadNode(const Schema& schema, INode& node, IXMLLiteManager* manager) {
@@ -415,8 +438,7 @@ ConfigResult ReadNode(const Schema& schema, INode& node, IXMLLiteManager* manage
   CXMLLiteManagerReader* const reader = xml::AsReader(manager);
   if (reader == nullptr) return kFailed;
   node.Clear();
-  const wchar_t* const name = reader->GetLocalName();
-  if (name == nullptr || !AreEqual(name, schema.element)) return kInvalidArgument;
+  if (schema.element != reader->GetLocalName()) return kInvalidArgument;
   return ReadClear(schema, node, *reader);
 }
 
@@ -450,7 +472,7 @@ void ReportNullValue(const Schema& schema, const IElement& node, const void* fie
 
 void ReportNullChild(const Schema& schema, const IElement& node, const IElement* child) {
   for (const Child& row : schema.children) {
-    if (row.locate(Mutable(node)).element == child) ReportElement(kSetElement, row.name);
+    if (row.locate(Mutable(node)).element == child) ReportElement(kSetElement, row.name());
   }
 }
 

@@ -14,10 +14,11 @@
 #include <tolva/node/node.h>
 #include <tolva/types.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <new>
 #include <utility>
-#include <vector>
 
 namespace tolva::node {
 
@@ -158,44 +159,110 @@ class ItemList {
 
 /// The items of a repeated child, in order. If `C` is not yet complete, as in a recursive document,
 /// the interface `I` has to be named.
+///
+/// Items are stored in blocks and never move, so their addresses stay valid while other items come
+/// and go. The place of a removed item is used again.
 template <class C, class I = typename C::Interface>
 class ChildList final : public ItemList {
  public:
   using Interface = I;
 
   ChildList() = default;
-  ChildList(const ChildList& other) : ItemList(other) {
-    items_.reserve(other.items_.size());
-    for (const auto& item : other.items_) items_.push_back(std::make_unique<C>(*item));
+  ChildList(const ChildList& other) : ChildList() {
+    for (DWORD i = 0; i != other.size_; ++i) Emplace(*other.items_[i]);
   }
-  ChildList(ChildList&&) noexcept = default;
+  ChildList(ChildList&& other) noexcept { Swap(other); }
   ChildList& operator=(const ChildList&) = delete;  // Assign copies
-  ChildList& operator=(ChildList&&) noexcept = default;
-  ~ChildList() = default;
+  ChildList& operator=(ChildList&& other) noexcept {
+    if (this != &other) ChildList(std::move(other)).Swap(*this);
+    return *this;
+  }
+  ~ChildList() { RemoveAll(); }
 
   // Accessors of a repeated child.
 
-  DWORD Count() const { return static_cast<DWORD>(items_.size()); }
-  Interface* At(DWORD index) { return index < items_.size() ? items_[index].get() : nullptr; }
+  DWORD Count() const { return size_; }
+  Interface* At(DWORD index) { return index < size_ ? items_[index] : nullptr; }
   ConfigResult Add(const Interface* item) { return InsertAt(Count(), item); }
   ConfigResult InsertAt(DWORD index, const Interface* item) {
     if (item == nullptr) return kFailed;
-    auto copy = std::make_unique<C>(static_cast<const C&>(*item));
-    const auto at = index < items_.size() ? items_.begin() + index : items_.end();
-    items_.insert(at, std::move(copy));
+    Emplace(static_cast<const C&>(*item));
+    if (index < size_) std::rotate(items_ + index, items_ + size_ - 1, items_ + size_);
     return kSuccess;
   }
   void RemoveAt(DWORD index) {
-    if (index < items_.size()) items_.erase(items_.begin() + index);
+    if (index >= size_) return;
+    std::rotate(items_ + index, items_ + index + 1, items_ + size_);
+    std::destroy_at(items_[--size_]);
   }
 
-  std::size_t Size() const override { return items_.size(); }
+  std::size_t Size() const override { return size_; }
   const IElement& Item(std::size_t index) const override { return *items_[index]; }
-  INode& Append() override { return *items_.emplace_back(std::make_unique<C>()); }
-  void RemoveAll() override { items_.clear(); }
+  INode& Append() override { return Emplace(); }
+  void RemoveAll() override {
+    if (blocks_ == nullptr) return;
+    std::for_each(items_, items_ + size_, [](C* item) { std::destroy_at(item); });
+    while (blocks_ != nullptr) ::operator delete(std::exchange(blocks_, blocks_->older));
+    items_ = nullptr;
+    size_ = capacity_ = table_size_ = 0;
+  }
 
  private:
-  std::vector<std::unique_ptr<C>> items_;
+  /// Followed by a table of items, perhaps, and by room for some items.
+  struct alignas(std::max_align_t) Block {
+    Block* older;
+  };
+
+  /// No block has room for more items.
+  static constexpr DWORD kMostAtOnce = 64;
+
+  template <class... Arguments>
+  C& Emplace(const Arguments&... arguments) {
+    if (size_ == capacity_) Grow();
+    C* const item = ::new (static_cast<void*>(items_[size_])) C(arguments...);
+    ++size_;
+    return *item;
+  }
+
+  /// Adds a block. It gets a new table if the present one is too small for the added items.
+  void Grow() {
+    static_assert(alignof(C) <= alignof(Block));
+    const DWORD added = std::min(
+        capacity_ < 8 ? capacity_ + (sizeof(C) <= 256 ? 2 : 1) : capacity_ / 2, kMostAtOnce);
+    const DWORD capacity = capacity_ + added;
+    const DWORD table_size = capacity <= table_size_ ? 0 : std::max(capacity, 2 * table_size_);
+    const std::size_t table_bytes = AlignUp(table_size * sizeof(C*));
+    auto* const bytes =
+        static_cast<char*>(::operator new(sizeof(Block) + table_bytes + added * sizeof(C)));
+    blocks_ = ::new (static_cast<void*>(bytes)) Block{blocks_};
+    if (table_size != 0) {
+      C** const table = reinterpret_cast<C**>(bytes + sizeof(Block));
+      std::copy(items_, items_ + capacity_, table);
+      items_ = table;
+      table_size_ = table_size;
+    }
+    auto* const room = reinterpret_cast<C*>(bytes + sizeof(Block) + table_bytes);
+    for (DWORD i = 0; i != added; ++i) items_[capacity_ + i] = room + i;
+    capacity_ = capacity;
+  }
+
+  static constexpr std::size_t AlignUp(std::size_t size) {
+    return (size + alignof(Block) - 1) / alignof(Block) * alignof(Block);
+  }
+
+  void Swap(ChildList& other) noexcept {
+    std::swap(items_, other.items_);
+    std::swap(blocks_, other.blocks_);
+    std::swap(size_, other.size_);
+    std::swap(capacity_, other.capacity_);
+    std::swap(table_size_, other.table_size_);
+  }
+
+  C** items_ = nullptr;  ///< in order, then the places that are free
+  Block* blocks_ = nullptr;
+  DWORD size_ = 0;
+  DWORD capacity_ = 0;    ///< items that the blocks have room for
+  DWORD table_size_ = 0;  ///< entries of the table that `items_` points to
 };
 
 }  // namespace tolva::node

@@ -6,6 +6,8 @@
 #include <array>
 #include <cstdint>
 
+#include "platform/platform.h"
+
 namespace tolva::node {
 
 /// How a 32-bit number is written and read.
@@ -14,19 +16,24 @@ enum class Numbers : std::uint8_t {
   kUnsigned,  ///< reading goes through 63 bits, saturating, and keeps the low 32
 };
 
-/// Room for the longest number with its sign and a terminating zero.
-using NumberText = std::array<wchar_t, 24>;
+/// A value in the form that the platform's reader and writer use.
+using Value = platform::XmlReader::Value;
 
-const wchar_t* FormatNumber(DWORD value, Numbers numbers, NumberText& text);
-const wchar_t* FormatLongNumber(std::uint64_t value, NumberText& text);
+/// Room for the longest number with its sign and a terminating zero.
+using NumberText = std::array<Value::value_type, 24>;
+
+// The text is in the buffer, and zero-terminated.
+
+Value FormatNumber(DWORD value, Numbers numbers, NumberText& text);
+Value FormatLongNumber(std::uint64_t value, NumberText& text);
 
 // A number is any quantity of digits '0' to '9'; an empty text reads as 0. Parsing fails on any
 // other character, including signs and spaces, and then leaves `*value` unchanged.
 
-bool ParseNumber(const wchar_t* text, Numbers numbers, DWORD* value);
-bool ParseLongNumber(const wchar_t* text, std::uint64_t* value);
+bool ParseNumber(Value text, Numbers numbers, DWORD* value);
+bool ParseLongNumber(Value text, std::uint64_t* value);
 
 /// The value of the leading digits. Ignores whatever follows them.
-DWORD ParseLeadingDigits(const wchar_t* text, Numbers numbers);
+DWORD ParseLeadingDigits(Value text, Numbers numbers);
 
 }  // namespace tolva::node

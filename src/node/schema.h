@@ -28,8 +28,11 @@
 #include "node/diagnostics.h"
 #include "node/fields.h"
 #include "node/numbers.h"
+#include "platform/name.h"
 
 namespace tolva::node {
+
+using platform::Name;
 
 template <class C, class I>
 class Node;
@@ -45,8 +48,8 @@ struct Dialect {
 
 /// The texts of an ENUM attribute. A value is an index into them.
 struct EnumTexts {
-  std::span<const wchar_t* const> texts;
-  const wchar_t* otherwise = L"";  ///< written for any other value
+  std::span<const Name> texts;
+  Name otherwise = {};  ///< written for any other value
 };
 
 enum class ValueType : std::uint8_t { kNumber, kLongNumber, kString, kEnum };
@@ -74,7 +77,7 @@ consteval void Require(bool holds, const char* reason) {
 
 /// One attribute of an element.
 struct Attribute {
-  const wchar_t* name;
+  Name name;
   ValueType type;
   bool is_optional;
   FieldRef (*locate)(IElement& node);
@@ -149,12 +152,14 @@ struct Schema;
 
 /// One kind of child of an element.
 struct Child {
-  const wchar_t* name;
+  platform::KnownTag tag;
   Occurrence occurrence;
   const Schema* schema;  ///< the child's own table
   ChildRef (*locate)(IElement& node);
   IElement& (*make)(IElement& node);  ///< what to read into: the child, or a new item
   void (*clear)(IElement& node);      ///< clears the child, or removes all items
+  bool reads_by_table;                ///< its class has no ReadFromXMLMgr of its own
+  bool writes_by_table;               ///< nor a WriteToXMLMgr
 
   bool may_be_absent = false;      ///< required, but its absence does not fail the read
   bool is_reported_first = false;  ///< reported before missing children of earlier rows
@@ -164,6 +169,8 @@ struct Child {
   OwnReport absence_report = {};
   std::wstring_view before_write = {};  ///< reported before the child is written
   std::wstring_view after_write = {};   ///< reported after the child has been written
+
+  constexpr const Name& name() const { return tag.name; }
 
   consteval Child MayBeAbsent() const {
     internal::Require(occurrence == Occurrence::kRequired, "only a required child can be missing");
@@ -241,35 +248,34 @@ struct Schema {
   /// A read keeps a bit for each kind of child that it has found.
   static constexpr std::size_t kMostChildren = 32;
 
-  const wchar_t* element;  ///< its name in the document
+  Name element;  ///< its name in the document
   const Dialect& dialect;
   std::span<const Attribute> attributes = {};
   std::span<const Child> children = {};
   Content content = {};
 
-  const wchar_t* reported_as = nullptr;  ///< its name in reports, if different
-  bool closes_as_empty_tag = false;      ///< though it has children
+  std::wstring_view reported_as = {};  ///< its name in reports, if different
+  bool closes_as_empty_tag = false;    ///< though it has children
   OwnReport add_report = {};
   OwnReport close_report = {};
   OwnReport null_writer_report = {};
   OwnReport null_reader_report = {};
 
+  // What `Checked` adds.
+  platform::Names attribute_names = {};
+  platform::KnownTags child_tags = {};
+  std::uint32_t required_children = 0;  ///< one bit for each row whose absence fails a read
+
   constexpr std::wstring_view ReportedName() const {
-    return reported_as == nullptr ? element : reported_as;
+    return reported_as.empty() ? element.wide() : reported_as;
   }
 };
 
-/// Returns the table. Does not compile if the table is wrong.
-consteval Schema Checked(const Schema& table) {
+/// Completes the table. Does not compile if the table is wrong.
+consteval Schema Checked(Schema table) {
   using internal::Require;
-  const auto is_name = [](std::wstring_view name) {
-    for (const wchar_t c : name) {
-      const bool is_letter = (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z');
-      if (!is_letter && (c < L'0' || c > L'9')) return false;
-    }
-    return !name.empty() && (name.front() < L'0' || name.front() > L'9');
-  };
-  Require(is_name(table.element), "the name of an element consists of letters and digits");
+  Require(table.attributes.size() <= platform::Names::kMost,
+          "an element has 64 attributes at most");
   Require(table.children.size() <= Schema::kMostChildren,
           "an element has 32 kinds of children at most");
   const bool has_rows = !table.attributes.empty() || !table.children.empty();
@@ -277,20 +283,25 @@ consteval Schema Checked(const Schema& table) {
           "a text has neither attributes nor children");
   for (std::size_t i = 0; i < table.attributes.size(); ++i) {
     const std::wstring_view name = table.attributes[i].name;
-    Require(is_name(name), "the name of an attribute consists of letters and digits");
     for (const Attribute& other : table.attributes.subspan(i + 1)) {
-      Require(name != other.name, "two attributes have the same name");
+      Require(name != other.name.wide(), "two attributes have the same name");
     }
     for (const Child& child : table.children) {
-      Require(name != child.name, "an attribute and a child have the same name");
+      Require(name != child.name().wide(), "an attribute and a child have the same name");
     }
   }
   for (std::size_t i = 0; i < table.children.size(); ++i) {
-    const std::wstring_view name = table.children[i].name;
-    Require(is_name(name), "the name of a child consists of letters and digits");
+    const std::wstring_view name = table.children[i].name();
     for (const Child& other : table.children.subspan(i + 1)) {
-      Require(name != other.name, "two children have the same name");
+      Require(name != other.name().wide(), "two children have the same name");
     }
+  }
+  table.attribute_names = platform::Names(table.attributes, &Attribute::name);
+  table.child_tags = platform::KnownTags(table.children, &Child::tag);
+  for (std::size_t i = 0; i < table.children.size(); ++i) {
+    const Child& row = table.children[i];
+    const bool is_required = row.occurrence == Occurrence::kRequired && !row.may_be_absent;
+    if (is_required) table.required_children |= std::uint32_t{1} << i;
   }
   return table;
 }
@@ -343,7 +354,7 @@ FieldRef LocateField(IElement& node) {
 }
 
 template <auto Member>
-constexpr Attribute PlainRow(const wchar_t* name) {
+constexpr Attribute PlainRow(const Name& name) {
   using Traits = FieldTraits<typename MemberOf<decltype(Member)>::Field>;
   return {name, TypeOf<typename Traits::Value>(), Traits::kIsOptional, &LocateField<Member>};
 }
@@ -379,11 +390,29 @@ struct ChildTraits<LazyChild<C>> {
   }
 };
 
+template <class C>
+constexpr bool ReadsByTable() {
+  if constexpr (requires { typename C::Interface; }) {
+    return std::same_as<decltype(&C::ReadFromXMLMgr),
+                        decltype(&Node<C, typename C::Interface>::ReadFromXMLMgr)>;
+  } else {
+    return false;
+  }
+}
+
+template <class C>
+constexpr bool WritesByTable() {
+  if constexpr (requires { typename C::Interface; }) {
+    return std::same_as<decltype(&C::WriteToXMLMgr),
+                        decltype(&Node<C, typename C::Interface>::WriteToXMLMgr)>;
+  } else {
+    return false;
+  }
+}
+
 template <class C, class I>
 struct ChildTraits<ChildList<C, I>> {
-  static_assert(std::same_as<decltype(&C::ReadFromXMLMgr),
-                             decltype(&Node<C, typename C::Interface>::ReadFromXMLMgr)>,
-                "items are read by their tables");
+  static_assert(ReadsByTable<C>(), "items are read by their tables");
   using Element = C;
   static constexpr Occurrence kOccurrence = Occurrence::kRepeated;
   static ChildRef Locate(ChildList<C, I>& items) { return {nullptr, nullptr, &items}; }
@@ -410,20 +439,20 @@ void ClearChild(IElement& node) {
 
 /// The row of a number or string attribute.
 template <auto Member>
-consteval Attribute Attr(const wchar_t* name) {
+consteval Attribute Attr(Name name) {
   return internal::PlainRow<Member>(name);
 }
 
 /// The row of an ENUM attribute.
 template <auto Member>
-consteval Attribute Attr(const wchar_t* name, EnumTexts texts) {
+consteval Attribute Attr(Name name, EnumTexts texts) {
   Attribute row = internal::PlainRow<Member>(name);
   internal::Require(row.type == ValueType::kNumber, "the field of an ENUM is a DWORD");
   internal::Require(!texts.texts.empty(), "an ENUM has texts");
   for (std::size_t i = 0; i < texts.texts.size(); ++i) {
     const std::wstring_view text = texts.texts[i];
-    for (const wchar_t* const other : texts.texts.subspan(i + 1)) {
-      internal::Require(text != other, "two values of an ENUM have the same text");
+    for (const Name& other : texts.texts.subspan(i + 1)) {
+      internal::Require(text != other.wide(), "two values of an ENUM have the same text");
     }
   }
   row.type = ValueType::kEnum;
@@ -433,14 +462,17 @@ consteval Attribute Attr(const wchar_t* name, EnumTexts texts) {
 
 /// The row of a child.
 template <auto Member>
-consteval Child Elem(const wchar_t* name) {
+consteval Child Elem(Name name) {
   using Traits = internal::ChildTraits<typename internal::MemberOf<decltype(Member)>::Field>;
-  return {name,
+  using Element = typename Traits::Element;
+  return {{name, &Element::kSchema.attribute_names},
           Traits::kOccurrence,
-          &Traits::Element::kSchema,
+          &Element::kSchema,
           &internal::LocateChild<Member>,
           &internal::MakeChild<Member>,
-          &internal::ClearChild<Member>};
+          &internal::ClearChild<Member>,
+          internal::ReadsByTable<Element>(),
+          internal::WritesByTable<Element>()};
 }
 
 /// The value of an element that consists of text.

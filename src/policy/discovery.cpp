@@ -3,8 +3,8 @@
 namespace TolvaInterface {
 namespace {
 
-constexpr const wchar_t* kActions[] = {L"ANALYZE"};
-constexpr const wchar_t* kScanModes[] = {L"FULL", L"DIFFERENTIAL", L"ALTERNATIVE"};
+constexpr Name kActions[] = {L"ANALYZE"};
+constexpr Name kScanModes[] = {L"FULL", L"DIFFERENTIAL", L"ALTERNATIVE"};
 
 }  // namespace
 

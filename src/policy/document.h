@@ -16,6 +16,6 @@ inline constexpr Dialect kDialect = {
 };
 
 /// The texts of RuleAction.
-inline constexpr const wchar_t* kRuleActions[] = {L"USE_CONTENT_POLICY_ACTION", L"ALLOW", L"BLOCK"};
+inline constexpr Name kRuleActions[] = {L"USE_CONTENT_POLICY_ACTION", L"ALLOW", L"BLOCK"};
 
 }  // namespace TolvaInterface

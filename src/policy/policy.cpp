@@ -3,8 +3,8 @@
 namespace TolvaInterface {
 namespace {
 
-constexpr const wchar_t* kModes[] = {L"NORMAL", L"SILENT", L"UNATTENDED"};
-constexpr const wchar_t* kPromptActions[] = {L"ALLOW", L"BLOCK", L"BLOCK_REVIEW"};
+constexpr Name kModes[] = {L"NORMAL", L"SILENT", L"UNATTENDED"};
+constexpr Name kPromptActions[] = {L"ALLOW", L"BLOCK", L"BLOCK_REVIEW"};
 
 }  // namespace
 

@@ -3,10 +3,9 @@
 namespace TolvaInterface {
 namespace {
 
-constexpr const wchar_t* kInitialTypes[] = {L"NOW", L"TIME"};
-constexpr const wchar_t* kRecurTypes[] = {L"ONCE", L"DAILY", L"WEEKLY", L"MONTHLY",
-                                          L"CONTINUOUSLY"};
-constexpr const wchar_t* kTimeTypes[] = {L"LOCAL", L"UTC"};
+constexpr Name kInitialTypes[] = {L"NOW", L"TIME"};
+constexpr Name kRecurTypes[] = {L"ONCE", L"DAILY", L"WEEKLY", L"MONTHLY", L"CONTINUOUSLY"};
+constexpr Name kTimeTypes[] = {L"LOCAL", L"UTC"};
 
 }  // namespace
 

@@ -3,7 +3,7 @@
 namespace TolvaInterface {
 namespace {
 
-constexpr const wchar_t* kBrowserNames[] = {L"CHROME", L"FIREFOX", L"EDGE"};
+constexpr Name kBrowserNames[] = {L"CHROME", L"FIREFOX", L"EDGE"};
 
 }  // namespace
 

@@ -10,26 +10,19 @@ namespace {
 
 // Last-error values that are not HRESULTs.
 constexpr auto kNoSuitableNode = DWORD{1};
-constexpr auto kNoSuchAttribute = static_cast<DWORD>(kAttributeAbsent);
-constexpr auto kNotOnAnElement = static_cast<DWORD>(kInvalidArgument);
+
+constexpr Name kNoName;
 
 }  // namespace
 
 CXMLLiteManagerReader::CXMLLiteManagerReader() : CXMLLiteManager(Kind::kReader) {
-  void* reader = nullptr;
-  HRESULT result = CreateXmlReader(kIidXmlReader, &reader, nullptr);
-  if (SUCCEEDED(result)) {
-    reader_.Attach(static_cast<IXmlReader*>(reader));
-    result = reader_->SetProperty(XmlReaderProperty_DtdProcessing, DtdProcessing_Prohibit);
-  }
-  if (FAILED(result)) {
-    SetLastResult(result);
-    reader_.Reset();
-  }
+  const HRESULT result = reader_.Create();
+  is_usable_ = SUCCEEDED(result);
+  if (!is_usable_) SetLastResult(result);
 }
 
 ConfigResult CXMLLiteManagerReader::OpenFile(const wchar_t* path) {
-  if (!reader_) return kFailed;
+  if (!is_usable_) return kFailed;
   if (path == nullptr) return kInvalidArgument;
   Close();
 
@@ -45,12 +38,11 @@ ConfigResult CXMLLiteManagerReader::OpenFile(const wchar_t* path) {
     SetLastResult(opened);
     return kFailed;
   }
-  is_string_ = false;
-  return MoveToRoot(reader_->SetInput(stream_.Get()));
+  return MoveToRoot(reader_.SetInput(stream_.Get()));
 }
 
 ConfigResult CXMLLiteManagerReader::OpenFromString(const wchar_t* xml_text) {
-  if (!reader_) return kFailed;
+  if (!is_usable_) return kFailed;
   if (xml_text == nullptr) return kInvalidArgument;
   const std::size_t length = std::wcslen(xml_text);
   // Of nothing, the conversion would change the last error; of more than this, it takes nothing.
@@ -75,8 +67,7 @@ ConfigResult CXMLLiteManagerReader::OpenFromString(const wchar_t* xml_text) {
       SHCreateMemStream(reinterpret_cast<const BYTE*>(text.data()), static_cast<UINT>(text.size()));
   if (stream == nullptr) return kFailed;
   stream_.Attach(stream);
-  is_string_ = true;
-  return MoveToRoot(SetConvertedInput(*reader_.Get(), stream));
+  return MoveToRoot(reader_.SetConvertedInput(stream));
 }
 
 /// The common end of both opens. Input without an element is no failure here: the root node notices
@@ -89,14 +80,15 @@ ConfigResult CXMLLiteManagerReader::MoveToRoot(HRESULT input_result) try {
   }
   for (;;) {
     XmlNodeType type = XmlNodeType_None;
-    const HRESULT result = reader_->Read(&type);
+    const HRESULT result = reader_.Read(&type);
     node_type_ = type;
     if (result != S_OK) {
       SetLastResult(result);
       return kSuccess;
     }
     if (type == XmlNodeType_Element) {
-      is_empty_element_ = reader_->IsEmptyElement() != FALSE;
+      is_empty_element_ = reader_.IsEmptyElement();
+      has_found_attributes_ = false;
       return kSuccess;
     }
   }
@@ -107,54 +99,28 @@ ConfigResult CXMLLiteManagerReader::MoveToRoot(HRESULT input_result) try {
 
 ConfigResult CXMLLiteManagerReader::Close() {
   if (stream_) {
-    reader_->SetInput(nullptr);
+    reader_.SetInput(nullptr);
     node_type_ = XmlNodeType_None;
   }
   return CXMLLiteManager::Close();
 }
 
-const wchar_t* CXMLLiteManagerReader::GetLocalName() {
+CXMLLiteManagerReader::Value CXMLLiteManagerReader::GetLocalName() {
   if (node_type_ != XmlNodeType_Element && node_type_ != XmlNodeType_ProcessingInstruction) {
     SetLastError(kNoSuitableNode);
-    return L"";
+    return kNoName.As<Value>();
   }
-  const wchar_t* name = nullptr;
-  const HRESULT result = reader_->GetLocalName(&name, nullptr);
-  if (FAILED(result)) {
-    SetLastResult(result);
-    return nullptr;
-  }
+  Value name;
+  const HRESULT result = reader_.GetLocalName(&name);
+  if (FAILED(result)) SetLastResult(result);
   return name;
 }
 
-const wchar_t* CXMLLiteManagerReader::GetAttribute(const wchar_t* name) {
-  if (node_type_ != XmlNodeType_Element || name == nullptr) {
-    SetLastError(kNotOnAnElement);
-    return nullptr;
-  }
-  if (reader_->MoveToAttributeByName(name, nullptr) != S_OK) {
-    SetLastError(kNoSuchAttribute);
-    return nullptr;
-  }
-  if (reader_->IsDefault() != FALSE) {
-    SetLastError(kNotOnAnElement);
-    return nullptr;
-  }
-  const wchar_t* value = nullptr;
-  const HRESULT result = reader_->GetValue(&value, nullptr);
-  if (FAILED(result)) {
-    SetLastResult(result);
-    return nullptr;
-  }
-  SetLastError(0);
-  return value;
-}
-
-const wchar_t* CXMLLiteManagerReader::GetText() {
+CXMLLiteManagerReader::Value CXMLLiteManagerReader::GetText() {
   if (node_type_ == XmlNodeType_Element) {
-    if (is_empty_element_) return nullptr;
+    if (is_empty_element_) return {};
     XmlNodeType type = XmlNodeType_None;
-    reader_->Read(&type);
+    reader_.Read(&type);
     node_type_ = type;
   }
   switch (node_type_) {
@@ -165,32 +131,30 @@ const wchar_t* CXMLLiteManagerReader::GetText() {
       break;
     case XmlNodeType_EndElement:
       is_empty_element_ = true;
-      return nullptr;
+      return {};
     default:
       SetLastError(kNoSuitableNode);
-      return nullptr;
+      return {};
   }
-  const wchar_t* value = nullptr;
-  const HRESULT result = reader_->GetValue(&value, nullptr);
-  if (FAILED(result)) {
-    SetLastResult(result);
-    return nullptr;
-  }
+  Value value;
+  const HRESULT result = reader_.GetValue(&value);
+  if (FAILED(result)) SetLastResult(result);
   return value;
 }
 
-int CXMLLiteManagerReader::NextNode() {
-  if (!stream_) return XmlNodeType_None;
+/// Reads nodes until the cursor can stop on one.
+int CXMLLiteManagerReader::MoveOn() {
   for (;;) {
     XmlNodeType type = XmlNodeType_None;
-    const HRESULT result = reader_->Read(&type);
+    const HRESULT result = reader_.ReadTag(&type);
     if (result != S_OK) {
       SetLastResult(result);
       return XmlNodeType_None;
     }
     switch (type) {
       case XmlNodeType_Element:
-        is_empty_element_ = reader_->IsEmptyElement() != FALSE;
+        is_empty_element_ = reader_.IsEmptyElement();
+        has_found_attributes_ = false;
         [[fallthrough]];
       case XmlNodeType_CDATA:
       case XmlNodeType_Comment:
@@ -201,6 +165,20 @@ int CXMLLiteManagerReader::NextNode() {
         break;
     }
   }
+}
+
+int CXMLLiteManagerReader::NextNode() { return stream_ ? MoveOn() : XmlNodeType_None; }
+
+/// Where the current element's name is among the tags. Documents mostly keep the order of the tags.
+std::size_t CXMLLiteManagerReader::Find(const KnownTags& tags, std::size_t start) {
+  const Value name = GetLocalName();
+  std::size_t index = start;
+  for (std::size_t tried = 0; tried < tags.size(); ++tried) {
+    if (index >= tags.size()) index = 0;
+    if (tags[index].name == name) return index;
+    ++index;
+  }
+  return tags.size();
 }
 
 int CXMLLiteManagerReader::SkipElement() {
@@ -222,9 +200,7 @@ int CXMLLiteManagerReader::SkipElement() {
   return NextNode();
 }
 
-int CXMLLiteManagerReader::FinishElement() {
-  if (node_type_ == XmlNodeType_EndElement) return node_type_;
-  if (node_type_ == XmlNodeType_Element && is_empty_element_) return node_type_;
+int CXMLLiteManagerReader::MoveToEndTag() {
   int type = NextNode();
   while (type != XmlNodeType_EndElement && type != XmlNodeType_None) {
     type = type == XmlNodeType_Element ? SkipElement() : NextNode();
@@ -238,12 +214,12 @@ ConfigResult CXMLLiteManagerReader::ReadToEnd() {
   HRESULT result = S_OK;
   while (result == S_OK) {
     XmlNodeType type = XmlNodeType_None;
-    result = reader_->Read(&type);
+    result = reader_.Read(&type);
   }
   node_type_ = XmlNodeType_None;
   // A parser rejects the terminating zero of a string.
   if (result == S_FALSE) return kSuccess;
-  if (is_string_ && EndsAtTerminator(*reader_.Get(), *stream_.Get())) return kSuccess;
+  if (reader_.EndsAtTerminator()) return kSuccess;
   SetLastResult(result);
   return kFailed;
 }

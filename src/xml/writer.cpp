@@ -3,13 +3,10 @@
 #include <cstdint>
 #include <new>
 
-#include "platform/utf.h"
 #include "xml/writer_fault.h"
 
 namespace tolva::xml {
 namespace {
-
-bool IsSet(const wchar_t* name) { return name != nullptr && *name != 0; }
 
 /// Whether a call failed because of what it was asked to write, not because of the stream or the
 /// system. What was written before is then intact.
@@ -52,16 +49,9 @@ void CXMLLiteManagerWriter::NoteLoss(HRESULT failure) {
 }
 
 CXMLLiteManagerWriter::CXMLLiteManagerWriter() : CXMLLiteManager(Kind::kWriter) {
-  void* writer = nullptr;
-  HRESULT result = CreateXmlWriter(kIidXmlWriter, &writer, nullptr);
-  if (SUCCEEDED(result)) {
-    writer_.Attach(static_cast<IXmlWriter*>(writer));
-    result = writer_->SetProperty(XmlWriterProperty_Indent, TRUE);
-  }
-  if (FAILED(result)) {
-    SetLastResult(result);
-    writer_.Reset();
-  }
+  const HRESULT result = writer_.Create();
+  is_usable_ = SUCCEEDED(result);
+  if (!is_usable_) SetLastResult(result);
 }
 
 CXMLLiteManagerWriter::~CXMLLiteManagerWriter() {
@@ -74,7 +64,7 @@ CXMLLiteManagerWriter::~CXMLLiteManagerWriter() {
 }
 
 ConfigResult CXMLLiteManagerWriter::OpenFile(const wchar_t* path) try {
-  if (!writer_) return kFailed;
+  if (!is_usable_) return kFailed;
   if (path == nullptr) return kInvalidArgument;
   if (Close() != kSuccess) Release();
 
@@ -83,9 +73,9 @@ ConfigResult CXMLLiteManagerWriter::OpenFile(const wchar_t* path) try {
     SetLastResult(result);
     return kFailed;
   }
-  result = Invoke([this] { return writer_->SetOutput(stream_.Get()); });
+  result = Invoke([this] { return writer_.SetOutput(stream_.Get()); });
   if (SUCCEEDED(result)) {
-    result = Invoke([this] { return writer_->WriteStartDocument(XmlStandalone_Omit); });
+    result = Invoke([this] { return writer_.WriteStartDocument(); });
   }
   if (FAILED(result)) {
     Release();
@@ -112,7 +102,7 @@ ConfigResult CXMLLiteManagerWriter::Close() {
 /// Ends, flushes and commits the document as far as possible. Returns the first failure.
 HRESULT CXMLLiteManagerWriter::Finish() {
   const HRESULT ended = EndDocument();
-  const HRESULT flushed = Invoke([this] { return writer_->Flush(); });
+  const HRESULT flushed = Invoke([this] { return writer_.Flush(); });
   if (FAILED(ended) && !IsRefusal(ended)) return ended;
   // The document is complete, or can never be completed.
   const HRESULT stored = FAILED(flushed) ? flushed : stream_->Commit(STGC_DEFAULT);
@@ -121,60 +111,51 @@ HRESULT CXMLLiteManagerWriter::Finish() {
 
 HRESULT CXMLLiteManagerWriter::EndDocument() {
   if (is_ended_) return S_OK;
-  const HRESULT result = Invoke([this] { return writer_->WriteEndDocument(); });
+  const HRESULT result = Invoke([this] { return writer_.WriteEndDocument(); });
   is_ended_ = SUCCEEDED(result);
   return result;
 }
 
 /// Releases the file, whatever its state.
 void CXMLLiteManagerWriter::Release() {
-  writer_->SetOutput(nullptr);
+  writer_.SetOutput(nullptr);
   is_ended_ = false;
   loss_ = S_OK;
   CXMLLiteManager::Close();
 }
 
-ConfigResult CXMLLiteManagerWriter::StartElement(const wchar_t* name) {
-  if (!IsSet(name)) return kInvalidArgument;
-  return Emit([&] { return writer_->WriteStartElement(nullptr, name, nullptr); });
+ConfigResult CXMLLiteManagerWriter::StartElement(const Name& name) {
+  return Emit([&] { return writer_.WriteStartElement(name); });
 }
 
-ConfigResult CXMLLiteManagerWriter::WriteAttribute(const wchar_t* name, Text value) {
-  if (!IsSet(name)) return kInvalidArgument;
-  if (Check(value) != kSuccess) return kFailed;
-  return Emit([&] { return writer_->WriteAttributeString(nullptr, name, nullptr, value.c_str()); });
+ConfigResult CXMLLiteManagerWriter::WriteAttribute(const Name& name, const std::wstring& text) {
+  return Emit([&] { return writer_.WriteAttribute(name, text); });
 }
 
-ConfigResult CXMLLiteManagerWriter::EndElement(Text text) {
-  if (Check(text) != kSuccess) return kFailed;
-  if (!text.IsEmpty()) {
-    const ConfigResult result = Emit([&] { return writer_->WriteString(text.c_str()); });
-    if (result != kSuccess) return result;
-  }
-  const ConfigResult result = text.IsNull()
-                                  ? Emit([this] { return writer_->WriteEndElement(); })
-                                  : Emit([this] { return writer_->WriteFullEndElement(); });
+ConfigResult CXMLLiteManagerWriter::WritePlainAttribute(const Name& name, Plain value) {
+  return Emit([&] { return writer_.WritePlainAttribute(name, value); });
+}
+
+ConfigResult CXMLLiteManagerWriter::EndElement(End form) {
+  const bool is_full = form == End::kEndTag;
+  const ConfigResult result =
+      Emit([&] { return is_full ? writer_.WriteFullEnd() : writer_.WriteEnd(); });
   if (result != kSuccess) return result;
   // The line feed is for human readers. Its failure sets the last error but not the result.
-  Emit([this] { return writer_->WriteWhitespace(L"\n"); });
+  Emit([this] { return writer_.WriteLineFeed(); });
   return kSuccess;
 }
 
-ConfigResult CXMLLiteManagerWriter::WriteElementString(const wchar_t* name, Text text) {
-  if (!IsSet(name)) return kInvalidArgument;
-  if (Check(text) != kSuccess) return kFailed;
-  return Emit([&] { return writer_->WriteElementString(nullptr, name, nullptr, text.c_str()); });
+ConfigResult CXMLLiteManagerWriter::WriteElement(const Name& name, const std::wstring& text) {
+  return Emit([&] { return writer_.WriteElement(name, text); });
 }
 
-/// Validates characters. An embedded zero is not allowed, and would hide what follows. If no
-/// document is open, the caller's next step reports that instead.
-ConfigResult CXMLLiteManagerWriter::Check(Text text) {
-  if (!stream_) return kSuccess;
-  const wchar_t* at = FindForbidden(text.begin(), text.end());
-  if (at == text.end()) return kSuccess;
-  const bool is_surrogate = IsSurrogate(TakeCodePoint(at, text.end()));
-  SetLastResult(static_cast<HRESULT>(is_surrogate ? WR_E_INVALIDSURROGATEPAIR : WC_E_XMLCHARACTER));
-  return kFailed;
+ConfigResult CXMLLiteManagerWriter::WritePlainElement(const Name& name, Plain value) {
+  return Emit([&] { return writer_.WritePlainElement(name, value); });
+}
+
+ConfigResult CXMLLiteManagerWriter::WriteEmptyElement(const Name& name) {
+  return Emit([&] { return writer_.WriteEmptyElement(name); });
 }
 
 }  // namespace tolva::xml

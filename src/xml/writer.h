@@ -1,35 +1,46 @@
 // The writing manager: elements and attributes, in order, into a file.
 #pragma once
 
+#include <string>
+
 #include "xml/manager.h"
-#include "xml/text.h"
 
 namespace tolva::xml {
 
 /// The platform's writer tracks the open elements. The manager remembers whether the document has
-/// been ended and whether part of it is lost. Characters that XML does not allow are refused before
-/// the platform's writer is called, with -101 and last error WC_E_XMLCHARACTER or
-/// WR_E_INVALIDSURROGATEPAIR. Without an open document every operation except `OpenFile` and
-/// `Close` returns -101 with last error E_UNEXPECTED.
+/// been ended and whether part of it is lost. Characters that XML does not allow are refused with
+/// -101 and last error WC_E_XMLCHARACTER or WR_E_INVALIDSURROGATEPAIR, and nothing is written.
+/// Without an open document every operation except `OpenFile` and `Close` returns -101 with last
+/// error E_UNEXPECTED.
 class CXMLLiteManagerWriter final : public CXMLLiteManager {
  public:
+  /// A value that is written as it is, such as a number: ASCII that needs no escaping.
+  using Plain = XmlWriter::Value;
+
   CXMLLiteManagerWriter();
   ~CXMLLiteManagerWriter() override;
 
   ConfigResult OpenFile(const wchar_t* path) override;
   ConfigResult Close() override;
 
-  // Each returns -102 for a null or empty name and -101 if the platform refuses.
+  // Each returns 0, or -101 if the platform refuses. The names come from tables, so no element has
+  // two attributes of one name.
 
-  ConfigResult StartElement(const wchar_t* name);
-  ConfigResult WriteAttribute(const wchar_t* name, Text value);
+  ConfigResult StartElement(const Name& name);
+  ConfigResult WriteAttribute(const Name& name, const std::wstring& text);
+  ConfigResult WritePlainAttribute(const Name& name, Plain value);
 
-  /// Writes the text and ends the innermost element. If `text` is null and the element has no
-  /// content, it becomes an empty tag.
-  ConfigResult EndElement(Text text);
+  /// How an element without content ends.
+  enum class End { kEmptyTag, kEndTag };
 
-  /// Writes an element that contains only text. Null text gives an empty tag.
-  ConfigResult WriteElementString(const wchar_t* name, Text text);
+  /// Ends the innermost element.
+  ConfigResult EndElement(End form);
+
+  // An element that contains only text, or nothing.
+
+  ConfigResult WriteElement(const Name& name, const std::wstring& text);
+  ConfigResult WritePlainElement(const Name& name, Plain value);
+  ConfigResult WriteEmptyElement(const Name& name);
 
  private:
   template <class Call>
@@ -37,12 +48,12 @@ class CXMLLiteManagerWriter final : public CXMLLiteManager {
   template <class Call>
   ConfigResult Emit(Call call);
   void NoteLoss(HRESULT failure);
-  ConfigResult Check(Text text);
   HRESULT EndDocument();
   HRESULT Finish();
   void Release();
 
-  ComPtr<IXmlWriter> writer_;
+  XmlWriter writer_;
+  bool is_usable_ = false;
   bool is_ended_ = false;  ///< the document has been ended, but perhaps not flushed
   HRESULT loss_ = S_OK;    ///< first failure that may have lost part of the document
 };

@@ -67,19 +67,37 @@ class Nodes {
 
 // ---- the own parser ----------------------------------------------------------------------------
 
+/// What a table of the library could know of the documents here.
+struct AttributeRow {
+  Name name;
+};
+constexpr AttributeRow kAttributeRows[] = {{L"a"}, {L"b"}, {L"x"}};
+constexpr Names kAttributes(std::span<const AttributeRow>(kAttributeRows), &AttributeRow::name);
+constexpr Names kNoAttributes;
+constexpr struct TagRow {
+  KnownTag tag;
+} kTagRows[] = {{{L"a", &kAttributes}}, {{L"b", &kAttributes}}, {{L"c", &kNoAttributes}}};
+const KnownTags kTagTable(std::span<const TagRow>(kTagRows), &TagRow::tag);
+
+/// How a document is walked through.
+enum class Way : std::uint8_t {
+  kNodes,      ///< every node
+  kTags,       ///< every node but white space between tags
+  kKnownTags,  ///< the same, but tags that a table knows are read as such
+};
+
 class OwnReader {
  public:
   /// What is wrong with the document, or S_OK.
-  HRESULT Read(std::string_view document, std::size_t block) {
+  HRESULT Read(std::string_view document, std::size_t block, Way way = Way::kNodes) {
     nodes_.Clear();
     depth_ = 0;
+    way_ = way;
     TextStream stream(document, block);
     parser_.SetInput(&stream, false);
     own_xml::ReadResult result = own_xml::ReadResult::kNode;
     std::size_t nodes = 0;
-    while ((result = parser_.Read()) == own_xml::ReadResult::kNode && nodes++ <= document.size()) {
-      AddNode();
-    }
+    while ((result = Move()) == own_xml::ReadResult::kNode && nodes++ <= document.size()) AddNode();
     const HRESULT fault = result == own_xml::ReadResult::kFault ? parser_.fault() : S_OK;
     parser_.SetInput(nullptr, false);
     return fault;
@@ -88,6 +106,30 @@ class OwnReader {
   const std::string& nodes() const { return nodes_.text(); }
 
  private:
+  own_xml::ReadResult Move() {
+    if (way_ == Way::kNodes) return parser_.Read();
+    std::size_t index = 1;
+    if (way_ == Way::kKnownTags && parser_.ReadKnownTag(kTagTable, index)) {
+      if (parser_.type() == XmlNodeType_Element) CheckKnownTag(index);
+      return own_xml::ReadResult::kNode;
+    }
+    return parser_.ReadTag();
+  }
+
+  /// The tag and its attributes are where their names are in the table.
+  void CheckKnownTag(std::size_t index) {
+    bool holds = kTagTable[index].name == parser_.name().text;
+    const Names& names = *kTagTable[index].attributes;
+    std::size_t found = 0;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+      const own_xml::Attribute* const attribute = parser_.FoundAttribute(i);
+      if (attribute == nullptr) continue;
+      ++found;
+      holds = holds && names[i] == attribute->name.text;
+    }
+    if (!holds || found != parser_.attributes().size()) nodes_.Begin('-', "not that tag");
+  }
+
   void AddNode() {
     const std::string_view name = parser_.name().text;
     switch (parser_.type()) {
@@ -108,6 +150,7 @@ class OwnReader {
         nodes_.Begin('T', NodeValue(ValueKind::kText));
         break;
       case XmlNodeType_Whitespace:
+        if (way_ != Way::kNodes && depth_ != 0) break;
         // Outside the root expat tells of blanks as they stand there.
         nodes_.Begin('T', depth_ != 0 ? NodeValue(ValueKind::kLiteral) : parser_.value());
         break;
@@ -141,6 +184,7 @@ class OwnReader {
   }
 
   own_xml::Parser parser_;
+  Way way_ = Way::kNodes;
   Nodes nodes_;
   Buffer<char> value_;
   std::size_t depth_ = 0;
@@ -380,6 +424,14 @@ std::optional<std::string> Difference(std::string_view document) {
     const bool same =
         own_in_blocks.Read(document, block) == result && own_in_blocks.nodes() == own.nodes();
     if (!same) return Report(document, "the own parser minds blocks of " + std::to_string(block));
+  }
+  static OwnReader own_by_tags;
+  const bool same_by_tags = own_by_tags.Read(document, document.size() + 1, Way::kTags) == result;
+  if (!same_by_tags) return Report(document, "the own parser minds white space being skipped");
+  for (const std::size_t block : {std::size_t{1}, document.size() + 1}) {
+    const bool same = own_in_blocks.Read(document, block, Way::kKnownTags) == result &&
+                      own_in_blocks.nodes() == own_by_tags.nodes();
+    if (!same) return Report(document, "the own parser reads known tags otherwise");
   }
 
   const bool accepted = result == S_OK;

@@ -31,16 +31,13 @@ class FailingStreams : public testing::TestWithParam<const char*> {};
 
 /// The types of the nodes that come, and what comes behind them.
 std::pair<std::vector<int>, HRESULT> NodesOf(StackStream& stream) {
-  void* made = nullptr;
-  EXPECT_EQ(CreateXmlReader(kIidXmlReader, &made, nullptr), S_OK);
-  ComPtr<IXmlReader> reader;
-  reader.Attach(static_cast<IXmlReader*>(made));
-  EXPECT_EQ(reader->SetInput(&stream), S_OK);
+  XmlReader reader;
+  EXPECT_EQ(reader.SetInput(&stream), S_OK);
   std::vector<int> types;
   XmlNodeType type = XmlNodeType_None;
   HRESULT result = S_OK;
   Steps steps;
-  while (steps.Take() && (result = reader->Read(&type)) == S_OK) types.push_back(type);
+  while (steps.Take() && (result = reader.Read(&type)) == S_OK) types.push_back(type);
   return {types, result};
 }
 

@@ -8,8 +8,8 @@ namespace {
 using namespace tolva::node;
 
 constexpr Dialect kDialect = {};
-constexpr const wchar_t* kColours[] = {L"RED", L"GREEN"};
-constexpr const wchar_t* kRedTwice[] = {L"RED", L"GREEN", L"RED"};
+constexpr Name kColours[] = {L"RED", L"GREEN"};
+constexpr Name kRedTwice[] = {L"RED", L"GREEN", L"RED"};
 
 class CLeaf;
 class ILeaf : public INode {
@@ -86,10 +86,10 @@ constexpr Child kRows[] = {Elem<&CTree::leaf>(L"Leaf")};
 #elif CASE == 18  // a text has neither attributes nor children
 constexpr Attribute kRow[] = {Attr<&CLeaf::number>(L"Name")};
 #define TOLVA_ROWS .attributes = kRow, .content = TextOf<&CLeaf::string>()
-#elif CASE == 19  // the name of an attribute consists of letters and digits
+#elif CASE == 19  // a name consists of letters and digits
 constexpr Attribute kRow[] = {Attr<&CLeaf::number>(L"p:Name")};
 #define TOLVA_ROWS .attributes = kRow
-#elif CASE == 20  // the name of a child consists of letters and digits
+#elif CASE == 20  // a name consists of letters and digits
 constexpr Child kRows[] = {Elem<&CTree::leaf>(L"0")};
 #define TOLVA_ROWS .children = kRows
 #elif CASE == 21  // an element has 32 kinds of children at most

@@ -11,6 +11,7 @@
 #include "rfconf/client_configuration.h"
 #include "support/allocations.h"
 #include "support/nodes.h"
+#include "support/values.h"
 #include "support/writer_faults.h"
 
 namespace tolva::test {

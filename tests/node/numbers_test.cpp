@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/values.h"
+
 namespace tolva::test {
 namespace {
 
@@ -26,36 +28,36 @@ TEST(Numbers, AreDigitsAlone) {
            Reading{L"00000000000000000000000000000000000000000000000005", 5, 5},
        }) {
     DWORD value = 1;
-    EXPECT_TRUE(node::ParseNumber(one.text, Numbers::kSigned, &value));
+    EXPECT_TRUE(node::ParseNumber(ValueOf(one.text), Numbers::kSigned, &value));
     EXPECT_EQ(value, one.as_signed) << one.text;
-    EXPECT_TRUE(node::ParseNumber(one.text, Numbers::kUnsigned, &value));
+    EXPECT_TRUE(node::ParseNumber(ValueOf(one.text), Numbers::kUnsigned, &value));
     EXPECT_EQ(value, one.as_unsigned) << one.text;
   }
   for (const wchar_t* const text : {L"+1", L"-1", L" 1", L"1 ", L"1\t", L"0x1", L"12a", L"1.0",
                                     L"\u0661", L"\uFF11", L"\u00B2"}) {
     DWORD value = 4711;
     std::uint64_t long_value = 4711;
-    EXPECT_FALSE(node::ParseNumber(text, Numbers::kSigned, &value)) << text;
-    EXPECT_FALSE(node::ParseNumber(text, Numbers::kUnsigned, &value)) << text;
-    EXPECT_FALSE(node::ParseLongNumber(text, &long_value)) << text;
+    EXPECT_FALSE(node::ParseNumber(ValueOf(text), Numbers::kSigned, &value)) << text;
+    EXPECT_FALSE(node::ParseNumber(ValueOf(text), Numbers::kUnsigned, &value)) << text;
+    EXPECT_FALSE(node::ParseLongNumber(ValueOf(text), &long_value)) << text;
     EXPECT_EQ(value, 4711U);
   }
   std::uint64_t value = 0;
-  EXPECT_TRUE(node::ParseLongNumber(L"18446744073709551614", &value));
+  EXPECT_TRUE(node::ParseLongNumber(ValueOf(L"18446744073709551614"), &value));
   EXPECT_EQ(value, 18446744073709551614U);
-  EXPECT_TRUE(node::ParseLongNumber(L"18446744073709551616", &value));
+  EXPECT_TRUE(node::ParseLongNumber(ValueOf(L"18446744073709551616"), &value));
   EXPECT_EQ(value, 18446744073709551615U);
 }
 
 TEST(Numbers, AreWrittenWithOrWithoutASign) {
   using node::Numbers;
   node::NumberText text;
-  EXPECT_STREQ(node::FormatNumber(0, Numbers::kSigned, text), L"0");
-  EXPECT_STREQ(node::FormatNumber(2147483647, Numbers::kSigned, text), L"2147483647");
-  EXPECT_STREQ(node::FormatNumber(2147483648, Numbers::kSigned, text), L"-2147483648");
-  EXPECT_STREQ(node::FormatNumber(4294967295, Numbers::kSigned, text), L"-1");
-  EXPECT_STREQ(node::FormatNumber(4294967295, Numbers::kUnsigned, text), L"4294967295");
-  EXPECT_STREQ(node::FormatLongNumber(18446744073709551615U, text), L"18446744073709551615");
+  EXPECT_EQ(node::FormatNumber(0, Numbers::kSigned, text), ValueOf(L"0"));
+  EXPECT_EQ(node::FormatNumber(2147483647, Numbers::kSigned, text), ValueOf(L"2147483647"));
+  EXPECT_EQ(node::FormatNumber(2147483648, Numbers::kSigned, text), ValueOf(L"-2147483648"));
+  EXPECT_EQ(node::FormatNumber(4294967295, Numbers::kSigned, text), ValueOf(L"-1"));
+  EXPECT_EQ(node::FormatNumber(4294967295, Numbers::kUnsigned, text), ValueOf(L"4294967295"));
+  EXPECT_EQ(node::FormatLongNumber(18446744073709551615U, text), ValueOf(L"18446744073709551615"));
 }
 
 }  // namespace

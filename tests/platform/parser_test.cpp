@@ -48,7 +48,7 @@ std::string Value(std::string_view raw, bool plain, ValueKind kind) {
 }
 
 /// A name put together from its parts.
-std::string NameOf(const own_xml::Name& name) {
+std::string NameOf(const own_xml::QName& name) {
   const std::string prefix(name.PrefixText());
   return (prefix.empty() ? "" : prefix + ":") + std::string(name.Local());
 }
@@ -106,7 +106,8 @@ Outcome Parse(StackStream& stream, bool converted = false) {
   Outcome outcome;
   ReadResult result = ReadResult::kNode;
   Steps steps;
-  while (steps.Take() && (result = parser.Read()) == ReadResult::kNode) outcome.nodes += Describe(parser);
+  while (steps.Take() && (result = parser.Read()) == ReadResult::kNode)
+    outcome.nodes += Describe(parser);
   if (result == ReadResult::kFault) outcome.fault = parser.fault();
   for (int again = 0; again < 3; ++again) {
     EXPECT_EQ(parser.Read(), result);
@@ -210,6 +211,7 @@ TEST(Parser, RefusesMalformedTags) {
       {"<a b=c/>", "", WC_E_QUOTE},
       {"<a 1='2'/>", "", NC_E_QNAMECHARACTER},
       {"<a b='<'/>", "", WC_E_LESSTHAN},
+      {"<a b=\"<\"/>", "", WC_E_LESSTHAN},
       {"<a b='1' b='2'/>", "", WC_E_UNIQUEATTRIBUTE},
       {"<x><a b='1' c='2' d='3' e='4' b='5'/></x>", "<x>", WC_E_UNIQUEATTRIBUTE},
   });
@@ -286,6 +288,7 @@ TEST(Parser, JudgesTheDeclaration) {
       {"<?xml encoding='UTF-8'?><a/>", "", WC_E_XMLDECL},
       {"<?xml version='2.0'?><a/>", "", WC_E_XMLDECL},
       {"<?xml version='1.'?><a/>", "", WC_E_XMLDECL},
+      {"<?xml version='1.-'?><a/>", "", WC_E_XMLDECL},
       {"<?xml version='1.0' encoding='_'?><a/>", "", WC_E_XMLDECL},
       {"<?xml version='1.0' standalone='maybe'?><a/>", "", WC_E_XMLDECL},
       {"<?xml version='1.0' standalone='yes' encoding='UTF-8'?><a/>", "", WC_E_XMLDECL},
@@ -581,8 +584,10 @@ TEST(Parser, NeedsMemoryForABlockAndTheCurrentNode) {
   TextStream many(names);
   EXPECT_LT(peak(many), kBound);
 
-  // A large node's memory is given back behind it.
-  const std::string huge = "<x b='" + std::string(std::size_t{8} << 20, 'v') + "'/>";
+  // A large node's memory is released after it.
+  std::string huge = "<x b='" + std::string(std::size_t{8} << 20, 'v') + "'/><x xmlns:p='u'";
+  for (int i = 0; i < 30'000; ++i) huge += " p:a" + std::to_string(i) + "=''";
+  huge += "/>";
   RepeatingStream stream("<a>" + huge, kElement, 200'000, "</a>");
   Parser parser;
   parser.SetInput(&stream, false);

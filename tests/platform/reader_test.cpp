@@ -1,4 +1,4 @@
-// The reader behind XmlLite's interface: cursor, names and values as wide strings.
+// The XML reader of the own layer: nodes, names and values, and attributes by name.
 #include "platform/xml/reader.h"
 
 #include <gtest/gtest.h>
@@ -7,26 +7,27 @@
 #include <string>
 #include <string_view>
 
-#include "platform/com_ptr.h"
-#include "platform/xml/xmllite.h"
 #include "support/allocations.h"
 #include "support/steps.h"
 #include "support/streams.h"
+#include "support/values.h"
 
 namespace tolva::test {
 namespace {
 
+using platform::Name;
+
+struct Row {
+  Name name;
+};
+constexpr Row kRows[] = {{L"a"}, {L"b"}, {L"c"}, {L"ANameThatIsLongerThanOneVector"}};
+const Names kNames(std::span<const Row>(kRows), &Row::name);
+
 class Reader : public testing::Test {
  protected:
-  void SetUp() override {
-    void* made = nullptr;
-    ASSERT_EQ(CreateXmlReader(kIidXmlReader, &made, nullptr), S_OK);
-    reader_.Attach(static_cast<IXmlReader*>(made));
-  }
-
   TextStream& Open(std::string_view document) {
     TextStream& stream = streams_.emplace_back(document);
-    EXPECT_EQ(reader_->SetInput(&stream), S_OK);
+    EXPECT_EQ(reader_.SetInput(&stream), S_OK);
     return stream;
   }
 
@@ -36,69 +37,53 @@ class Reader : public testing::Test {
     Steps steps;
     do {
       ASSERT_TRUE(steps.Take());
-      ASSERT_EQ(reader_->Read(&type), S_OK);
+      ASSERT_EQ(reader_.Read(&type), S_OK);
     } while (type != wanted);
   }
 
-  std::wstring Name() {
-    const wchar_t* name = nullptr;
-    UINT length = 0;
-    EXPECT_EQ(reader_->GetLocalName(&name, &length), S_OK);
-    EXPECT_EQ(std::wstring(name).size(), length);
-    return name;
+  std::wstring LocalName() {
+    XmlReader::Value name;
+    EXPECT_EQ(reader_.GetLocalName(&name), S_OK);
+    return Wide(name);
   }
 
   std::wstring Value() {
-    const wchar_t* value = nullptr;
-    UINT length = 0;
-    EXPECT_EQ(reader_->GetValue(&value, &length), S_OK);
-    EXPECT_EQ(std::wstring(value).size(), length);
-    return value;
+    XmlReader::Value value;
+    EXPECT_EQ(reader_.GetValue(&value), S_OK);
+    return Wide(value);
+  }
+
+  /// The attribute that has the name at this place of `kNames`.
+  std::wstring Attribute(std::size_t index) {
+    XmlReader::Value value;
+    const HRESULT result = reader_.GetAttribute(index, &value);
+    EXPECT_EQ(result, value.data() == nullptr ? S_FALSE : S_OK);
+    return Wide(value);
   }
 
   std::list<TextStream> streams_;
-  ComPtr<IXmlReader> reader_;
+  XmlReader reader_;
 };
 
-TEST_F(Reader, IsMadeForItsOwnInterfaceAlone) {
-  void* made = nullptr;
-  EXPECT_EQ(CreateXmlReader(kIidXmlWriter, &made, nullptr), E_NOINTERFACE);
-  EXPECT_EQ(made, nullptr);
-  EXPECT_EQ(reader_->SetProperty(XmlReaderProperty_DtdProcessing, DtdProcessing_Prohibit), S_OK);
-  EXPECT_EQ(reader_->SetProperty(XmlReaderProperty_DtdProcessing, DtdProcessing_Parse), E_NOTIMPL);
-  EXPECT_EQ(reader_->SetProperty(6, 0), E_NOTIMPL);
-}
-
-TEST_F(Reader, FindsAttributesInAnyOrder) {
+TEST_F(Reader, FindsAttributesByName) {
   Open(
-      "<a><elem xmlns='myns' a='value a' b='value b' xmlns:ns='ns uri' ns:c='value c' "
-      "c='value c2'/></a>");
-  EXPECT_EQ(reader_->MoveToAttributeByName(nullptr, nullptr), E_INVALIDARG);
-  EXPECT_EQ(reader_->MoveToAttributeByName(L"", nullptr), S_FALSE);
+      "<e><e xmlns='myns' ANameThatIsLongerThanOneVector='long' b='value b' xmlns:ns='ns uri' "
+      "ns:a='value a' c='&lt;' ANameThatIsLongerThanOneVectorAndMore='x'/></e>");
   MoveTo(XmlNodeType_Element);
-  EXPECT_EQ(reader_->MoveToAttributeByName(L"", nullptr), S_FALSE);
+  reader_.FindAttributes(kNames);
+  EXPECT_EQ(Attribute(1), kNoValue);
   MoveTo(XmlNodeType_Element);
-  EXPECT_NE(reader_->IsEmptyElement(), FALSE);
-  EXPECT_EQ(reader_->MoveToAttributeByName(L"xmlns", nullptr), S_FALSE);
-  EXPECT_EQ(reader_->MoveToAttributeByName(L"ns", nullptr), S_FALSE);
-  EXPECT_EQ(reader_->MoveToAttributeByName(L"A", nullptr), S_FALSE);
-  EXPECT_EQ(Name(), L"elem");
-  for (const auto& [name, value] : {std::pair{L"a", L"value a"},
-                                    {L"b", L"value b"},
-                                    {L"c", L"value c2"},
-                                    {L"b", L"value b"},
-                                    {L"a", L"value a"}}) {
-    ASSERT_EQ(reader_->MoveToAttributeByName(name, L""), S_OK);
-    EXPECT_EQ(Value(), value);
-    EXPECT_EQ(Name(), name);
-    EXPECT_EQ(reader_->IsDefault(), FALSE);
-    EXPECT_EQ(reader_->IsEmptyElement(), FALSE);
+  EXPECT_TRUE(reader_.IsEmptyElement());
+  reader_.FindAttributes(kNames);
+  for (int again = 0; again < 2; ++again) {
+    EXPECT_EQ(Attribute(0), kNoValue);
+    EXPECT_EQ(Attribute(1), L"value b");
+    EXPECT_EQ(Attribute(2), L"<");
+    EXPECT_EQ(Attribute(3), L"long");
   }
-  // A failed search leaves the cursor where it was; reading on is possible from anywhere.
-  EXPECT_EQ(reader_->MoveToAttributeByName(L"nothing", nullptr), S_FALSE);
-  EXPECT_EQ(Value(), L"value a");
   MoveTo(XmlNodeType_EndElement);
-  EXPECT_EQ(reader_->MoveToAttributeByName(L"a", nullptr), S_FALSE);
+  reader_.FindAttributes(kNames);
+  EXPECT_EQ(Attribute(1), kNoValue);
 }
 
 TEST_F(Reader, GivesNamesAndValues) {
@@ -106,15 +91,13 @@ TEST_F(Reader, GivesNamesAndValues) {
       "<p:\xC3\xA9 xmlns:p='u' \xC3\xA9='\xF0\x9F\x98\x80'>a long run of text &amp; "
       "\xE2\x82\xAC<?target some\r\ndata?><![CDATA[a\rb]]><!-- c --> \r </p:\xC3\xA9>");
   MoveTo(XmlNodeType_Element);
-  EXPECT_EQ(Name(), L"\u00E9");
+  EXPECT_EQ(LocalName(), L"\u00E9");
   EXPECT_EQ(Value(), L"");
-  ASSERT_EQ(reader_->MoveToAttributeByName(L"\u00E9", nullptr), S_OK);
-  EXPECT_EQ(Value(), L"\U0001F600");
   MoveTo(XmlNodeType_Text);
-  EXPECT_EQ(Name(), L"");
+  EXPECT_EQ(LocalName(), L"");
   EXPECT_EQ(Value(), L"a long run of text & \u20AC");
   MoveTo(XmlNodeType_ProcessingInstruction);
-  EXPECT_EQ(Name(), L"target");
+  EXPECT_EQ(LocalName(), L"target");
   EXPECT_EQ(Value(), L"some\ndata");
   MoveTo(XmlNodeType_CDATA);
   EXPECT_EQ(Value(), L"a\nb");
@@ -123,7 +106,7 @@ TEST_F(Reader, GivesNamesAndValues) {
   MoveTo(XmlNodeType_Whitespace);
   EXPECT_EQ(Value(), L" \n ");
   MoveTo(XmlNodeType_EndElement);
-  EXPECT_EQ(Name(), L"\u00E9");
+  EXPECT_EQ(LocalName(), L"\u00E9");
 }
 
 TEST_F(Reader, StartsAfreshOnANewInput) {
@@ -131,17 +114,17 @@ TEST_F(Reader, StartsAfreshOnANewInput) {
   MoveTo(XmlNodeType_Element);
   MoveTo(XmlNodeType_Element);
   XmlNodeType type = XmlNodeType_None;
-  EXPECT_EQ(reader_->Read(&type), WC_E_ELEMENTMATCH);
+  EXPECT_EQ(reader_.Read(&type), WC_E_ELEMENTMATCH);
   EXPECT_EQ(type, XmlNodeType_None);
-  EXPECT_EQ(Name(), L"");
+  EXPECT_EQ(LocalName(), L"");
   const TextStream& second = Open("<d/>");
   EXPECT_EQ(first.references, 1U);
   MoveTo(XmlNodeType_Element);
-  EXPECT_EQ(Name(), L"d");
-  EXPECT_EQ(reader_->Read(&type), S_FALSE);
-  EXPECT_EQ(reader_->SetInput(nullptr), S_OK);
+  EXPECT_EQ(LocalName(), L"d");
+  EXPECT_EQ(reader_.Read(&type), S_FALSE);
+  EXPECT_EQ(reader_.SetInput(nullptr), S_OK);
   EXPECT_EQ(second.references, 1U);
-  EXPECT_TRUE(FAILED(reader_->Read(&type)));
+  EXPECT_TRUE(FAILED(reader_.Read(&type)));
 }
 
 #if !defined(_WIN32)
@@ -152,29 +135,29 @@ TEST_F(Reader, SurvivesARunOutOfMemory) {
   document += "/></a>";
   for (std::size_t n = 0;; ++n) {
     TextStream stream(document, 1000);
-    ASSERT_EQ(reader_->SetInput(&stream), S_OK);
+    ASSERT_EQ(reader_.SetInput(&stream), S_OK);
     bool failed = false;
     try {
       const FailingAllocations failing(n, n % 2 == 1);
       XmlNodeType type = XmlNodeType_None;
       Steps steps;
-      while (steps.Take() && reader_->Read(&type) == S_OK) {
+      while (steps.Take() && reader_.Read(&type) == S_OK) {
         Value();
-        if (reader_->MoveToAttributeByName(L"b", nullptr) == S_OK) Value();
+        reader_.FindAttributes(kNames);
+        Attribute(1);
       }
     } catch (const std::bad_alloc&) {
       failed = true;
     }
     // Whatever the cursor was doing, it can be asked and started again.
-    Name();
+    LocalName();
     Value();
-    if (reader_->MoveToAttributeByName(L"a1", nullptr) == S_OK) {
-      EXPECT_EQ(Value(), L"A");
-    }
+    reader_.FindAttributes(kNames);
+    Attribute(1);
     XmlNodeType type = XmlNodeType_None;
     Steps steps;
-    while (steps.Take() && reader_->Read(&type) == S_OK) Value();
-    ASSERT_EQ(reader_->SetInput(nullptr), S_OK);
+    while (steps.Take() && reader_.Read(&type) == S_OK) Value();
+    ASSERT_EQ(reader_.SetInput(nullptr), S_OK);
     if (!failed) break;
     ASSERT_LT(n, 1000U);
   }
@@ -200,14 +183,15 @@ TEST_F(Reader, GivesMemoryBack) {
   const std::size_t held = CountAllocations().bytes;
   for (const std::string& document : documents) {
     TextStream stream(document);
-    ASSERT_EQ(reader_->SetInput(&stream), S_OK);
+    ASSERT_EQ(reader_.SetInput(&stream), S_OK);
     XmlNodeType type = XmlNodeType_None;
     Steps steps;
-    while (steps.Take() && reader_->Read(&type) == S_OK) {
-      reader_->MoveToAttributeByName(L"b", nullptr);
+    while (steps.Take() && reader_.Read(&type) == S_OK) {
       Value();
+      reader_.FindAttributes(kNames);
+      Attribute(1);
     }
-    ASSERT_EQ(reader_->SetInput(nullptr), S_OK);
+    ASSERT_EQ(reader_.SetInput(nullptr), S_OK);
     EXPECT_LT(CountAllocations().bytes - held, 4U * 256 * 1024) << document.substr(0, 10);
   }
 }

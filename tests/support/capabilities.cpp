@@ -47,27 +47,20 @@ class TruncatedStream final : public StackStream {
 
 bool ProbeTruncatedInput() {
   TruncatedStream stream;  // outlives the reader
-  ComPtr<IXmlReader> reader;
-  void* made = nullptr;
-  if (FAILED(CreateXmlReader(kIidXmlReader, &made, nullptr))) return false;
-  reader.Attach(static_cast<IXmlReader*>(made));
-  if (FAILED(reader->SetInput(&stream))) return false;
+  XmlReader reader;
+  if (FAILED(reader.Create()) || FAILED(reader.SetInput(&stream))) return false;
   XmlNodeType type = XmlNodeType_None;
   Steps steps;
-  while (steps.Take() && reader->Read(&type) == S_OK) {
+  while (steps.Take() && reader.Read(&type) == S_OK) {
   }
   return !stream.has_run_out();
 }
 
 bool ProbeSecondRoot() {
   SinkStream sink;  // outlives the writer
-  ComPtr<IXmlWriter> writer;
-  void* made = nullptr;
-  if (FAILED(CreateXmlWriter(kIidXmlWriter, &made, nullptr))) return false;
-  writer.Attach(static_cast<IXmlWriter*>(made));
-  return SUCCEEDED(writer->SetOutput(&sink)) &&
-         SUCCEEDED(writer->WriteElementString(nullptr, L"a", nullptr, L"")) &&
-         FAILED(writer->WriteElementString(nullptr, L"b", nullptr, L""));
+  XmlWriter writer;
+  return SUCCEEDED(writer.Create()) && SUCCEEDED(writer.SetOutput(&sink)) &&
+         SUCCEEDED(writer.WriteEmptyElement(L"a")) && FAILED(writer.WriteEmptyElement(L"b"));
 }
 
 #endif

@@ -12,8 +12,6 @@ namespace {
 
 using namespace node;
 
-std::string Narrow(std::wstring_view text) { return {text.begin(), text.end()}; }
-
 void AddDepartures(const std::string& name, const Schema& table, std::set<std::string>& found) {
   const auto add = [&](bool departs, const std::string& what) {
     if (departs) found.insert(name + what);
@@ -23,17 +21,18 @@ void AddDepartures(const std::string& name, const Schema& table, std::set<std::s
   add(table.content.is_always_written, ": is always written");
   add(table.content.stops_at_first_end_tag, ": stops at the first end tag");
   for (const Attribute& row : table.attributes) {
-    const std::string attribute = "/" + Narrow(row.name);
+    const std::string attribute = "/" + std::string(row.name.narrow());
     add(row.may_be_absent, attribute + ": may be absent");
     add(row.is_one_when_absent, attribute + ": is 1 when absent");
     add(row.ignores_write_failure, attribute + ": ignores a failed write");
     add(row.is_present_when_clear, attribute + ": is present when clear");
     add(row.keeps_value, attribute + ": keeps its value");
     add(row.keeps_presence, attribute + ": keeps its presence");
-    add(*row.enum_texts.otherwise != 0, attribute + ": else " + Narrow(row.enum_texts.otherwise));
+    add(row.enum_texts.otherwise.size() != 0,
+        attribute + ": else " + std::string(row.enum_texts.otherwise.narrow()));
   }
   for (const Child& row : table.children) {
-    const std::string child = "/" + Narrow(row.name);
+    const std::string child = "/" + std::string(row.name().narrow());
     add(row.may_be_absent, child + ": may be absent");
     add(row.is_reported_first, child + ": is reported first");
     add(row.keeps_presence, child + ": keeps its presence");

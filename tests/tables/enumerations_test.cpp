@@ -83,9 +83,9 @@ TEST(Enumerations, HaveAConstantForEachTextOfTheirAttributes) {
       const std::string attribute = element.name + (" " + std::string(name.begin(), name.end()));
       const auto found = kEnumerations.find(attribute);
       ASSERT_NE(found, kEnumerations.end()) << attribute << " has no enumeration";
-      const auto texts = row.enum_texts.texts;
-      EXPECT_EQ(TextsOf(found->second), std::vector<std::wstring>(texts.begin(), texts.end()))
-          << attribute;
+      std::vector<std::wstring> texts;
+      for (const node::Name& text : row.enum_texts.texts) texts.emplace_back(text.c_str());
+      EXPECT_EQ(TextsOf(found->second), texts) << attribute;
       attributes.insert(attribute);
       enumerations.insert(found->second);
     }

@@ -40,10 +40,10 @@ class EveryElement : public testing::TestWithParam<Element> {
     std::vector<Attribute> attributes;
     std::vector<Child> children;
     for (const Attribute& row : Table().attributes) {
-      if (IsNamed(row.name, name)) attributes.push_back(row);
+      if (IsNamed(row.name.c_str(), name)) attributes.push_back(row);
     }
     for (const Child& row : Table().children) {
-      if (IsNamed(row.name, name)) children.push_back(row);
+      if (IsNamed(row.name().c_str(), name)) children.push_back(row);
     }
     const Schema one = {
         .element = L"", .dialect = Table().dialect, .attributes = attributes, .children = children};
@@ -147,13 +147,15 @@ NullResult ExpectedOfNull(const Element& element, const std::wstring& name) {
   };
   if (name == L"ActiveDirectory") return {};
   for (const Attribute& row : table.attributes) {
-    if (IsNamed(row.name, name)) return row.is_optional ? NullResult{true} : required(row.name);
+    if (IsNamed(row.name.c_str(), name)) {
+      return row.is_optional ? NullResult{true} : required(row.name.c_str());
+    }
   }
   for (const Child& row : table.children) {
-    if (!IsNamed(row.name, name)) continue;
+    if (!IsNamed(row.name().c_str(), name)) continue;
     if (row.occurrence == Occurrence::kOptional) return {true};
     if (row.may_be_absent) return {true, -101};  // silent
-    return {true, -101, {std::wstring(kSetElement) + L" element:" + row.name}};
+    return {true, -101, {std::wstring(kSetElement) + L" element:" + row.name().c_str()}};
   }
   if (table.content.locate != nullptr) {
     return table.content.is_optional ? NullResult{true} : required(L"Content");
@@ -184,7 +186,7 @@ TEST_P(EveryElement, HasAccessorsForEverything) {
     RandomContent(seed).Fill(Table(), *from);
     for (const Child& row : Table().children) {
       // Absent, it cannot be told of by the accessors that some parents have.
-      if (row.name == std::wstring_view(L"ActiveDirectory")) *row.locate(*from).present = 1;
+      if (row.name() == std::wstring_view(L"ActiveDirectory")) *row.locate(*from).present = 1;
     }
     for (const ValueAccessors& accessors : GetParam().values) {
       SCOPED_TRACE(testing::PrintToString(accessors.name));

@@ -17,9 +17,9 @@ void Require(bool holds, const char* reason, const std::wstring& name) {
   if (!holds) throw std::runtime_error(reason + (": " + std::string(name.begin(), name.end())));
 }
 
-std::wstring NameOf(const node::Schema& table) { return table.element; }
-std::wstring NameOf(const node::Attribute& row) { return row.name; }
-std::wstring NameOf(const node::Child& row) { return row.name; }
+std::wstring NameOf(const node::Schema& table) { return table.element.c_str(); }
+std::wstring NameOf(const node::Attribute& row) { return row.name.c_str(); }
+std::wstring NameOf(const node::Child& row) { return row.name().c_str(); }
 
 /// The row of that name; null: there is none.
 template <class Row>

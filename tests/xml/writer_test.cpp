@@ -12,6 +12,7 @@
 #include "support/capabilities.h"
 #include "support/files.h"
 #include "support/managers.h"
+#include "support/values.h"
 #include "support/writer_faults.h"
 #include "xml/reader.h"
 
@@ -20,6 +21,7 @@ namespace {
 
 using namespace platform;
 using xml::CXMLLiteManagerWriter;
+using End = CXMLLiteManagerWriter::End;
 
 constexpr DWORD kUntouched = 4711;
 constexpr DWORD kFault = WriterFault::kCode;
@@ -55,15 +57,14 @@ TEST_F(ManagerWriter, WritesAFile) {
   EXPECT_EQ(writer_.StartElement(L"Leaf"), 0);
   EXPECT_EQ(writer_.WriteAttribute(L"a", L"1"), 0);
   EXPECT_EQ(writer_.WriteAttribute(L"b", L""), 0);
-  EXPECT_EQ(writer_.EndElement(nullptr), 0);
+  EXPECT_EQ(writer_.EndElement(End::kEmptyTag), 0);
   EXPECT_EQ(writer_.StartElement(L"Box"), 0);
-  EXPECT_EQ(writer_.EndElement(L""), 0);
-  EXPECT_EQ(writer_.StartElement(L"Text"), 0);
-  EXPECT_EQ(writer_.EndElement(L"\u00E9t\u00E9"), 0);
-  EXPECT_EQ(writer_.WriteElementString(L"Full", L"text"), 0);
-  EXPECT_EQ(writer_.WriteElementString(L"Empty", L""), 0);
-  EXPECT_EQ(writer_.WriteElementString(L"None", nullptr), 0);
-  EXPECT_EQ(writer_.EndElement(L""), 0);
+  EXPECT_EQ(writer_.EndElement(End::kEndTag), 0);
+  EXPECT_EQ(writer_.WriteElement(L"Text", L"\u00E9t\u00E9"), 0);
+  EXPECT_EQ(writer_.WriteElement(L"Full", L"text"), 0);
+  EXPECT_EQ(writer_.WriteElement(L"Empty", L""), 0);
+  EXPECT_EQ(writer_.WriteEmptyElement(L"None"), 0);
+  EXPECT_EQ(writer_.EndElement(End::kEndTag), 0);
   EXPECT_EQ(writer_.Close(), 0);
   const std::string expected[] = {"<?xml version=\"1.0\" encoding=\"UTF-8\"?>",
                                   "<Root>",
@@ -92,8 +93,8 @@ TEST_F(ManagerWriter, RefusesWhatCannotBeWritten) {
   const std::function<ConfigResult()> early_calls[] = {
       [this] { return writer_.StartElement(L"early"); },
       [this] { return writer_.WriteAttribute(L"early", L"\x1"); },
-      [this] { return writer_.EndElement(L"early"); },
-      [this] { return writer_.WriteElementString(L"early", L"x"); },
+      [this] { return writer_.EndElement(End::kEndTag); },
+      [this] { return writer_.WriteElement(L"early", L"x"); },
   };
   for (const auto& call : early_calls) {
     tolvaSetLastError(kUntouched);
@@ -104,13 +105,6 @@ TEST_F(ManagerWriter, RefusesWhatCannotBeWritten) {
   Open();
   ASSERT_EQ(writer_.StartElement(L"a"), 0);
   tolvaSetLastError(kUntouched);
-  for (const wchar_t* const name : {static_cast<const wchar_t*>(nullptr), L""}) {
-    EXPECT_EQ(writer_.StartElement(name), -102);
-    EXPECT_EQ(writer_.WriteAttribute(name, L"x"), -102);
-    EXPECT_EQ(writer_.WriteElementString(name, L"x"), -102);
-  }
-  EXPECT_EQ(tolvaGetLastError(), kUntouched);
-
   struct Case {
     std::wstring text;
     DWORD error;
@@ -121,14 +115,13 @@ TEST_F(ManagerWriter, RefusesWhatCannotBeWritten) {
     tolvaSetLastError(0);
     EXPECT_EQ(writer_.WriteAttribute(L"bad", one.text), -101);
     EXPECT_EQ(tolvaGetLastError(), one.error);
-    EXPECT_EQ(writer_.WriteElementString(L"bad", one.text), -101);
-    EXPECT_EQ(writer_.EndElement(one.text), -101);
+    EXPECT_EQ(writer_.WriteElement(L"bad", one.text), -101);
     EXPECT_EQ(tolvaGetLastError(), one.error);
   }
   // The writer is none the worse for it.
   EXPECT_EQ(writer_.WriteAttribute(L"good", L"x"), 0);
-  EXPECT_EQ(writer_.EndElement(nullptr), 0);
-  EXPECT_EQ(writer_.EndElement(nullptr), -101);  // nothing is open
+  EXPECT_EQ(writer_.EndElement(End::kEmptyTag), 0);
+  EXPECT_EQ(writer_.EndElement(End::kEmptyTag), -101);  // nothing is open
   EXPECT_EQ(tolvaGetLastError(), 0xC00CEF0BU);
   EXPECT_FALSE(Holds("bad"));
 }
@@ -199,10 +192,11 @@ TEST_F(ManagerWriter, RemembersThatSomethingIsLost) {
   const Case cases[] = {
       {[this] { return writer_.WriteAttribute(L"lost", L"x"); }, -101, 0},
       {[this] { return writer_.StartElement(L"lost"); }, -101, 0},
-      {[this] { return writer_.WriteElementString(L"lost", L"x"); }, -101, 0},
-      {[this] { return writer_.EndElement(L"lost"); }, -101, 0},
-      {[this] { return writer_.EndElement(nullptr); }, -101, 0},
-      {[this] { return writer_.EndElement(nullptr); }, 0, 1},  // the line feed: not the element's
+      {[this] { return writer_.WriteElement(L"lost", L"x"); }, -101, 0},
+      {[this] { return writer_.EndElement(End::kEndTag); }, -101, 0},
+      {[this] { return writer_.EndElement(End::kEmptyTag); }, -101, 0},
+      {[this] { return writer_.EndElement(End::kEmptyTag); }, 0,
+       1},  // the line feed: not the element's
   };
   for (const Case& one : cases) {
     Open();
@@ -213,9 +207,9 @@ TEST_F(ManagerWriter, RemembersThatSomethingIsLost) {
       EXPECT_EQ(one.call(), one.result);
       EXPECT_EQ(tolvaGetLastError(), kFault);
     }
-    ASSERT_EQ(writer_.WriteElementString(L"good", L"x"), 0);
+    ASSERT_EQ(writer_.WriteElement(L"good", L"x"), 0);
     // It is the first failure that is told, and one of what was written is none.
-    EXPECT_EQ(writer_.WriteAttribute(L"bad", L"\x1"), -101);
+    EXPECT_EQ(writer_.WriteElement(L"bad", L"\x1"), -101);
     EXPECT_EQ(writer_.Close(), -101);
     EXPECT_EQ(tolvaGetLastError(), kFault);
     EXPECT_EQ(writer_.Close(), 0);
@@ -231,7 +225,7 @@ TEST_F(ManagerWriter, RemembersThatSomethingIsLost) {
 TEST_F(ManagerWriter, RefusesASecondRootAndKeepsTheFirst) {
   TOLVA_REQUIRE(WriterRefusesASecondRoot);
   Open();
-  ASSERT_EQ(writer_.WriteElementString(L"first", L"good"), 0);
+  ASSERT_EQ(writer_.WriteElement(L"first", L"good"), 0);
   EXPECT_EQ(writer_.StartElement(L"second"), -101);
   EXPECT_EQ(tolvaGetLastError(), 0xC00CEF0BU);
   for (int again = 0; again < 2; ++again) {
@@ -343,18 +337,25 @@ TEST_F(ManagerWriter, WritesWhatTheReaderReadsBack) {
   for (const std::wstring& value : values) {
     ASSERT_EQ(writer_.StartElement(L"one"), 0);
     ASSERT_EQ(writer_.WriteAttribute(L"v", value), 0);
-    ASSERT_EQ(writer_.EndElement(value), 0);
+    ASSERT_EQ(writer_.WriteElement(L"text", value), 0);
+    ASSERT_EQ(writer_.EndElement(End::kEndTag), 0);
   }
   ASSERT_EQ(writer_.Close(), 0);
+  struct Row {
+    Name name;
+  };
+  static constexpr Row kRows[] = {{L"v"}};
+  const Names names(std::span<const Row>(kRows), &Row::name);
   xml::CXMLLiteManagerReader reader;
   ASSERT_EQ(reader.OpenFile(file_.Wide().c_str()), 0);
   for (const std::wstring& value : values) {
     ASSERT_EQ(reader.NextNode(), 1);
-    EXPECT_EQ(std::wstring(reader.GetAttribute(L"v")), value);
-    const wchar_t* const text = reader.GetText();
-    ASSERT_NE(text, nullptr);
-    EXPECT_EQ(std::wstring(text), value);
+    reader.FindAttributes(names);
+    EXPECT_EQ(Wide(reader.GetAttribute(0)), value);
+    ASSERT_EQ(reader.NextNode(), 1);
+    EXPECT_EQ(Wide(reader.GetText()), value);
     reader.FinishElement();
+    reader.NextNode();
   }
 }
 

@@ -1,0 +1,112 @@
+// The Windows interfaces of platform/posix: error codes, streams, text.
+#include "platform/posix/system.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <string>
+
+#include "platform/com_ptr.h"
+#include "platform/utf.h"
+#include "support/files.h"
+#include "support/system_faults.h"
+
+namespace tolva::test {
+namespace {
+
+using namespace platform;
+
+HRESULT Open(const std::wstring& path, DWORD mode = STGM_READ) {
+  ComPtr<IStream> stream;
+  return SHCreateStreamOnFileW(path.c_str(), mode, stream.Receive());
+}
+
+TEST(Posix, OpensFilesWithTheErrorsOfWindows) {
+  const TempFile file("x");
+  const TempFile loop;
+  std::filesystem::create_symlink(loop.path(), loop.path());
+  EXPECT_EQ(Open(L"no-such-file"), HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND));
+  EXPECT_EQ(Open(L"/no-such-file"), HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND));
+  EXPECT_EQ(Open(file.Wide() + L"/x"), HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND));
+  EXPECT_EQ(Open(loop.Wide()), HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND));
+  EXPECT_EQ(Open(std::wstring(300, 'n')), HRESULT_FROM_WIN32(ERROR_FILENAME_EXCED_RANGE));
+
+  rlimit limit{};
+  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &limit), 0);
+  const rlimit none{0, limit.rlim_max};
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+  const HRESULT without_descriptors = Open(file.Wide());
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &limit), 0);
+  EXPECT_EQ(without_descriptors, HRESULT_FROM_WIN32(ERROR_TOO_MANY_OPEN_FILES));
+}
+
+TEST(Posix, RefusesWhatIsNoFile) {
+  const TempFile pipe;
+  ASSERT_EQ(mkfifo(pipe.path().c_str(), 0600), 0);
+  EXPECT_EQ(Open(L"/dev/null"), HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
+  EXPECT_EQ(Open(L"/dev/null", STGM_CREATE | STGM_WRITE), S_OK);
+  EXPECT_EQ(Open(pipe.Wide()), HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
+  const int reader = open(pipe.path().c_str(), O_RDONLY | O_NONBLOCK);
+  EXPECT_EQ(Open(pipe.Wide(), STGM_CREATE | STGM_WRITE), HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
+  close(reader);
+}
+
+TEST(Posix, ReportsWhatAStreamMeets) {
+  char bytes[4];
+  ULONG count = 1;
+  ComPtr<IStream> stream;
+  // The memory of a process is a file whose first page cannot be read.
+  ASSERT_EQ(SHCreateStreamOnFileW(L"/proc/self/mem", STGM_READ, stream.Receive()), S_OK);
+  EXPECT_EQ(stream->Read(bytes, sizeof bytes, &count), HRESULT_FROM_WIN32(ERROR_IO_DEVICE));
+  EXPECT_EQ(count, 0U);
+
+  const TempFile file;
+  const DWORD mode = STGM_CREATE | STGM_WRITE;
+  ASSERT_EQ(SHCreateStreamOnFileW(file.Wide().c_str(), mode, stream.Receive()), S_OK);
+  const SystemFault interrupted(SystemCall::kClose, 0, EINTR);
+  EXPECT_EQ(stream->Commit(STGC_DEFAULT), S_OK);
+}
+
+TEST(Posix, ReadsAMemoryStreamInPieces) {
+  ComPtr<IStream> stream;
+  stream.Attach(SHCreateMemStream(reinterpret_cast<const BYTE*>("0123456789"), 10));
+  std::string text;
+  char bytes[4];
+  ULONG count = 0;
+  for (const HRESULT expected : {S_OK, S_OK, S_FALSE, S_FALSE}) {
+    EXPECT_EQ(stream->Read(bytes, sizeof bytes, &count), expected);
+    text.append(bytes, count);
+  }
+  EXPECT_EQ(text, "0123456789");
+}
+
+TEST(Posix, ConvertsTextThatFits) {
+  const std::wstring wide = L"a\u00E9\U0001F600\xD83D\xDE00\xD800" + std::wstring(1, 0x110000);
+  const std::string utf8 = "a\xC3\xA9\xF0\x9F\x98\x80\xF0\x9F\x98\x80\xEF\xBF\xBD\xEF\xBF\xBD";
+  const auto convert = [&wide](char* buffer, int capacity) {
+    return WideCharToMultiByte(CP_UTF8, 0, wide.data(), static_cast<int>(wide.size()), buffer,
+                               capacity, nullptr, nullptr);
+  };
+  const auto size = static_cast<int>(utf8.size());
+  EXPECT_EQ(convert(nullptr, 0), size);
+  for (int capacity = 0; capacity < size; ++capacity) {
+    std::string buffer(utf8.size(), 'x');
+    EXPECT_EQ(convert(buffer.data(), capacity), 0);
+    EXPECT_EQ(buffer.find_last_not_of('x') + 1, buffer.find('x')) << "written past the end";
+    EXPECT_LE(buffer.find('x'), static_cast<std::size_t>(capacity));
+  }
+  std::string buffer(utf8.size(), 'x');
+  EXPECT_EQ(convert(buffer.data(), size), size);
+  EXPECT_EQ(buffer, utf8);
+  std::string appended;
+  AppendUtf8(wide, appended);
+  EXPECT_EQ(appended, utf8);
+}
+
+}  // namespace
+}  // namespace tolva::test
