@@ -133,7 +133,7 @@ void WalkGigabyte() {
   {
     platform::ComPtr<platform::IStream> stream;
     const std::wstring path = file.path().wstring();
-    platform::SHCreateStreamOnFileW(path.c_str(), platform::STGM_READ, stream.Receive());
+    platform::OpenToRead(path.c_str(), stream.Receive());
     if (!stream) file.Fail("not opened");
     platform::own_xml::Parser parser;
     parser.SetInput(stream.Get(), false);

@@ -97,8 +97,7 @@ void WalkTolva(benchmark::State& state) {
 
 void WalkTolvaFile(benchmark::State& state) {
   Walk(state, [](const Document& document, platform::ComPtr<platform::IStream>& stream) {
-    platform::SHCreateStreamOnFileW(document.path.wstring().c_str(), platform::STGM_READ,
-                                    stream.Receive());
+    platform::OpenToRead(document.path.wstring().c_str(), stream.Receive());
   });
 }
 

@@ -11,6 +11,7 @@
 #pragma once
 
 #include "platform/com_ptr.h"
+#include "platform/open_to_read.h"
 #include "platform/system.h"
 
 #if defined(TOLVA_OWN_XML_LAYER)

@@ -11,11 +11,8 @@
 
 #include "platform/utf.h"
 
-namespace tolva::platform {
-namespace posix {
+namespace tolva::platform::posix {
 namespace {
-
-int Descriptor(HANDLE file) { return static_cast<int>(reinterpret_cast<LONG_PTR>(file)); }
 
 bool IsDirectory(const std::string& path) {
   struct stat about {};
@@ -61,7 +58,7 @@ DWORD ErrorOf(int error_number) noexcept {
   }
 }
 
-int Open(const wchar_t* path, int flags, DWORD* error) noexcept try {
+int Open(const wchar_t* path, int flags, struct stat* about, DWORD* error) noexcept try {
   std::string name;
   AppendUtf8(path, name);
   // O_NONBLOCK: the opening of a named pipe must not wait for the process at its other end.
@@ -70,8 +67,7 @@ int Open(const wchar_t* path, int flags, DWORD* error) noexcept try {
     *error = errno == ENOENT ? ErrorOfMissing(name) : ErrorOf(errno);
     return -1;
   }
-  struct stat about {};
-  if (fstat(file, &about) != 0 || S_ISDIR(about.st_mode)) {
+  if (fstat(file, about) != 0 || S_ISDIR(about->st_mode)) {
     close(file);
     *error = ERROR_ACCESS_DENIED;
     return -1;
@@ -82,29 +78,4 @@ int Open(const wchar_t* path, int flags, DWORD* error) noexcept try {
   return -1;
 }
 
-}  // namespace posix
-
-HANDLE CreateFileW(const wchar_t* path, DWORD /*access*/, DWORD /*share_mode*/, void* /*security*/,
-                   DWORD /*disposition*/, DWORD /*flags*/, HANDLE /*template_file*/) noexcept {
-  DWORD error = 0;
-  const int file = posix::Open(path, O_RDONLY, &error);
-  if (file < 0) {
-    SetLastError(error);
-    return INVALID_HANDLE_VALUE;
-  }
-  return reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(file));
-}
-
-DWORD GetFileSize(HANDLE file, DWORD* size_high) noexcept {
-  struct stat about {};
-  if (fstat(posix::Descriptor(file), &about) != 0) about.st_size = 0;
-  const auto size = static_cast<std::uint64_t>(about.st_size);
-  if (size_high != nullptr) *size_high = static_cast<DWORD>(size >> 32);
-  return static_cast<DWORD>(size);
-}
-
-BOOL CloseHandle(HANDLE file) noexcept {
-  return close(posix::Descriptor(file)) == 0 ? TRUE : FALSE;
-}
-
-}  // namespace tolva::platform
+}  // namespace tolva::platform::posix

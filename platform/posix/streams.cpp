@@ -9,8 +9,8 @@
 #include <new>
 #include <utility>
 
+#include "platform/open_to_read.h"
 #include "platform/posix/file.h"
-#include "platform/posix/system.h"
 #include "platform/ref_counted.h"
 
 namespace tolva::platform {
@@ -87,33 +87,49 @@ class MemoryStream final : public RefCounted<IStream> {
   UINT position_ = 0;
 };
 
-/// Only regular files can be read. Devices such as /dev/null can be written as well, but not pipes:
-/// the process that reads from a pipe may end.
-bool IsAcceptable(int file, bool for_writing) {
-  struct stat about {};
-  if (fstat(file, &about) != 0) return false;
-  return S_ISREG(about.st_mode) || (for_writing && S_ISCHR(about.st_mode));
+/// Makes a stream of an open file, or closes it.
+HRESULT MakeStream(int file, IStream** stream) {
+  *stream = new (std::nothrow) FileStream(file);
+  if (*stream != nullptr) return S_OK;
+  close(file);
+  return E_OUTOFMEMORY;
 }
 
 }  // namespace
 
-HRESULT SHCreateStreamOnFileW(const wchar_t* path, DWORD mode, IStream** stream) noexcept {
+bool OpenToRead(const wchar_t* path, IStream** stream) noexcept {
   *stream = nullptr;
-  const bool for_writing = (mode & STGM_WRITE) != 0;
+  struct stat about {};
   DWORD error = 0;
-  const int file = posix::Open(path, for_writing ? O_WRONLY | O_CREAT | O_TRUNC : O_RDONLY, &error);
+  const int file = posix::Open(path, O_RDONLY, &about, &error);
+  if (file < 0) {
+    SetLastError(error);
+    return false;
+  }
+  // Pipes and devices have no size.
+  if (static_cast<DWORD>(about.st_size) == 0) {
+    close(file);
+    return false;
+  }
+  const HRESULT result = MakeStream(file, stream);
+  if (FAILED(result)) SetLastError(static_cast<DWORD>(result));
+  return SUCCEEDED(result);
+}
+
+HRESULT SHCreateStreamOnFileW(const wchar_t* path, DWORD /*mode*/, IStream** stream) noexcept {
+  *stream = nullptr;
+  struct stat about {};
+  DWORD error = 0;
+  const int file = posix::Open(path, O_WRONLY | O_CREAT | O_TRUNC, &about, &error);
   if (file < 0) return HRESULT_FROM_WIN32(error);
-  if (!IsAcceptable(file, for_writing)) {
+  // Devices such as /dev/null can be written, but not pipes: the process that reads from a pipe may
+  // end.
+  if (!S_ISREG(about.st_mode) && !S_ISCHR(about.st_mode)) {
     close(file);
     return HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED);
   }
-  fcntl(file, F_SETFL, fcntl(file, F_GETFL) & ~O_NONBLOCK);
-  *stream = new (std::nothrow) FileStream(file);
-  if (*stream == nullptr) {
-    close(file);
-    return E_OUTOFMEMORY;
-  }
-  return S_OK;
+  if (S_ISCHR(about.st_mode)) fcntl(file, F_SETFL, fcntl(file, F_GETFL) & ~O_NONBLOCK);
+  return MakeStream(file, stream);
 }
 
 IStream* SHCreateMemStream(const BYTE* bytes, UINT size) noexcept {

@@ -17,9 +17,7 @@ using BOOL = int;
 using BYTE = unsigned char;
 using UINT = std::uint32_t;
 using ULONG = std::uint32_t;
-using LONG_PTR = std::intptr_t;
 using HRESULT = std::int32_t;
-using HANDLE = void*;
 
 inline constexpr BOOL FALSE = 0;
 inline constexpr BOOL TRUE = 1;
@@ -89,36 +87,15 @@ class IStream : public ISequentialStream {
   virtual HRESULT Commit(DWORD flags) noexcept = 0;
 };
 
-inline constexpr DWORD STGM_READ = 0;
 inline constexpr DWORD STGM_WRITE = 1;
 inline constexpr DWORD STGM_CREATE = 0x1000;
 
-/// Opens a file as a stream. `mode` is STGM_READ, or STGM_CREATE | STGM_WRITE to create or truncate
-/// it. To read a directory or anything else that is not a regular file fails with
-/// ERROR_ACCESS_DENIED.
+/// Creates or truncates a file and opens it for writing, whatever `mode` is. Anything that is
+/// neither a regular file nor a character device fails with ERROR_ACCESS_DENIED.
 HRESULT SHCreateStreamOnFileW(const wchar_t* path, DWORD mode, IStream** stream) noexcept;
 
 /// Returns a stream over a copy of `size` bytes, or null if there is not enough memory.
 IStream* SHCreateMemStream(const BYTE* bytes, UINT size) noexcept;
-
-// ---- files -------------------------------------------------------------------------------------
-
-inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1));
-inline constexpr DWORD GENERIC_READ = 0x80000000;
-inline constexpr DWORD OPEN_EXISTING = 3;
-inline constexpr DWORD FILE_ATTRIBUTE_NORMAL = 0x80;
-inline constexpr DWORD FILE_FLAG_OVERLAPPED = 0x40000000;
-
-/// Opens an existing file for reading: the library uses nothing else. The share mode has no effect,
-/// so a file that another process has open can be opened.
-HANDLE CreateFileW(const wchar_t* path, DWORD access, DWORD share_mode, void* security,
-                   DWORD disposition, DWORD flags, HANDLE template_file) noexcept;
-
-/// Returns the low 32 bits of the file's size, and sets `*size_high`, which may be null, to the
-/// high ones.
-DWORD GetFileSize(HANDLE file, DWORD* size_high) noexcept;
-
-BOOL CloseHandle(HANDLE file) noexcept;
 
 // ---- text --------------------------------------------------------------------------------------
 

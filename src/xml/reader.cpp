@@ -25,19 +25,7 @@ ConfigResult CXMLLiteManagerReader::OpenFile(const wchar_t* path) {
   if (!is_usable_) return kFailed;
   if (path == nullptr) return kInvalidArgument;
   Close();
-
-  const HANDLE file = CreateFileW(path, GENERIC_READ, 0, nullptr, OPEN_EXISTING,
-                                  FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OVERLAPPED, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return kFailed;
-  const DWORD size_low = GetFileSize(file, nullptr);
-  CloseHandle(file);
-  if (size_low == 0) return kFailed;
-
-  const HRESULT opened = SHCreateStreamOnFileW(path, STGM_READ, stream_.Receive());
-  if (FAILED(opened)) {
-    SetLastResult(opened);
-    return kFailed;
-  }
+  if (!OpenToRead(path, stream_.Receive())) return kFailed;
   return MoveToRoot(reader_.SetInput(stream_.Get()));
 }
 

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "platform/com_ptr.h"
+#include "platform/open_to_read.h"
 #include "platform/utf.h"
 #include "support/files.h"
 #include "support/system_faults.h"
@@ -21,38 +22,50 @@ namespace {
 
 using namespace platform;
 
-HRESULT Open(const std::wstring& path, DWORD mode = STGM_READ) {
+constexpr DWORD kUntouched = 4711;
+
+/// The last error of an open for reading.
+DWORD ErrorOfReading(const std::wstring& path) {
   ComPtr<IStream> stream;
-  return SHCreateStreamOnFileW(path.c_str(), mode, stream.Receive());
+  SetLastError(kUntouched);
+  EXPECT_FALSE(OpenToRead(path.c_str(), stream.Receive()));
+  EXPECT_FALSE(stream);
+  return GetLastError();
+}
+
+HRESULT OpenToWrite(const std::wstring& path) {
+  ComPtr<IStream> stream;
+  return SHCreateStreamOnFileW(path.c_str(), STGM_CREATE | STGM_WRITE, stream.Receive());
 }
 
 TEST(Posix, OpensFilesWithTheErrorsOfWindows) {
   const TempFile file("x");
   const TempFile loop;
   std::filesystem::create_symlink(loop.path(), loop.path());
-  EXPECT_EQ(Open(L"no-such-file"), HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND));
-  EXPECT_EQ(Open(L"/no-such-file"), HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND));
-  EXPECT_EQ(Open(file.Wide() + L"/x"), HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND));
-  EXPECT_EQ(Open(loop.Wide()), HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND));
-  EXPECT_EQ(Open(std::wstring(300, 'n')), HRESULT_FROM_WIN32(ERROR_FILENAME_EXCED_RANGE));
+  EXPECT_EQ(ErrorOfReading(L"no-such-file"), ERROR_FILE_NOT_FOUND);
+  EXPECT_EQ(ErrorOfReading(L"/no-such-file"), ERROR_FILE_NOT_FOUND);
+  EXPECT_EQ(ErrorOfReading(file.Wide() + L"/x"), ERROR_PATH_NOT_FOUND);
+  EXPECT_EQ(ErrorOfReading(loop.Wide()), ERROR_PATH_NOT_FOUND);
+  EXPECT_EQ(ErrorOfReading(std::wstring(300, 'n')), ERROR_FILENAME_EXCED_RANGE);
+  EXPECT_EQ(OpenToWrite(file.Wide() + L"/x"), HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND));
 
   rlimit limit{};
   ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &limit), 0);
   const rlimit none{0, limit.rlim_max};
   ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
-  const HRESULT without_descriptors = Open(file.Wide());
+  const DWORD without_descriptors = ErrorOfReading(file.Wide());
   ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &limit), 0);
-  EXPECT_EQ(without_descriptors, HRESULT_FROM_WIN32(ERROR_TOO_MANY_OPEN_FILES));
+  EXPECT_EQ(without_descriptors, ERROR_TOO_MANY_OPEN_FILES);
 }
 
 TEST(Posix, RefusesWhatIsNoFile) {
   const TempFile pipe;
   ASSERT_EQ(mkfifo(pipe.path().c_str(), 0600), 0);
-  EXPECT_EQ(Open(L"/dev/null"), HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
-  EXPECT_EQ(Open(L"/dev/null", STGM_CREATE | STGM_WRITE), S_OK);
-  EXPECT_EQ(Open(pipe.Wide()), HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
+  EXPECT_EQ(ErrorOfReading(L"/dev/null"), kUntouched);
+  EXPECT_EQ(OpenToWrite(L"/dev/null"), S_OK);
+  EXPECT_EQ(ErrorOfReading(pipe.Wide()), kUntouched);
   const int reader = open(pipe.path().c_str(), O_RDONLY | O_NONBLOCK);
-  EXPECT_EQ(Open(pipe.Wide(), STGM_CREATE | STGM_WRITE), HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
+  EXPECT_EQ(OpenToWrite(pipe.Wide()), HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
   close(reader);
 }
 
@@ -60,12 +73,13 @@ TEST(Posix, ReportsWhatAStreamMeets) {
   char bytes[4];
   ULONG count = 1;
   ComPtr<IStream> stream;
-  // The memory of a process is a file whose first page cannot be read.
-  ASSERT_EQ(SHCreateStreamOnFileW(L"/proc/self/mem", STGM_READ, stream.Receive()), S_OK);
-  EXPECT_EQ(stream->Read(bytes, sizeof bytes, &count), HRESULT_FROM_WIN32(ERROR_IO_DEVICE));
-  EXPECT_EQ(count, 0U);
-
-  const TempFile file;
+  const TempFile file("text");
+  {
+    ASSERT_TRUE(OpenToRead(file.Wide().c_str(), stream.Receive()));
+    const SystemFault broken(SystemCall::kRead, 0, EIO);
+    EXPECT_EQ(stream->Read(bytes, sizeof bytes, &count), HRESULT_FROM_WIN32(ERROR_IO_DEVICE));
+    EXPECT_EQ(count, 0U);
+  }
   const DWORD mode = STGM_CREATE | STGM_WRITE;
   ASSERT_EQ(SHCreateStreamOnFileW(file.Wide().c_str(), mode, stream.Receive()), S_OK);
   const SystemFault interrupted(SystemCall::kClose, 0, EINTR);
