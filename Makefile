@@ -92,12 +92,14 @@ fuzz: ## Run each fuzz target for a minute, after the inputs that are known
 	@tools/fuzz.sh replay
 	@tools/fuzz.sh run 60
 
-bench: ## Build and run the benchmarks
+bench: ## Build and run the benchmarks, and plot them in docs/
 	@tools/packages.sh bench
+	@tools/pugixml.sh
 	@cmake --preset bench > /dev/null
 	@cmake --build --preset bench
 	@build/bench/bench/tolva_footprint
-	@build/bench/bench/tolva_bench
+	@build/bench/bench/tolva_bench build/bench
+	@gnuplot bench/plots.gp
 
 clean: ## Remove everything that was built
 	@rm -rf build

@@ -64,7 +64,7 @@ double Seconds(Clock::time_point start) {
 
 /// One read, and what it took: the best time of some.
 void MeasureRead(Kind kind, std::size_t size, node::INode* (*make)()) {
-  const Document& document = GetDocument(kind, size);
+  const Document& document = GetDocuments(kind, size).front();
   const std::wstring path = document.path.wstring();
   double best = 1e9;
   Heap before = {};
@@ -95,7 +95,7 @@ class LargeFile {
   LargeFile()
       : path_(std::filesystem::temp_directory_path() /
               ("tolva-gigabyte-" + std::to_string(getpid()) + ".xml")) {
-    std::string piece = GetDocument(kPolicy, 40'000).text;
+    std::string piece = GetDocuments(kPolicy, 40'000).front().text;
     piece.erase(0, piece.find("?>") + 2);
     std::ofstream file(path_, std::ios::binary);
     file << "<all>";

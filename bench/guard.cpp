@@ -1,11 +1,13 @@
-// The work whose instructions are counted, so that a change that costs more is noticed:
-//   tolva_guard read|write <count>
+// The work whose instructions and allocations are counted, so that a change that costs more is
+// noticed:
+//   tolva_guard read|write <count> [policy|catalogue]
 // The difference between two counts has nothing of what comes before and after the work.
 #include <tolva/tolva.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -13,21 +15,39 @@
 
 namespace {
 
+std::size_t allocations = 0;
+
+}  // namespace
+
+void* operator new(std::size_t size) {
+  ++allocations;
+  void* const block = std::malloc(size);
+  if (block == nullptr) throw std::bad_alloc();
+  return block;
+}
+
+void operator delete(void* block) noexcept { std::free(block); }
+void operator delete(void* block, std::size_t) noexcept { std::free(block); }
+
+namespace {
+
 using namespace tolva::bench;
 
 constexpr std::size_t kSize = 40'000;
 
+using Root = std::unique_ptr<tolva::node::INode>;
 using Manager = std::unique_ptr<IXMLLiteManager, void (*)(IXMLLiteManager*)>;
 
 Manager MakeManager(int writer) { return {tolvaCreateXMLManager(writer), &tolvaDestroyXMLManager}; }
 
-std::unique_ptr<tolva::node::INode> Read(const std::wstring& path) {
-  std::unique_ptr<tolva::node::INode> root(
-      TolvaInterface::ILPClientConfiguration_CreateNewInstance());
+Root MakeRoot(Kind kind) {
+  if (kind == kPolicy) return Root(TolvaInterface::ILPClientConfiguration_CreateNewInstance());
+  return Root(MessageConf::EndPointMessage_CreateNewInstance());
+}
+
+bool Read(const std::wstring& path, tolva::node::INode& root) {
   const Manager reader = MakeManager(0);
-  const bool is_read =
-      reader->OpenFile(path.c_str()) == 0 && root->ReadFromXMLMgr(reader.get()) == 0;
-  return is_read ? std::move(root) : nullptr;
+  return reader->OpenFile(path.c_str()) == 0 && root.ReadFromXMLMgr(reader.get()) == 0;
 }
 
 bool Write(const tolva::node::INode& root, const std::wstring& path) {
@@ -39,16 +59,19 @@ bool Write(const tolva::node::INode& root, const std::wstring& path) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3) return 2;
-  const Document& document = GetDocument(kPolicy, kSize);
+  if (argc < 3) return 2;
+  const bool reads = std::string_view(argv[1]) == "read";
+  const int count = std::atoi(argv[2]);
+  const Kind kind = argc > 3 && std::string_view(argv[3]) == "catalogue" ? kCatalogue : kPolicy;
+  const Document& document = GetDocuments(kind, kSize).front();
   const std::wstring input = document.path.wstring();
   const std::wstring output = OutputPath().wstring();
-  const std::unique_ptr<tolva::node::INode> root = Read(input);
-  if (root == nullptr) return 1;
-  const bool reads = std::string_view(argv[1]) == "read";
-  for (int i = std::atoi(argv[2]); i != 0; --i) {
-    if (reads ? Read(input) == nullptr : !Write(*root, output)) return 1;
+  const Root root = MakeRoot(kind);
+  if (!Read(input, *root)) return 1;
+  const std::size_t before = allocations;
+  for (int i = 0; i < count; ++i) {
+    if (reads ? !Read(input, *MakeRoot(kind)) : !Write(*root, output)) return 1;
   }
-  std::printf("%zu elements\n", document.elements);
+  std::printf("%zu elements, %zu allocations\n", document.elements, allocations - before);
   return 0;
 }

@@ -1,10 +1,10 @@
-// What the rivals of the typed read and write are told of the documents: names as they want them,
-// found as fast as the library finds them. They fill, and write, the library's own nodes.
+// What the rivals of the typed read and write know of the documents: the names in their own form,
+// found with as few comparisons as the library makes. They fill and write the library's own nodes,
+// so that everyone's result is the same.
 #pragma once
 
+#include <charconv>
 #include <cstdint>
-#include <cstdlib>
-#include <cstring>
 #include <map>
 #include <memory>
 #include <string>
@@ -31,7 +31,6 @@ struct Plan {
   std::string name;
   std::vector<AttributeRow> attributes;
   std::vector<ChildRow> children;
-  std::uint32_t required = 0;  ///< a bit for each child that has to be there
 };
 
 /// The plans of a document's elements.
@@ -41,30 +40,21 @@ class Plans {
   const Plan& root() const { return *root_; }
 
  private:
-  static std::string Narrow(std::wstring_view text) {
-    std::string narrow;
-    while (*text != 0) narrow += static_cast<char>(*text++);
-    return narrow;
-  }
-
   const Plan* Make(const node::Schema& schema) {
     std::unique_ptr<Plan>& plan = plans_[&schema];
     if (plan) return plan.get();
     plan = std::make_unique<Plan>();
     Plan* const made = plan.get();
     made->schema = &schema;
-    made->name = Narrow(schema.element);
+    made->name = schema.element.narrow();
     for (const node::Attribute& row : schema.attributes) {
-      made->attributes.push_back({Narrow(row.name), &row, {}});
+      made->attributes.push_back({std::string(row.name.narrow()), &row, {}});
       for (const node::Name& text : row.enum_texts.texts) {
-        made->attributes.back().enum_texts.push_back(Narrow(text));
+        made->attributes.back().enum_texts.emplace_back(text.narrow());
       }
     }
-    std::uint32_t bit = 1;
     for (const node::Child& row : schema.children) {
-      if (row.occurrence == node::Occurrence::kRequired) made->required |= bit;
-      bit <<= 1;
-      made->children.push_back({Narrow(row.name()), &row, Make(*row.schema)});
+      made->children.push_back({std::string(row.name().narrow()), &row, Make(*row.schema)});
     }
     return made;
   }
@@ -73,39 +63,9 @@ class Plans {
   const Plan* root_;
 };
 
-/// Stores an attribute's value in a node. `Widen` makes wide strings of UTF-8.
-template <class Widen>
-bool StoreAttribute(const Plan::AttributeRow& attribute, const char* value, node::IElement& node,
-                    Widen widen) {
-  const node::FieldRef field = attribute.row->locate(node);
-  if (field.present != nullptr) *field.present = 1;
-  switch (attribute.row->type) {
-    case node::ValueType::kString:
-      widen(value, *static_cast<std::wstring*>(field.value));
-      return true;
-    case node::ValueType::kEnum:
-      for (std::size_t i = 0; i < attribute.enum_texts.size(); ++i) {
-        if (attribute.enum_texts[i] != value) continue;
-        *static_cast<DWORD*>(field.value) = static_cast<DWORD>(i);
-        return true;
-      }
-      return false;
-    default:
-      break;
-  }
-  char* end = nullptr;
-  const unsigned long long number = std::strtoull(value, &end, 10);
-  if (attribute.row->type == node::ValueType::kNumber) {
-    *static_cast<DWORD*>(field.value) = static_cast<DWORD>(number);
-  } else {
-    *static_cast<std::uint64_t*>(field.value) = number;
-  }
-  return *end == '\0';
-}
-
-/// The row of that name, sought from where the last one was found: writers keep to the order.
+/// The row of that name, sought from `next` on: writers keep to the order.
 template <class Row>
-const Row* FindRow(const std::vector<Row>& rows, const char* name, std::size_t& next) {
+const Row* FindRow(const std::vector<Row>& rows, std::string_view name, std::size_t& next) {
   for (std::size_t tried = 0; tried < rows.size(); ++tried) {
     if (next >= rows.size()) next = 0;
     const Row& row = rows[next];
@@ -114,5 +74,78 @@ const Row* FindRow(const std::vector<Row>& rows, const char* name, std::size_t& 
   }
   return nullptr;
 }
+
+/// Fills nodes from names and values in UTF-8. `widen` makes a wide string of a value.
+template <void (*widen)(std::string_view utf8, std::wstring& wide)>
+class Filler {
+ public:
+  /// An element that is being read.
+  struct Frame {
+    const Plan* plan;  ///< null: nobody wants the element
+    node::IElement* node;
+    std::uint32_t found = 0;  ///< one bit for each kind of child
+    std::size_t next_attribute = 0;
+    std::size_t next_child = 0;
+  };
+
+  static bool StoreAttribute(Frame& frame, std::string_view name, std::string_view value) {
+    const auto* const attribute = FindRow(frame.plan->attributes, name, frame.next_attribute);
+    if (attribute == nullptr) return true;
+    ++frame.next_attribute;
+    const node::FieldRef field = attribute->row->locate(*frame.node);
+    if (field.present != nullptr) *field.present = 1;
+    switch (attribute->row->type) {
+      case node::ValueType::kString:
+        widen(value, *static_cast<std::wstring*>(field.value));
+        return true;
+      case node::ValueType::kEnum:
+        for (std::size_t i = 0; i < attribute->enum_texts.size(); ++i) {
+          if (attribute->enum_texts[i] != value) continue;
+          *static_cast<DWORD*>(field.value) = static_cast<DWORD>(i);
+          return true;
+        }
+        return false;
+      case node::ValueType::kNumber:
+        return ParseNumber(value, *static_cast<DWORD*>(field.value));
+      default:
+        return ParseNumber(value, *static_cast<std::uint64_t*>(field.value));
+    }
+  }
+
+  static bool HasText(const Frame& frame) {
+    return frame.plan != nullptr && frame.plan->schema->content.locate != nullptr;
+  }
+
+  static void StoreText(const Frame& frame, std::string_view text) {
+    const node::FieldRef field = frame.plan->schema->content.locate(*frame.node);
+    if (field.present != nullptr) *field.present = 1;
+    widen(text, *static_cast<std::wstring*>(field.value));
+  }
+
+  static Frame MakeChild(Frame& frame, std::string_view name) {
+    const auto* const child = FindRow(frame.plan->children, name, frame.next_child);
+    if (child == nullptr) return {nullptr, nullptr};
+    frame.found |= std::uint32_t{1} << frame.next_child;
+    node::IElement& node = child->row->make(*frame.node);
+    if (child->row->occurrence == node::Occurrence::kOptional) {
+      *child->row->locate(*frame.node).present = 1;
+    }
+    return {child->plan, &node};
+  }
+
+  static bool IsComplete(const Frame& frame) {
+    return frame.plan == nullptr || (frame.plan->schema->required_children & ~frame.found) == 0;
+  }
+
+ private:
+  template <class Number>
+  static bool ParseNumber(std::string_view text, Number& number) {
+    std::uint64_t value = 0;
+    const char* const end = text.data() + text.size();
+    const bool is_parsed = std::from_chars(text.data(), end, value).ptr == end;
+    number = static_cast<Number>(value);
+    return is_parsed;
+  }
+};
 
 }  // namespace tolva::bench

@@ -1,159 +1,219 @@
-// How fast nodes are written.
-#include <benchmark/benchmark.h>
+// The typed write: nodes into a file.
 #include <libxml/xmlwriter.h>
-#include <tolva/tolva.h>
+#include <tolva/support/save.h>
 #include <pugixml.hpp>
 
-#include <memory>
-#include <string>
+#include <cstdlib>
 
-#include "documents.h"
-#include "messageconf/message_catalogue.h"
-#include "plan.h"
+#include "bench.h"
 #include "platform/utf.h"
-#include "policy/policy.h"
 
 namespace tolva::bench {
 namespace {
 
-using Root = std::unique_ptr<node::INode>;
-
-const Document& DocumentOf(const benchmark::State& state) {
-  return GetDocument(static_cast<Kind>(state.range(1)), static_cast<std::size_t>(state.range(0)));
+std::vector<Root> Load(Kind kind, const Documents& documents) {
+  std::vector<Root> roots;
+  for (const Document& document : documents) {
+    roots.push_back(MakeRoot(kind));
+    if (!Read(*MakeReader(), document.path.wstring(), *roots.back())) std::exit(1);
+  }
+  return roots;
 }
 
-Root Load(const benchmark::State& state) {
-  Root root(
-      state.range(1) == kPolicy
-          ? static_cast<node::INode*>(TolvaInterface::ILPClientConfiguration_CreateNewInstance())
-          : MessageConf::EndPointMessage_CreateNewInstance());
-  const std::unique_ptr<IXMLLiteManager> reader(tolvaCreateXMLManager(0));
-  reader->OpenFile(DocumentOf(state).path.wstring().c_str());
-  root->ReadFromXMLMgr(reader.get());
-  return root;
+bool Write(IXMLLiteManager& writer, const std::wstring& path, const node::INode& root) {
+  return writer.OpenFile(path.c_str()) == 0 && root.WriteToXMLMgr(&writer) == 0 &&
+         writer.Close() == 0;
 }
 
-void Count(benchmark::State& state) {
-  state.SetBytesProcessed(static_cast<std::int64_t>(DocumentOf(state).text.size()) *
-                          state.iterations());
-}
-
-void WriteTolva(benchmark::State& state) {
-  const Root root = Load(state);
+/// With a new writer each time.
+void WriteTolva(benchmark::State& state, Kind kind, const Documents& documents) {
+  const std::vector<Root> roots = Load(kind, documents);
+  Round round(roots);
   const std::wstring path = OutputPath().wstring();
   for (auto _ : state) {
-    const std::unique_ptr<IXMLLiteManager> writer(tolvaCreateXMLManager(1));
-    if (writer->OpenFile(path.c_str()) != 0 || root->WriteToXMLMgr(writer.get()) != 0 ||
-        writer->Close() != 0) {
-      state.SkipWithError("not written");
-    }
+    if (!Write(*MakeWriter(), path, *round.Next())) state.SkipWithError("not written");
   }
-  Count(state);
 }
 
-/// The tree alone is saved: it is there, and in UTF-8, beforehand.
-void WritePugixml(benchmark::State& state) {
-  pugi::xml_document tree;
-  tree.load_file(DocumentOf(state).path.c_str());
+void WriteTolvaKeptWriter(benchmark::State& state, Kind kind, const Documents& documents) {
+  const std::vector<Root> roots = Load(kind, documents);
+  Round round(roots);
+  const std::wstring path = OutputPath().wstring();
+  const Manager writer = MakeWriter();
+  for (auto _ : state) {
+    if (!Write(*writer, path, *round.Next())) state.SkipWithError("not written");
+  }
+}
+
+/// By the support library: into a new file, which is flushed, read back, compared and then renamed.
+void WriteTolvaSave(benchmark::State& state, Kind kind, const Documents& documents) {
+  const std::vector<Root> roots = Load(kind, documents);
+  Round round(roots);
+  for (auto _ : state) {
+    if (!support::Save(SupportKind(kind), *round.Next(), OutputPath()))
+      state.SkipWithError("not written");
+  }
+}
+
+/// Less work than the library's: the tree is there, with all values as texts in UTF-8.
+void SavePugixml(benchmark::State& state, Kind /*kind*/, const Documents& documents) {
+  std::vector<pugi::xml_document> trees(documents.size());
+  for (std::size_t i = 0; i < trees.size(); ++i) trees[i].load_file(documents[i].path.c_str());
+  Round round(trees);
   const std::string path = OutputPath().string();
   for (auto _ : state) {
-    if (!tree.save_file(path.c_str(), "  ")) state.SkipWithError("not written");
+    if (!round.Next().save_file(path.c_str(), "  ")) state.SkipWithError("not written");
   }
-  Count(state);
 }
 
-/// The library's nodes through libxml2's writer.
-class Libxml2Writer {
+// ---- from nodes ---------------------------------------------------------------------------------
+
+/// The values of nodes as texts in UTF-8, for writers that want these.
+class Texts {
  public:
-  explicit Libxml2Writer(const char* path) : writer_(xmlNewTextWriterFilename(path, 0)) {
-    xmlTextWriterSetIndent(writer_, 1);
-    xmlTextWriterSetIndentString(writer_, Xml("  "));
-    xmlTextWriterStartDocument(writer_, nullptr, "UTF-8", nullptr);
-  }
-  Libxml2Writer(const Libxml2Writer&) = delete;
-  Libxml2Writer& operator=(const Libxml2Writer&) = delete;
-  ~Libxml2Writer() {
-    xmlTextWriterEndDocument(writer_);
-    xmlFreeTextWriter(writer_);
+  const char* Of(const node::FieldRef& field) {
+    const auto& wide = *static_cast<const std::wstring*>(field.value);
+    constexpr std::size_t kLongest = 4;
+    text_.resize(std::max(text_.size(), kLongest * wide.size() + 1));
+    char* to = text_.data();
+    for (const wchar_t c : wide) to = platform::EncodeUtf8(static_cast<char32_t>(c), to);
+    *to = '\0';
+    return text_.data();
   }
 
-  void Write(const Plan& plan, node::IElement& node) {
-    xmlTextWriterStartElement(writer_, Xml(plan.name.c_str()));
-    for (const Plan::AttributeRow& attribute : plan.attributes) {
-      const node::FieldRef field = attribute.row->locate(node);
-      if (field.present != nullptr && *field.present == 0) continue;
-      xmlTextWriterWriteAttribute(writer_, Xml(attribute.name.c_str()),
-                                  Xml(TextOf(attribute, field)));
-    }
-    if (plan.schema->content.locate != nullptr) {
-      const node::FieldRef field = plan.schema->content.locate(node);
-      xmlTextWriterWriteString(writer_, Xml(Narrow(field)));
-    }
-    for (const Plan::ChildRow& row : plan.children) {
-      const node::ChildRef child = row.row->locate(node);
-      if (child.items != nullptr) {
-        for (std::size_t i = 0; i < child.items->Size(); ++i) {
-          Write(*row.plan, const_cast<node::IElement&>(child.items->Item(i)));
-        }
-      } else if (child.present == nullptr || *child.present != 0) {
-        Write(*row.plan, *child.element);
-      }
-    }
-    xmlTextWriterEndElement(writer_);
-  }
-
- private:
-  static const xmlChar* Xml(const char* text) { return reinterpret_cast<const xmlChar*>(text); }
-
-  const char* Narrow(const node::FieldRef& field) {
-    text_.clear();
-    platform::AppendUtf8(*static_cast<const std::wstring*>(field.value), text_);
-    return text_.c_str();
-  }
-
-  const char* TextOf(const Plan::AttributeRow& attribute, const node::FieldRef& field) {
+  const char* Of(const Plan::AttributeRow& attribute, const node::FieldRef& field) {
     switch (attribute.row->type) {
       case node::ValueType::kString:
-        return Narrow(field);
+        return Of(field);
       case node::ValueType::kEnum: {
         const DWORD value = *static_cast<const DWORD*>(field.value);
         return value < attribute.enum_texts.size() ? attribute.enum_texts[value].c_str() : "";
       }
       case node::ValueType::kLongNumber:
-        text_ = std::to_string(*static_cast<const std::uint64_t*>(field.value));
-        break;
-      case node::ValueType::kNumber:
-        text_ = std::to_string(*static_cast<const DWORD*>(field.value));
-        break;
+        return OfNumber(*static_cast<const std::uint64_t*>(field.value));
+      default:
+        return OfNumber(*static_cast<const DWORD*>(field.value));
     }
-    return text_.c_str();
   }
 
-  xmlTextWriterPtr writer_;
+ private:
+  const char* OfNumber(std::uint64_t number) {
+    *std::to_chars(number_, number_ + sizeof number_ - 1, number).ptr = '\0';
+    return number_;
+  }
+
   std::string text_;
+  char number_[24];
 };
 
-void WriteLibxml2(benchmark::State& state) {
-  const Root root = Load(state);
-  const Plans plans(state.range(1) == kPolicy ? TolvaInterface::CILPClientConfiguration::kSchema
-                                              : MessageConf::CEndPointMessage::kSchema);
-  const std::string path = OutputPath().string();
-  for (auto _ : state) Libxml2Writer(path.c_str()).Write(plans.root(), *root);
-  Count(state);
+/// Goes through nodes and passes names and texts to `Target`, which says what an element is to it.
+template <class Target>
+void Visit(const Plan& plan, node::IElement& node, Texts& texts, Target& target,
+           typename Target::Element parent) {
+  const typename Target::Element element = target.Start(parent, plan.name.c_str());
+  for (const Plan::AttributeRow& attribute : plan.attributes) {
+    const node::FieldRef field = attribute.row->locate(node);
+    if (field.present != nullptr && *field.present == 0) continue;
+    target.AddAttribute(element, attribute.name.c_str(), texts.Of(attribute, field));
+  }
+  if (plan.schema->content.locate != nullptr) {
+    target.AddText(element, texts.Of(plan.schema->content.locate(node)));
+  }
+  for (const Plan::ChildRow& row : plan.children) {
+    const node::ChildRef child = row.row->locate(node);
+    if (child.items != nullptr) {
+      for (std::size_t i = 0; i < child.items->Size(); ++i) {
+        auto& item = const_cast<node::IElement&>(child.items->Item(i));
+        Visit(*row.plan, item, texts, target, element);
+      }
+    } else if (child.present == nullptr || *child.present != 0) {
+      Visit(*row.plan, *child.element, texts, target, element);
+    }
+  }
+  target.End();
 }
 
-void Sizes(benchmark::internal::Benchmark* benchmark) {
-  benchmark->ArgNames({"bytes", "text"});
-  for (const std::int64_t kind : {kPolicy, kCatalogue}) {
-    for (const std::int64_t bytes : {4'000, 40'000, 400'000, 10'000'000}) {
-      benchmark->Args({bytes, kind});
-    }
+class PugixmlTarget {
+ public:
+  using Element = pugi::xml_node;
+
+  static Element Start(Element parent, const char* name) { return parent.append_child(name); }
+  static void AddAttribute(Element element, const char* name, const char* value) {
+    element.append_attribute(name).set_value(value);
+  }
+  static void AddText(Element element, const char* text) {
+    element.append_child(pugi::node_pcdata).set_value(text);
+  }
+  static void End() {}
+};
+
+void WritePugixml(benchmark::State& state, Kind kind, const Documents& documents) {
+  const std::vector<Root> roots = Load(kind, documents);
+  Round round(roots);
+  const std::string path = OutputPath().string();
+  Texts texts;
+  PugixmlTarget target;
+  for (auto _ : state) {
+    pugi::xml_document tree;
+    Visit(PlanOf(kind), *round.Next(), texts, target, tree);
+    if (!tree.save_file(path.c_str(), "  ")) state.SkipWithError("not written");
   }
 }
 
-BENCHMARK(WriteTolva)->Apply(Sizes);
-BENCHMARK(WritePugixml)->Apply(Sizes);
-BENCHMARK(WriteLibxml2)->Apply(Sizes);
+class Libxml2Target {
+ public:
+  struct Element {};
+
+  explicit Libxml2Target(const char* path) : writer_(xmlNewTextWriterFilename(path, 0)) {
+    xmlTextWriterSetIndent(writer_, 1);
+    xmlTextWriterSetIndentString(writer_, Xml("  "));
+    xmlTextWriterStartDocument(writer_, nullptr, "UTF-8", nullptr);
+  }
+  Libxml2Target(const Libxml2Target&) = delete;
+  Libxml2Target& operator=(const Libxml2Target&) = delete;
+  ~Libxml2Target() {
+    xmlTextWriterEndDocument(writer_);
+    xmlFreeTextWriter(writer_);
+  }
+
+  Element Start(Element /*parent*/, const char* name) {
+    xmlTextWriterStartElement(writer_, Xml(name));
+    return {};
+  }
+  void AddAttribute(Element /*element*/, const char* name, const char* value) {
+    xmlTextWriterWriteAttribute(writer_, Xml(name), Xml(value));
+  }
+  void AddText(Element /*element*/, const char* text) {
+    xmlTextWriterWriteString(writer_, Xml(text));
+  }
+  void End() { xmlTextWriterEndElement(writer_); }
+
+ private:
+  static const xmlChar* Xml(const char* text) { return reinterpret_cast<const xmlChar*>(text); }
+
+  xmlTextWriterPtr writer_;
+};
+
+void WriteLibxml2(benchmark::State& state, Kind kind, const Documents& documents) {
+  const std::vector<Root> roots = Load(kind, documents);
+  Round round(roots);
+  const std::string path = OutputPath().string();
+  Texts texts;
+  for (auto _ : state) {
+    Libxml2Target target(path.c_str());
+    Visit(PlanOf(kind), *round.Next(), texts, target, {});
+  }
+}
 
 }  // namespace
+
+void RegisterWrites() {
+  RegisterUpToLargest("write", "tolva", WriteTolva);
+  Register("write", "tolva-kept-writer", WriteTolvaKeptWriter);
+  Register("write", "tolva-save", WriteTolvaSave);
+  Register("write", "pugixml-saving", SavePugixml);
+  Register("write", "pugixml", WritePugixml);
+  Register("write", "libxml2", WriteLibxml2);
+}
+
 }  // namespace tolva::bench

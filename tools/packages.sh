@@ -16,7 +16,7 @@ case ${1:-} in
     command -v npm > /dev/null || wanted="$wanted npm"
     ;;
   bench)
-    wanted="$build libbenchmark-dev libpugixml-dev libexpat1-dev libxml2-dev libxerces-c-dev xsdcxx"
+    wanted="$build dpkg-dev libbenchmark-dev librapidxml-dev libexpat1-dev libxml2-dev libxerces-c-dev xsdcxx gnuplot-nox"
     ;;
   *) echo 'usage: packages.sh build|windows|test|mutants|conformance|bench' >&2; exit 2 ;;
 esac
