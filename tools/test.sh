@@ -1,8 +1,9 @@
 #!/bin/bash
 # Runs everything that can fail: each build with its tests, and the checks of the sources and of the
 # binary interface. Ends with one line of totals; fails when anything did.
-#   test.sh [part...]      only these parts: sources linux conformance sanitizers valgrind fuzz
-#                          windows windows-own abi tidy; or quick, what to run after each change
+#   test.sh [part...]      only these parts: sources linux speed conformance sanitizers valgrind
+#                          fuzz windows windows-own abi tidy; or quick, what to run after each
+#                          change
 set -u
 cd "$(dirname "$0")/.." || exit
 
@@ -155,6 +156,12 @@ part_quick() {
   programs linux-release '' api
 }
 
+part_speed() {
+  echo 'Instructions and allocations'
+  build linux-release || return
+  check 'cost of a read and a write' tools/instructions.sh build/linux-release/bench/tolva_guard
+}
+
 part_conformance() {
   echo 'W3C conformance suite'
   build linux-release || return
@@ -233,7 +240,7 @@ part_tidy() {
 }
 
 parts=("$@")
-[ ${#parts[@]} != 0 ] || parts=(sources linux conformance sanitizers valgrind fuzz windows windows-own abi tidy)
+[ ${#parts[@]} != 0 ] || parts=(sources linux speed conformance sanitizers valgrind fuzz windows windows-own abi tidy)
 for part in "${parts[@]}"; do
   if [ "$(type -t "part_$part")" = function ]; then
     "part_$part"
