@@ -75,6 +75,14 @@ unsigned CountPlain(const char* at) {
   return FirstOf(~plain.ToMask());
 }
 
+/// Whether all bytes, and those that are looked at with the last ones, are ASCII.
+bool IsAscii(std::string_view utf8) {
+  for (std::size_t at = 0; at < utf8.size(); at += Bytes::kCount) {
+    if (Bytes::Load(utf8.data() + at).ToMask() != 0) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
@@ -172,6 +180,10 @@ void AssignWide(std::string_view utf8, std::wstring& text) {
       }
       return;
     }
+  }
+  if (IsAscii(utf8)) {
+    text = std::wstring(utf8.begin(), utf8.end());
+    return;
   }
   Buffer<wchar_t> wide;
   AppendWide(utf8, wide);

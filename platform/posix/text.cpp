@@ -5,6 +5,7 @@
 
 #include "platform/posix/system.h"
 #include "platform/utf.h"
+#include "platform/vector.h"
 
 namespace tolva::platform {
 
@@ -18,7 +19,18 @@ int WideCharToMultiByte(UINT /*code_page*/, DWORD /*flags*/, const wchar_t* text
   std::size_t size = 0;
   const wchar_t* at = text;
   const wchar_t* const end = text + length;
+  constexpr std::ptrdiff_t kCount = Bytes::kCount;
   while (at != end) {
+    if (end - at >= kCount && room - size >= Bytes::kCount) {
+      const Bytes block = Bytes::LoadNarrowed(at);
+      // Negative values are narrowed to 0.
+      if ((block.ToMask() | block.Is('\0').ToMask()) == 0) {
+        if (buffer != nullptr) block.Store(buffer + size);
+        size += Bytes::kCount;
+        at += kCount;
+        continue;
+      }
+    }
     const auto unit = static_cast<char32_t>(*at);
     if (unit < 0x80) {  // almost always
       if (size == room) return 0;

@@ -118,9 +118,14 @@ char* PutStretch(const wchar_t*& at, const wchar_t* stop, const wchar_t* end, ch
       const Mask plain = block.IsPrintable().AndNot(markup).ToMask();
       const unsigned count = FirstOf(~plain);
       block.Store(to);
+      if (count == Bytes::kCount) {
+        // Steps of a known size: the next block does not wait for the count.
+        to += Bytes::kCount;
+        at += Bytes::kCount;
+        continue;
+      }
       to += count;
       at += count;
-      if (count == Bytes::kCount) continue;
     }
     to = PutCharacter<place>(at, end, to, result);
     if (to == nullptr) return nullptr;
