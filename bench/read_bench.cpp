@@ -137,7 +137,7 @@ void ReadPugixml(benchmark::State& state, Kind kind, const Documents& documents)
 using FastFiller = Filler<platform::AssignWide>;
 
 void ReadPugixmlTuned(benchmark::State& state, Kind kind, const Documents& documents) {
-  KeptBuffer buffer;
+  static KeptBuffer buffer;
   Typed(state, kind, documents, [&](const Document& document, node::INode& root) {
     pugi::xml_document tree;
     return buffer.ReadFile(document.path) &&
@@ -147,7 +147,7 @@ void ReadPugixmlTuned(benchmark::State& state, Kind kind, const Documents& docum
 }
 
 void ReadRapidxml(benchmark::State& state, Kind kind, const Documents& documents) {
-  KeptBuffer buffer;
+  static KeptBuffer buffer;
   Typed(state, kind, documents, [&](const Document& document, node::INode& root) {
     if (!buffer.ReadFile(document.path)) return false;
     rapidxml::xml_document<> tree;

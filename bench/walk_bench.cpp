@@ -77,7 +77,7 @@ void WalkFile(benchmark::State& state, Kind /*kind*/, const Documents& documents
 }
 
 void Copy(benchmark::State& state, Kind /*kind*/, const Documents& documents) {
-  KeptBuffer buffer;
+  static KeptBuffer buffer;
   Round round(documents);
   for (auto _ : state) {
     const Document& document = round.Next();
@@ -88,7 +88,7 @@ void Copy(benchmark::State& state, Kind /*kind*/, const Documents& documents) {
 }
 
 void WalkPugixml(benchmark::State& state, Kind /*kind*/, const Documents& documents) {
-  KeptBuffer buffer;
+  static KeptBuffer buffer;
   Round round(documents);
   for (auto _ : state) {
     const Document& document = round.Next();
@@ -99,7 +99,7 @@ void WalkPugixml(benchmark::State& state, Kind /*kind*/, const Documents& docume
 }
 
 void WalkRapidxml(benchmark::State& state, Kind /*kind*/, const Documents& documents) {
-  KeptBuffer buffer;
+  static KeptBuffer buffer;
   Round round(documents);
   for (auto _ : state) {
     const Document& document = round.Next();
