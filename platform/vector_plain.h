@@ -31,6 +31,14 @@ class PlainBytes {
     });
   }
 
+  /// Reads four wide characters in the same way. The bytes after them are 0.
+  static PlainBytes LoadFourNarrowed(const wchar_t* at) {
+    return Make([at](std::size_t i) {
+      const auto c = i < 4 ? static_cast<char32_t>(at[i]) : 0;
+      return static_cast<unsigned char>(c < 0x80 ? c : 0xFF);
+    });
+  }
+
   /// Writes sixteen bytes, at any alignment.
   void Store(char* at) const {
     for (std::size_t i = 0; i < kCount; ++i) at[i] = static_cast<char>(Byte(i));

@@ -32,6 +32,16 @@ class Sse2Bytes {
     }
   }
 
+  static Sse2Bytes LoadFourNarrowed(const wchar_t* at) {
+    const __m128i zero = _mm_setzero_si128();
+    const auto* const part = reinterpret_cast<const __m128i*>(at);
+    if constexpr (sizeof(wchar_t) == 2) {
+      return Sse2Bytes(_mm_packus_epi16(_mm_loadl_epi64(part), zero));
+    } else {
+      return Sse2Bytes(_mm_packus_epi16(_mm_packs_epi32(_mm_loadu_si128(part), zero), zero));
+    }
+  }
+
   void Store(char* at) const { _mm_storeu_si128(reinterpret_cast<__m128i*>(at), bytes_); }
 
   void StoreWidened(wchar_t* at) const {

@@ -105,28 +105,40 @@ char* PutCharacter(const wchar_t*& at, const wchar_t* end, char* to, HRESULT& re
   return nullptr;
 }
 
+/// Stores a block of a value. Returns how many characters at its front are written as they are.
+std::ptrdiff_t StorePlain(Bytes block, char* to) {
+  const Bytes markup = block.Is('<') | block.Is('>') | block.Is('&') | block.Is('"');
+  block.Store(to);
+  return FirstOf(~block.IsPrintable().AndNot(markup).ToMask());
+}
+
 /// Writes a stretch of a value up to `stop`, escaped for its place. There is room for all of it. A
 /// surrogate pair may end after `stop`, but not after `end`.
 template <Place place>
 char* PutStretch(const wchar_t*& at, const wchar_t* stop, const wchar_t* end, char* to,
                  HRESULT& result) {
   constexpr auto kCount = static_cast<std::ptrdiff_t>(Bytes::kCount);
+  constexpr std::ptrdiff_t kFew = 4;
   while (at < stop) {
+    // Whole blocks are steps of a known size, so that the next does not wait for the count.
+    std::ptrdiff_t count = 0;
     if (stop - at >= kCount) {
-      const Bytes block = Bytes::LoadNarrowed(at);
-      const Bytes markup = block.Is('<') | block.Is('>') | block.Is('&') | block.Is('"');
-      const Mask plain = block.IsPrintable().AndNot(markup).ToMask();
-      const unsigned count = FirstOf(~plain);
-      block.Store(to);
-      if (count == Bytes::kCount) {
-        // Steps of a known size: the next block does not wait for the count.
-        to += Bytes::kCount;
-        at += Bytes::kCount;
+      count = StorePlain(Bytes::LoadNarrowed(at), to);
+      if (count == kCount) {
+        to += kCount;
+        at += kCount;
         continue;
       }
-      to += count;
-      at += count;
+    } else if (stop - at >= kFew) {
+      count = StorePlain(Bytes::LoadFourNarrowed(at), to);
+      if (count == kFew) {
+        to += kFew;
+        at += kFew;
+        continue;
+      }
     }
+    to += count;
+    at += count;
     to = PutCharacter<place>(at, end, to, result);
     if (to == nullptr) return nullptr;
   }

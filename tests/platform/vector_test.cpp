@@ -66,6 +66,9 @@ TYPED_TEST(BytesTest, KeepsAsciiWhenNarrowedAndWidened) {
       wide.fill(L'a');
       wide[place] = static_cast<wchar_t>(c);
       const Bytes block = Bytes::LoadNarrowed(wide.data());
+      const Bytes four = Bytes::LoadFourNarrowed(wide.data());
+      EXPECT_EQ(four.IsPrintable().ToMask(), block.IsPrintable().ToMask() & 0xFU) << std::hex << c;
+      EXPECT_EQ(four.Is('a').ToMask(), block.Is('a').ToMask() & 0xFU) << std::hex << c;
       if (static_cast<char32_t>(wide[place]) >= 0x80) {
         EXPECT_EQ(block.IsPrintable().ToMask(), kAllBytes & ~(Mask{1} << place)) << std::hex << c;
         continue;
