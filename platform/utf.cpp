@@ -111,26 +111,6 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
   return {i, false};
 }
 
-const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept {
-  constexpr std::ptrdiff_t kCount = Bytes::kCount;
-  while (at != end) {
-    if (end - at >= kCount && Bytes::LoadNarrowed(at).IsPrintable().ToMask() == kAllBytes) {
-      at += kCount;
-      continue;
-    }
-    const wchar_t* const stretch = at + std::min(kCount, end - at);
-    while (at < stretch) {
-      if (*at >= L' ' && *at < 0xD800) {  // almost always
-        ++at;
-        continue;
-      }
-      const wchar_t* const character = at;
-      if (!IsXmlCharacter(TakeCodePoint(at, end))) return character;
-    }
-  }
-  return end;
-}
-
 void AppendWide(std::string_view utf8, Buffer<wchar_t>& out) {
   static_assert(kReadAhead >= Bytes::kCount);
   // A character has no more units than bytes.

@@ -82,10 +82,6 @@ struct Utf8Prefix {
 /// Validates `size` bytes.
 Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept;
 
-/// Finds the first character that XML does not allow. Lone surrogates are not allowed. Returns
-/// `end` if there is none.
-const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept;
-
 /// The number of bytes after a text that AppendWide may read. Their values have no effect.
 inline constexpr std::size_t kReadAhead = 16;
 

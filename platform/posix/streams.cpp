@@ -135,7 +135,7 @@ HRESULT SHCreateStreamOnFileW(const wchar_t* path, DWORD /*mode*/, IStream** str
 IStream* SHCreateMemStream(const BYTE* bytes, UINT size) noexcept {
   std::unique_ptr<BYTE[]> copy(new (std::nothrow) BYTE[size]);
   if (copy == nullptr) return nullptr;
-  if (size != 0) std::memcpy(copy.get(), bytes, size);
+  std::memcpy(copy.get(), bytes, size);
   return new (std::nothrow) MemoryStream(std::move(copy), size);
 }
 

@@ -47,7 +47,7 @@ inline constexpr DWORD ERROR_FILENAME_EXCED_RANGE = 206;
 inline constexpr DWORD ERROR_IO_DEVICE = 1117;
 
 constexpr HRESULT HRESULT_FROM_WIN32(DWORD error) {
-  return error == 0 ? S_OK : static_cast<HRESULT>(0x80070000U | (error & 0xFFFFU));
+  return static_cast<HRESULT>(0x80070000U | (error & 0xFFFFU));
 }
 
 /// The last-error value of the calling thread. It is not `errno`, which any call of the C library
@@ -102,7 +102,7 @@ IStream* SHCreateMemStream(const BYTE* bytes, UINT size) noexcept;
 inline constexpr UINT CP_UTF8 = 65001;
 
 /// Converts `length` characters to UTF-8. Returns the size of the result, which is not stored if
-/// `buffer` is null. Returns 0 if there is no text or the result does not fit. Wide strings are
+/// `buffer` is null. Returns 0 if the result does not fit. Wide strings are
 /// code points here: a surrogate pair is combined, and a lone surrogate or a value beyond U+10FFFF
 /// becomes U+FFFD.
 int WideCharToMultiByte(UINT code_page, DWORD flags, const wchar_t* text, int length, char* buffer,

@@ -12,7 +12,6 @@ namespace tolva::platform {
 int WideCharToMultiByte(UINT /*code_page*/, DWORD /*flags*/, const wchar_t* text, int length,
                         char* buffer, int capacity, const char* /*default_char*/,
                         BOOL* /*default_used*/) noexcept {
-  if (text == nullptr || length <= 0) return 0;
   // The size of the result has to fit into an int even if there is no buffer.
   const auto room = static_cast<std::size_t>(buffer == nullptr ? std::numeric_limits<int>::max()
                                                                : std::max(capacity, 0));

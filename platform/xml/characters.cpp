@@ -26,9 +26,7 @@ bool IsIn(const Range (&ranges)[Count], char32_t c) {
 
 }  // namespace
 
-bool IsNameStartCharacter(char32_t c) {
-  return c < 0x80 ? IsClass(static_cast<char>(c), kNameStart) : IsIn(kStartRanges, c);
-}
+bool IsNameStartCharacter(char32_t c) { return IsIn(kStartRanges, c); }
 
 bool IsNameCharacter(char32_t c) {
   if (c < 0x80) return IsClass(static_cast<char>(c), kName);

@@ -43,7 +43,9 @@ inline bool IsClass(char c, CharacterClass wanted) {
 
 inline bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
-/// NameStartChar and NameChar of XML 1.0, fifth edition, without the colon.
+// NameStartChar and NameChar of XML 1.0, fifth edition, without the colon.
+
+/// `c` is not ASCII: characters that are have their classes.
 bool IsNameStartCharacter(char32_t c);
 bool IsNameCharacter(char32_t c);
 

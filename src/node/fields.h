@@ -174,7 +174,7 @@ class ChildList final : public ItemList {
   ChildList(ChildList&& other) noexcept { Swap(other); }
   ChildList& operator=(const ChildList&) = delete;  // Assign copies
   ChildList& operator=(ChildList&& other) noexcept {
-    if (this != &other) ChildList(std::move(other)).Swap(*this);
+    ChildList(std::move(other)).Swap(*this);
     return *this;
   }
   ~ChildList() { RemoveAll(); }
@@ -213,6 +213,10 @@ class ChildList final : public ItemList {
     Block* older;
   };
 
+  /// The first blocks have room for one item more than the one before, or for two if items are
+  /// small.
+  static constexpr DWORD kFirst = sizeof(C) <= 256 ? 2 : 1;
+
   /// No block has room for more items.
   static constexpr DWORD kMostAtOnce = 64;
 
@@ -227,8 +231,7 @@ class ChildList final : public ItemList {
   /// Adds a block. It gets a new table if the present one is too small for the added items.
   void Grow() {
     static_assert(alignof(C) <= alignof(Block));
-    const DWORD added = std::min(
-        capacity_ < 8 ? capacity_ + (sizeof(C) <= 256 ? 2 : 1) : capacity_ / 2, kMostAtOnce);
+    const DWORD added = std::min(capacity_ < 8 ? capacity_ + kFirst : capacity_ / 2, kMostAtOnce);
     const DWORD capacity = capacity_ + added;
     const DWORD table_size = capacity <= table_size_ ? 0 : std::max(capacity, 2 * table_size_);
     const std::size_t table_bytes = AlignUp(table_size * sizeof(C*));

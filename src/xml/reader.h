@@ -94,7 +94,6 @@ class CXMLLiteManagerReader final : public CXMLLiteManager {
 };
 
 inline int CXMLLiteManagerReader::NextNode(const KnownTags& tags, std::size_t& index) {
-  if (!stream_) return XmlNodeType_None;
   if (reader_.ReadKnownTag(tags, index)) {
     node_type_ = reader_.type();
     if (node_type_ == XmlNodeType_Element) {

@@ -211,8 +211,11 @@ TEST(Writer, StaysRefusingAfterACallThatIsNotAllowed) {
   // A line feed counts as content: a declaration has to come first.
   SinkStream sink;
   XmlWriter writer;
+  EXPECT_EQ(writer.WriteStartDocument(), E_UNEXPECTED);
   EXPECT_EQ(writer.WriteStartElement(L"a"), E_UNEXPECTED);
+  EXPECT_EQ(writer.WriteAttribute(L"a", L""), E_UNEXPECTED);
   EXPECT_EQ(writer.WriteLineFeed(), E_UNEXPECTED);
+  EXPECT_EQ(writer.WriteEndDocument(), E_UNEXPECTED);
   EXPECT_EQ(writer.Flush(), S_OK);
   ASSERT_EQ(writer.SetOutput(&sink), S_OK);
   EXPECT_EQ(writer.WriteLineFeed(), S_OK);

@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <string>
+#include <utility>
 
 #include "platform/com_ptr.h"
 #include "platform/open_to_read.h"
@@ -56,6 +57,18 @@ TEST(Posix, OpensFilesWithTheErrorsOfWindows) {
   const DWORD without_descriptors = ErrorOfReading(file.Wide());
   ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &limit), 0);
   EXPECT_EQ(without_descriptors, ERROR_TOO_MANY_OPEN_FILES);
+
+  for (const auto& [error_number, expected] : {std::pair{ENFILE, ERROR_TOO_MANY_OPEN_FILES},
+                                               {EACCES, ERROR_ACCESS_DENIED},
+                                               {EPERM, ERROR_ACCESS_DENIED},
+                                               {EROFS, ERROR_ACCESS_DENIED},
+                                               {ETXTBSY, ERROR_ACCESS_DENIED},
+                                               {ENOMEM, ERROR_NOT_ENOUGH_MEMORY},
+                                               {EDQUOT, ERROR_DISK_FULL},
+                                               {EXDEV, ERROR_GEN_FAILURE}}) {
+    const SystemFault fault(SystemCall::kOpen, 0, error_number);
+    EXPECT_EQ(ErrorOfReading(file.Wide()), expected);
+  }
 }
 
 TEST(Posix, RefusesWhatIsNoFile) {
@@ -79,6 +92,9 @@ TEST(Posix, ReportsWhatAStreamMeets) {
     const SystemFault broken(SystemCall::kRead, 0, EIO);
     EXPECT_EQ(stream->Read(bytes, sizeof bytes, &count), HRESULT_FROM_WIN32(ERROR_IO_DEVICE));
     EXPECT_EQ(count, 0U);
+    const SystemFault interrupted(SystemCall::kRead, 0, EINTR);
+    EXPECT_EQ(stream->Read(bytes, sizeof bytes, &count), S_OK);
+    EXPECT_EQ(count, sizeof bytes);
   }
   const DWORD mode = STGM_CREATE | STGM_WRITE;
   ASSERT_EQ(SHCreateStreamOnFileW(file.Wide().c_str(), mode, stream.Receive()), S_OK);
