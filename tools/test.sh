@@ -121,6 +121,12 @@ part_sources() {
   check 'Python scripts' pyflakes3 tools/*.py
   check 'examples of the pages' tools/check-examples.sh
   check 'tables that must not compile' tools/must-fail.sh
+  check 'factories that the headers declare' compare_factories
+}
+
+compare_factories() {
+  diff <(grep -rho '[A-Za-z]*_CreateNewInstance()' include | sed 's/_.*//' | sort) \
+    <(sed -n 's/^TOLVA_FACTORY([^,]*, *\([^,]*\),.*/\1/p' src/exports/factories.def | sort)
 }
 
 part_linux() {
