@@ -66,7 +66,7 @@ constinit const Schema CclassifierType::kSchema = Checked({
 });
 
 constexpr Child kDetectedValueChildren[] = {
-    Elem<&CdetectedValue::value_>(L"value"),
+    Elem<&CdetectedValue::value_>(L"value").NamesItem(),
     Elem<&CdetectedValue::count_>(L"count").AbsenceReportedFirst(),
     Elem<&CdetectedValue::location_>(L"location"),
     Elem<&CdetectedValue::context_>(L"context"),
@@ -94,7 +94,7 @@ constinit const Schema CcustomDisplayText::kSchema = Checked({
 });
 
 constexpr Child kViolationChildren[] = {
-    Elem<&Cviolation::name_>(L"name"),
+    Elem<&Cviolation::name_>(L"name").NamesItem(),
     Elem<&Cviolation::policyID_>(L"policyID"),
     Elem<&Cviolation::severity_>(L"severity"),
     Elem<&Cviolation::numOfMatches_>(L"numOfMatches"),
@@ -122,7 +122,7 @@ constinit const Schema Cviolations::kSchema = Checked({
 
 constexpr Attribute kAddressAttributes[] = {
     Attr<&Caddress::type_>(L"type", {kAddressTypes}).KeepsValue(),
-    Attr<&Caddress::value_>(L"value"),
+    Attr<&Caddress::value_>(L"value").NamesItem(),
 };
 constinit const Schema Caddress::kSchema = Checked({
     .element = L"address",
@@ -150,7 +150,7 @@ constinit const Schema Cdestinations::kSchema = Checked({
 
 constexpr Attribute kExtractedContentAttributes[] = {
     Attr<&CextractedContent::type_>(L"type", {kContentTypes}).KeepsValue(),
-    Attr<&CextractedContent::value_>(L"value"),
+    Attr<&CextractedContent::value_>(L"value").NamesItem(),
 };
 constinit const Schema CextractedContent::kSchema = Checked({
     .element = L"extractedContent",

@@ -3,8 +3,8 @@
 namespace CIConfInterface {
 
 constexpr Attribute kEIMServerAttributes[] = {
-    Attr<&CEIMServer::hostName_>(L"HostName"),
-    Attr<&CEIMServer::portNumber_>(L"PortNumber"),
+    Attr<&CEIMServer::hostName_>(L"HostName").NamesItem(),
+    Attr<&CEIMServer::portNumber_>(L"PortNumber").NamesItem(),
 };
 constinit const Schema CEIMServer::kSchema = Checked({
     .element = L"EIMServer",
@@ -75,7 +75,7 @@ constinit const Schema CClientSetting::kSchema = Checked({
 });
 
 constexpr Attribute kURLConditionAttributes[] = {
-    Attr<&CURLCondition::siteURL_>(L"SiteURL"),
+    Attr<&CURLCondition::siteURL_>(L"SiteURL").NamesItem(),
 };
 constinit const Schema CURLCondition::kSchema = Checked({
     .element = L"URLCondition",

@@ -10,7 +10,7 @@ constexpr Name kAppNames[] = {L"RESERVED", L"CHROME", L"FIREFOX"};
 constexpr Attribute kEPClientSettingAttributes[] = {
     Attr<&CEPClientSetting::enableTamperProtection_>(L"EnableTamperProtection"),
     Attr<&CEPClientSetting::enableTelemetry_>(L"EnableTelemetry"),
-    Attr<&CEPClientSetting::adminPasswordHash_>(L"AdminPasswordHash"),
+    Attr<&CEPClientSetting::adminPasswordHash_>(L"AdminPasswordHash").Secret(),
     Attr<&CEPClientSetting::installDirectory_>(L"InstallDirectory"),
 };
 constinit const Schema CEPClientSetting::kSchema = Checked({
@@ -43,10 +43,10 @@ constinit const Schema CAutoUpdate::kSchema = Checked({
 });
 
 constexpr Attribute kSettingAttributes[] = {
-    Attr<&CSetting::appName_>(L"AppName", {kAppNames, L"FIREFOX"}).KeepsValue(),
+    Attr<&CSetting::appName_>(L"AppName", {kAppNames, L"FIREFOX"}).KeepsValue().NamesItem(),
     Attr<&CSetting::appFileName_>(L"AppFileName"),
-    Attr<&CSetting::appVersionMajor_>(L"AppVersionMajor"),
-    Attr<&CSetting::appVersionMinor_>(L"AppVersionMinor"),
+    Attr<&CSetting::appVersionMajor_>(L"AppVersionMajor").NamesItem(),
+    Attr<&CSetting::appVersionMinor_>(L"AppVersionMinor").NamesItem(),
     Attr<&CSetting::minimumWindowsBuild_>(L"MinimumWindowsBuild"),
     Attr<&CSetting::minimumMacBuild_>(L"MinimumMacBuild"),
 };

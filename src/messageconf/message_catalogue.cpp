@@ -15,7 +15,7 @@ constinit const Schema CContent::kSchema = Checked({
 });
 
 constexpr Attribute kMessageAttributes[] = {
-    Attr<&CMessage::id_>(L"ID"),
+    Attr<&CMessage::id_>(L"ID").NamesItem(),
 };
 constexpr Child kMessageChildren[] = {
     Elem<&CMessage::content_>(L"Content"),
@@ -39,7 +39,7 @@ constinit const Schema CEndpointLocalMsg::kSchema = Checked({
 
 constexpr Attribute kEndPointMessageAttributes[] = {
     Attr<&CEndPointMessage::schemaVersion_>(L"SchemaVersion"),
-    Attr<&CEndPointMessage::language_>(L"Language"),
+    Attr<&CEndPointMessage::language_>(L"Language").NamesItem(),
 };
 constexpr Child kEndPointMessageChildren[] = {
     Elem<&CEndPointMessage::messages_>(L"Message"),

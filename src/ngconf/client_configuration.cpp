@@ -25,7 +25,7 @@ constinit const Schema CLogReport::kSchema = Checked({
 });
 
 constexpr Attribute kNGUserAttributes[] = {
-    Attr<&CNGUser::name_>(L"Name"),
+    Attr<&CNGUser::name_>(L"Name").NamesItem(),
     Attr<&CNGUser::enableTrayIconMenu_>(L"EnableTrayIconMenu"),
 };
 constinit const Schema CNGUser::kSchema = Checked({
@@ -69,7 +69,7 @@ constinit const Schema CClientManagement::kSchema = Checked({
 });
 
 constexpr Attribute kHTTPHeaderAttributes[] = {
-    Attr<&CHTTPHeader::headerName_>(L"HeaderName"),
+    Attr<&CHTTPHeader::headerName_>(L"HeaderName").NamesItem(),
     Attr<&CHTTPHeader::headerValue_>(L"HeaderValue"),
 };
 constinit const Schema CHTTPHeader::kSchema = Checked({

@@ -35,8 +35,8 @@ constinit const Schema CScanEngineSSLSetting::kSchema = Checked({
 });
 
 constexpr Attribute kIPNodeAttributes[] = {
-    Attr<&CIPNode::ipRange_>(L"IPRange"),
-    Attr<&CIPNode::portNumber_>(L"PortNumber"),
+    Attr<&CIPNode::ipRange_>(L"IPRange").NamesItem(),
+    Attr<&CIPNode::portNumber_>(L"PortNumber").NamesItem(),
 };
 constinit const Schema CIPNode::kSchema = Checked({
     .element = L"IPNode",
@@ -98,7 +98,7 @@ constinit const Schema CScanSetting::kSchema = Checked({
 });
 
 constexpr Attribute kClientRequestHeaderAttributes[] = {
-    Attr<&CClientRequestHeader::headerName_>(L"HeaderName"),
+    Attr<&CClientRequestHeader::headerName_>(L"HeaderName").NamesItem(),
 };
 constinit const Schema CClientRequestHeader::kSchema = Checked({
     .element = L"ClientRequestHeader",

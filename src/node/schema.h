@@ -95,6 +95,10 @@ struct Attribute {
 
   OwnReport read_report = {};  ///< missing though required, or malformed
 
+  // What programs that show documents to people know about the attribute.
+  bool is_secret = false;   ///< key material or a password hash, which is not to be shown
+  bool names_item = false;  ///< tells the items of a list apart, alone or with others
+
   consteval Attribute MayBeAbsent() const {
     internal::Require(!is_optional, "an optional attribute may be absent in any case");
     Attribute row = *this;
@@ -137,6 +141,19 @@ struct Attribute {
     row.read_report = text;
     return row;
   }
+  consteval Attribute Secret() const {
+    internal::Require(type == ValueType::kString, "only a string can be a secret");
+    internal::Require(!names_item, "what names an item cannot be a secret");
+    Attribute row = *this;
+    row.is_secret = true;
+    return row;
+  }
+  consteval Attribute NamesItem() const {
+    internal::Require(!is_secret, "what names an item cannot be a secret");
+    Attribute row = *this;
+    row.names_item = true;
+    return row;
+  }
 };
 
 enum class Occurrence : std::uint8_t { kRequired, kOptional, kRepeated };
@@ -169,6 +186,8 @@ struct Child {
   OwnReport absence_report = {};
   std::wstring_view before_write = {};  ///< reported before the child is written
   std::wstring_view after_write = {};   ///< reported after the child has been written
+
+  bool names_item = false;  ///< a text element that tells the items of a list apart
 
   constexpr const Name& name() const { return tag.name; }
 
@@ -204,6 +223,12 @@ struct Child {
     internal::Require(occurrence == Occurrence::kRequired, "only a required child can be missing");
     Child row = *this;
     row.absence_report = text;
+    return row;
+  }
+  consteval Child NamesItem() const {
+    internal::Require(occurrence == Occurrence::kRequired, "only a required child names an item");
+    Child row = *this;
+    row.names_item = true;
     return row;
   }
   consteval Child Announced(std::wstring_view before, std::wstring_view after) const {

@@ -3,7 +3,7 @@
 namespace PatchFileHistory {
 
 constexpr Attribute kWSModuleAttributes[] = {
-    Attr<&CWSModule::name_>(L"Name"),
+    Attr<&CWSModule::name_>(L"Name").NamesItem(),
     Attr<&CWSModule::version_>(L"Version"),
     Attr<&CWSModule::productID_>(L"ProductID"),
     Attr<&CWSModule::previouslyExisted_>(L"PreviouslyExisted"),
@@ -26,7 +26,7 @@ constinit const Schema CModuleListingArray::kSchema = Checked({
 });
 
 constexpr Attribute kPatchFileInfoAttributes[] = {
-    Attr<&CPatchFileInfo::name_>(L"Name"),
+    Attr<&CPatchFileInfo::name_>(L"Name").NamesItem(),
     Attr<&CPatchFileInfo::updateDate_>(L"UpdateDate"),
     Attr<&CPatchFileInfo::patchVersion_>(L"PatchVersion"),
     Attr<&CPatchFileInfo::productID_>(L"ProductID"),

@@ -42,7 +42,7 @@ constinit const Schema CILPAppFile::kSchema = Checked({
 });
 
 constexpr Attribute kPrinterAttributes[] = {
-    Attr<&CPrinter::name_>(L"Name"),
+    Attr<&CPrinter::name_>(L"Name").NamesItem(),
 };
 constinit const Schema CPrinter::kSchema = Checked({
     .element = L"Printer",

@@ -3,7 +3,7 @@
 namespace TolvaInterface {
 
 constexpr Attribute kArConditionAttributes[] = {
-    Attr<&CArCondition::appName_>(L"AppName"),
+    Attr<&CArCondition::appName_>(L"AppName").NamesItem(),
     Attr<&CArCondition::resFileDescription_>(L"ResFileDescription"),
     Attr<&CArCondition::resProductName_>(L"ResProductName"),
     Attr<&CArCondition::resCompany_>(L"ResCompany"),
@@ -16,7 +16,7 @@ constinit const Schema CArCondition::kSchema = Checked({
 });
 
 constexpr Attribute kUrlConditionAttributes[] = {
-    Attr<&CUrlCondition::url_>(L"URL"),
+    Attr<&CUrlCondition::url_>(L"URL").NamesItem(),
 };
 constinit const Schema CUrlCondition::kSchema = Checked({
     .element = L"UrlCondition",
@@ -26,7 +26,7 @@ constinit const Schema CUrlCondition::kSchema = Checked({
 
 constexpr Attribute kAppRuleAttributes[] = {
     Attr<&CAppRule::action_>(L"Action", {kRuleActions}),
-    Attr<&CAppRule::appid_>(L"Appid"),
+    Attr<&CAppRule::appid_>(L"Appid").NamesItem(),
     Attr<&CAppRule::allowAccessAfterFileCreation_>(L"AllowAccessAfterFileCreation"),
 };
 constinit const Schema CAppRule::kSchema = Checked({
@@ -38,7 +38,7 @@ constinit const Schema CAppRule::kSchema = Checked({
 
 constexpr Attribute kOnlineAppsAttributes[] = {
     Attr<&COnlineApps::action_>(L"Action", {kRuleActions}),
-    Attr<&COnlineApps::appid_>(L"Appid"),
+    Attr<&COnlineApps::appid_>(L"Appid").NamesItem(),
 };
 constexpr Child kOnlineAppsChildren[] = {
     Elem<&COnlineApps::arConditions_>(L"ArCondition"),

@@ -51,7 +51,7 @@ constinit const Schema CDiscoverySettings::kSchema = Checked({
 });
 
 constexpr Attribute kDiscoveryJobAttributes[] = {
-    Attr<&CDiscoveryJob::id_>(L"Id"),
+    Attr<&CDiscoveryJob::id_>(L"Id").NamesItem(),
     Attr<&CDiscoveryJob::sid_>(L"Sid"),
     Attr<&CDiscoveryJob::cid_>(L"Cid"),
     Attr<&CDiscoveryJob::taskid_>(L"Taskid"),

@@ -4,8 +4,8 @@ namespace TolvaInterface {
 
 constexpr Attribute kPrimaryKeyAttributes[] = {
     Attr<&CPrimaryKey::keyID_>(L"KeyID"),
-    Attr<&CPrimaryKey::key_>(L"Key"),
-    Attr<&CPrimaryKey::fileHeader_>(L"FileHeader"),
+    Attr<&CPrimaryKey::key_>(L"Key").Secret(),
+    Attr<&CPrimaryKey::fileHeader_>(L"FileHeader").Secret(),
 };
 constinit const Schema CPrimaryKey::kSchema = Checked({
     .element = L"PrimaryKey",
@@ -14,8 +14,8 @@ constinit const Schema CPrimaryKey::kSchema = Checked({
 });
 
 constexpr Attribute kOldKeyAttributes[] = {
-    Attr<&COldKey::keyID_>(L"KeyID"),
-    Attr<&COldKey::key_>(L"Key"),
+    Attr<&COldKey::keyID_>(L"KeyID").NamesItem(),
+    Attr<&COldKey::key_>(L"Key").Secret(),
 };
 constinit const Schema COldKey::kSchema = Checked({
     .element = L"OldKey",

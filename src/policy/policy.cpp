@@ -39,7 +39,7 @@ constinit const Schema CILPProtection::kSchema = Checked({
 });
 
 constexpr Attribute kLocationAttributes[] = {
-    Attr<&CLocation::name_>(L"Name"),
+    Attr<&CLocation::name_>(L"Name").NamesItem(),
     Attr<&CLocation::desc_>(L"Desc"),
     Attr<&CLocation::criteriaCPSconnection_>(L"CriteriaCPSconnection"),
 };
@@ -87,7 +87,7 @@ constexpr Attribute kUserInterfaceAttributes[] = {
     Attr<&CUserInterface::localBypassButtonTimeout_>(L"LocalBypassButtonTimeout"),
     Attr<&CUserInterface::defaultActionOnUserPromptTimeout_>(L"DefaultActionOnUserPromptTimeout",
                                                              {kPromptActions}),
-    Attr<&CUserInterface::adminPasswordHash_>(L"AdminPasswordHash"),
+    Attr<&CUserInterface::adminPasswordHash_>(L"AdminPasswordHash").Secret(),
     Attr<&CUserInterface::disableScanProgressTooltip_>(L"DisableScanProgressTooltip"),
     Attr<&CUserInterface::disableFileOperationTooltip_>(L"DisableFileOperationTooltip"),
     Attr<&CUserInterface::showExportDecryptToolMenu_>(L"ShowExportDecryptToolMenu"),

@@ -4,9 +4,9 @@ namespace TolvaInterface {
 
 constexpr Attribute kDeviceRuleAttributes[] = {
     Attr<&CDeviceRule::action_>(L"Action", {kRuleActions}),
-    Attr<&CDeviceRule::deviceName_>(L"DeviceName"),
-    Attr<&CDeviceRule::serialNumber_>(L"SerialNumber"),
-    Attr<&CDeviceRule::vendorID_>(L"VendorID"),
+    Attr<&CDeviceRule::deviceName_>(L"DeviceName").NamesItem(),
+    Attr<&CDeviceRule::serialNumber_>(L"SerialNumber").NamesItem(),
+    Attr<&CDeviceRule::vendorID_>(L"VendorID").NamesItem(),
 };
 constinit const Schema CDeviceRule::kSchema = Checked({
     .element = L"DeviceRule",
@@ -16,7 +16,7 @@ constinit const Schema CDeviceRule::kSchema = Checked({
 
 constexpr Attribute kRemoteDriveRuleAttributes[] = {
     Attr<&CRemoteDriveRule::action_>(L"Action", {kRuleActions}),
-    Attr<&CRemoteDriveRule::shareName_>(L"ShareName"),
+    Attr<&CRemoteDriveRule::shareName_>(L"ShareName").NamesItem(),
 };
 constinit const Schema CRemoteDriveRule::kSchema = Checked({
     .element = L"RemoteDriveRule",

@@ -9,7 +9,7 @@ constexpr Name kBrowserNames[] = {L"CHROME", L"FIREFOX", L"EDGE"};
 
 constexpr Attribute kWebAccessRuleAttributes[] = {
     Attr<&CWebAccessRule::action_>(L"Action", {kRuleActions}),
-    Attr<&CWebAccessRule::destinationHost_>(L"DestinationHost"),
+    Attr<&CWebAccessRule::destinationHost_>(L"DestinationHost").NamesItem(),
 };
 constinit const Schema CWebAccessRule::kSchema = Checked({
     .element = L"WebAccessRule",
@@ -18,7 +18,7 @@ constinit const Schema CWebAccessRule::kSchema = Checked({
 });
 
 constexpr Attribute kBrowserExtensionAttributes[] = {
-    Attr<&CBrowserExtension::browserName_>(L"BrowserName", {kBrowserNames}),
+    Attr<&CBrowserExtension::browserName_>(L"BrowserName", {kBrowserNames}).NamesItem(),
     Attr<&CBrowserExtension::enableExtension_>(L"EnableExtension"),
     Attr<&CBrowserExtension::enableMonitorMode_>(L"EnableMonitorMode"),
 };
@@ -60,7 +60,7 @@ constinit const Schema CIncludeApps::kSchema = Checked({
 });
 
 constexpr Attribute kExcludeDomainAttributes[] = {
-    Attr<&CExcludeDomain::url_>(L"URL"),
+    Attr<&CExcludeDomain::url_>(L"URL").NamesItem(),
 };
 constinit const Schema CExcludeDomain::kSchema = Checked({
     .element = L"ExcludeDomain",
@@ -78,7 +78,7 @@ constinit const Schema CExcludeDomains::kSchema = Checked({
 });
 
 constexpr Attribute kExcludeJSInjectDomainAttributes[] = {
-    Attr<&CExcludeJSInjectDomain::url_>(L"URL"),
+    Attr<&CExcludeJSInjectDomain::url_>(L"URL").NamesItem(),
 };
 constinit const Schema CExcludeJSInjectDomain::kSchema = Checked({
     .element = L"ExcludeDomain",
@@ -104,8 +104,8 @@ constinit const Schema CExcludeJSInjectDomains::kSchema = Checked({
 });
 
 constexpr Attribute kLocalProxyAttributes[] = {
-    Attr<&CLocalProxy::ip_>(L"IP"),
-    Attr<&CLocalProxy::port_>(L"Port"),
+    Attr<&CLocalProxy::ip_>(L"IP").NamesItem(),
+    Attr<&CLocalProxy::port_>(L"Port").NamesItem(),
 };
 constinit const Schema CLocalProxy::kSchema = Checked({
     .element = L"LocalProxy",

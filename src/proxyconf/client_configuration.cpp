@@ -74,7 +74,7 @@ constexpr Attribute kClientSettingAttributes[] = {
     Attr<&CClientSetting::enableTelemetry_>(L"EnableTelemetry")
         .PresentWhenClear()
         .ReadReport(kReadEnableTelemetry),
-    Attr<&CClientSetting::adminPasswordHash_>(L"AdminPasswordHash"),
+    Attr<&CClientSetting::adminPasswordHash_>(L"AdminPasswordHash").Secret(),
 };
 constexpr Child kClientSettingChildren[] = {
     Elem<&CClientSetting::userInterface_>(L"UserInterface"),
@@ -98,7 +98,7 @@ constinit const Schema CIEProxySetting::kSchema = Checked({
 });
 
 constexpr Attribute kIEUserProxySettingAttributes[] = {
-    Attr<&CIEUserProxySetting::userID_>(L"UserID"),
+    Attr<&CIEUserProxySetting::userID_>(L"UserID").NamesItem(),
     Attr<&CIEUserProxySetting::proxySetting_>(L"ProxySetting"),
     Attr<&CIEUserProxySetting::currentUserProxyURL_>(L"CurrentUserProxyURL"),
 };

@@ -3,8 +3,8 @@
 namespace RFConfInterface {
 
 constexpr Attribute kRFServerAttributes[] = {
-    Attr<&CRFServer::hostName_>(L"HostName"),
-    Attr<&CRFServer::portNumber_>(L"PortNumber"),
+    Attr<&CRFServer::hostName_>(L"HostName").NamesItem(),
+    Attr<&CRFServer::portNumber_>(L"PortNumber").NamesItem(),
 };
 constinit const Schema CRFServer::kSchema = Checked({
     .element = L"RFServer",
@@ -86,7 +86,7 @@ constexpr Attribute kClientSettingAttributes[] = {
         .MayBeAbsent()
         .ReadReport(kReadEnableTelemetry),
     Attr<&CClientSetting::disableFiltering_>(L"DisableFiltering"),
-    Attr<&CClientSetting::adminPasswordHash_>(L"AdminPasswordHash"),
+    Attr<&CClientSetting::adminPasswordHash_>(L"AdminPasswordHash").Secret(),
 };
 constexpr Child kClientSettingChildren[] = {
     Elem<&CClientSetting::userInterface_>(L"UserInterface"),
@@ -99,7 +99,7 @@ constinit const Schema CClientSetting::kSchema = Checked({
 });
 
 constexpr Attribute kRFURLConditionAttributes[] = {
-    Attr<&CRFURLCondition::siteURL_>(L"SiteURL"),
+    Attr<&CRFURLCondition::siteURL_>(L"SiteURL").NamesItem(),
 };
 constinit const Schema CRFURLCondition::kSchema = Checked({
     .element = L"RFURLCondition",

@@ -37,9 +37,10 @@ class CTree final : public Node<CTree, ILeaf> {
 constexpr Attribute kLeafAttributes[] = {
     Attr<&CLeaf::number>(L"Number", {kColours}).MayBeAbsent().IgnoresWriteFailure().KeepsValue(),
     Attr<&CLeaf::optional_number>(L"Optional").OneWhenAbsent().PresentWhenClear().KeepsPresence(),
+    Attr<&CLeaf::string>(L"Key").Secret(),
 };
 constexpr Child kChildren[] = {
-    Elem<&CTree::leaf>(L"Leaf").MayBeAbsent().AbsenceReportedFirst().AbsenceReport(L""),
+    Elem<&CTree::leaf>(L"Leaf").NamesItem().MayBeAbsent().AbsenceReportedFirst().AbsenceReport(L""),
     Elem<&CTree::optional_leaf>(L"OptionalLeaf").KeepsPresence(),
     Elem<&CTree::leaves>(L"Leaves"),
 };
@@ -96,6 +97,14 @@ constexpr Child kRows[] = {Elem<&CTree::leaf>(L"0")};
 constexpr Child kLeaf = Elem<&CTree::leaf>(L"Leaf");
 constexpr Child kRows[33] = {kLeaf};
 #define TOLVA_ROWS .children = kRows
+#elif CASE == 22  // only a string can be a secret
+constexpr Attribute kRow = Attr<&CLeaf::number>(L"Name").Secret();
+#elif CASE == 23  // what names an item cannot be a secret
+constexpr Attribute kRow = Attr<&CLeaf::string>(L"Name").Secret().NamesItem();
+#elif CASE == 24  // what names an item cannot be a secret
+constexpr Attribute kRow = Attr<&CLeaf::string>(L"Name").NamesItem().Secret();
+#elif CASE == 25  // only a required child names an item
+constexpr Child kRow = Elem<&CTree::optional_leaf>(L"Leaf").NamesItem();
 #endif
 
 #if defined(TOLVA_ROWS)
