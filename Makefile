@@ -1,7 +1,7 @@
 # Everything that this repository can do, by name: `make help`.
 .DEFAULT_GOAL := help
-.PHONY: help demo demo-windows build quick test coverage mutants abi lists documents format tidy
-.PHONY: conformance fuzz bench clean
+.PHONY: help demo demo-windows build tool quick test coverage mutants abi lists documents format
+.PHONY: tidy conformance fuzz bench clean
 
 # Where ccache is installed, what has been compiled once is not compiled again.
 export CMAKE_CXX_COMPILER_LAUNCHER ?= $(shell command -v ccache)
@@ -32,6 +32,11 @@ build: ## The library alone, optimised, in build/linux-release
 	@tools/packages.sh build
 	@cmake --preset linux-release -DTOLVA_TESTS=OFF > /dev/null
 	@cmake --build --preset linux-release --target tolva
+
+tool: ## The command-line tool, as build/linux-release/cli/tolva
+	@tools/packages.sh tool
+	@cmake --preset linux-release -DTOLVA_TESTS=OFF > /dev/null
+	@cmake --build --preset linux-release --target tolva_tool
 
 quick: ## After a change: formatting, release build, unit tests
 	@tools/packages.sh test

@@ -1,13 +1,16 @@
 #!/bin/sh
 # Installs the Debian packages that a target needs, if any of them is missing:
-#   packages.sh build|windows|test|mutants|conformance|bench
+#   packages.sh build|tool|windows|test|mutants|conformance|bench
 set -eu
 
 build='g++ cmake ninja-build'
+tool='libcli11-dev nlohmann-json3-dev'
+tool_tests='libxml2-utils python3 python3-jsonschema mandoc chromium chromium-driver fish zsh'
 windows='g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64'
-test="$build $windows googletest clang clang-format clang-tidy llvm libclang-rt-14-dev pkg-config shellcheck libexpat1-dev valgrind ccache python3 pyflakes3"
+test="$build $tool $tool_tests $windows googletest clang clang-format clang-tidy llvm libclang-rt-14-dev pkg-config shellcheck libexpat1-dev valgrind ccache python3 pyflakes3"
 case ${1:-} in
   build) wanted=$build ;;
+  tool) wanted="$build $tool" ;;
   windows) wanted="$build $windows" ;;
   test) wanted=$test ;;
   mutants) wanted="$build googletest libexpat1-dev ccache python3" ;;
@@ -18,7 +21,7 @@ case ${1:-} in
   bench)
     wanted="$build dpkg-dev libbenchmark-dev librapidxml-dev libexpat1-dev libxml2-dev libxerces-c-dev xsdcxx gnuplot-nox"
     ;;
-  *) echo 'usage: packages.sh build|windows|test|mutants|conformance|bench' >&2; exit 2 ;;
+  *) echo 'usage: packages.sh build|tool|windows|test|mutants|conformance|bench' >&2; exit 2 ;;
 esac
 
 missing=

@@ -141,7 +141,7 @@ part_linux() {
   local lib
   lib=$(sed -n 's/^CMAKE_INSTALL_LIBDIR:PATH=//p' build/linux-release/CMakeCache.txt)
   package linux-release "$(printf '%s\n' "$lib"/libtolva{.so{,.1,.1.0.0},-support.a} \
-    "$lib"/pkgconfig/tolva{,-support}.pc; cmake_files "$lib" release)" ''
+    "$lib"/pkgconfig/tolva{,-support}.pc bin/tolva; cmake_files "$lib" release)" ''
   check 'linux-release: pkg-config' pkg_config_consumer "$PWD/build/linux-release/installed/$lib"
 }
 
@@ -157,9 +157,10 @@ part_quick() {
   check 'formatting' tools/format.sh --check
   check 'linux-release: configure' cmake --preset linux-release || return
   check 'linux-release: build' cmake --build --preset linux-release \
-    --target tolva_inner_tests tolva_api_tests || return
+    --target tolva_inner_tests tolva_api_tests tolva_cli_tests || return
   programs linux-release '' inner
   programs linux-release '' api
+  programs linux-release '' cli
 }
 
 part_speed() {
@@ -193,7 +194,7 @@ part_valgrind() {
   build linux-release || return
   local program
   # valgrind would replace the tests' own operator new, which makes memory run out.
-  for program in inner api support; do
+  for program in inner api support cli; do
     check "valgrind: tolva_${program}_tests" valgrind -q --error-exitcode=1 --leak-check=full \
       --soname-synonyms=somalloc=nouserintercepts --suppressions=tests/valgrind.supp \
       "build/linux-release/tests/tolva_${program}_tests" --gtest_brief=1
@@ -213,7 +214,7 @@ part_windows() {
   check 'windows: exported symbols' tools/abi.sh windows
   check 'windows: an export for each factory' count_exports
   demo windows tools/run-windows.sh active-directory broken  # Wine's XmlLite does not escape
-  package windows "$(printf '%s\n' bin/tolva.dll lib/libtolva{.dll,-support}.a \
+  package windows "$(printf '%s\n' bin/tolva.{dll,exe} lib/libtolva{.dll,-support}.a \
     lib/pkgconfig/tolva{,-support}.pc; cmake_files lib release)" "env TOLVA_WINEPATH=$PWD/build/windows/installed/bin tools/run-windows.sh" \
     -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake"
 }
@@ -227,6 +228,7 @@ count_exports() {
   [ "$exports" = $((factories + 6)) ]
 }
 
+# The tool has the own layer in any case: the part above tests it.
 part_windows-own() {
   echo 'Windows, own XML layer, under Wine'
   build windows-own || return

@@ -87,7 +87,8 @@ def main():
     arguments = parser.parse_args()
 
     subprocess.run(
-        ["cmake", "--build", str(BUILD), "--target", "lists"], check=True, capture_output=True
+        ["cmake", "--build", str(BUILD), "--target", "lists", "tolva_sentences"],
+        check=True, capture_output=True
     )
     # Sources that several programs have are compiled several times: once is enough here.
     entries = {}

@@ -1,0 +1,107 @@
+#include "cli/inputs.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <filesystem>
+#include <set>
+
+#include "cli/session.h"
+#include "cli/text.h"
+
+namespace tolva::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Unreadable(const std::string& name, const std::string& reason) {
+  return "'" + Printable(name) + "' cannot be read: " + reason;
+}
+
+bool IsDocumentName(const fs::path& path) {
+  const std::string extension = NameOf(path.extension());
+  constexpr std::string_view kExtension = ".xml";
+  return std::ranges::equal(extension, kExtension, {}, [](char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  });
+}
+
+class Finder {
+ public:
+  explicit Finder(const ReportTrouble& report) : report_(report) {}
+
+  void AddFolder(const fs::path& folder) {
+    std::error_code error;
+    const fs::path real = fs::canonical(folder, error);
+    if (!error && !known_.insert(real).second) return;
+    std::vector<fs::path> entries;
+    fs::directory_iterator entry;
+    if (!error) entry = fs::directory_iterator(folder, error);
+    while (!error && entry != fs::directory_iterator()) {
+      entries.push_back(entry->path());
+      entry.increment(error);
+    }
+    if (error) report_(Unreadable(NameOf(folder), ReasonOf(ResultOf(error))));
+    std::ranges::sort(entries);
+    for (const fs::path& one : entries) AddEntry(one);
+  }
+
+  std::vector<Input> inputs;
+
+ private:
+  void AddEntry(const fs::path& path) {
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (fs::is_directory(status)) {
+      AddFolder(path);
+    } else if (IsDocumentName(path)) {
+      // Reading from a pipe would wait for another process. What is gone or not accessible is told
+      // when it is opened.
+      const bool is_special = fs::exists(status) && !fs::is_regular_file(status);
+      if (!is_special) inputs.push_back({.name = NameOf(path), .is_from_folder = true});
+    }
+  }
+
+  const ReportTrouble& report_;
+  std::set<fs::path> known_;
+};
+
+}  // namespace
+
+void AddInputs(CLI::App& verb, InputOptions& options) {
+  verb.add_option("file", options.names, "the documents; '-' is standard input.")
+      ->type_name("FILE")
+      ->required();
+  verb.add_flag("-r,--recursive", options.is_recursive,
+                "reads the files *.xml in the folders that are named, and in what is below them.");
+  verb.add_option("--stdin-name", options.stdin_name, "what messages call standard input.")
+      ->type_name("NAME");
+}
+
+std::vector<Input> FindInputs(const InputOptions& options, const ReportTrouble& report) {
+  Finder finder(report);
+  for (const std::string& name : options.names) {
+    if (name == "-") {
+      finder.inputs.push_back({.name = options.stdin_name, .is_standard_input = true});
+      continue;
+    }
+    std::error_code ignored;
+    if (!fs::is_directory(PathOf(name), ignored)) {
+      finder.inputs.push_back({.name = name});
+    } else if (options.is_recursive) {
+      finder.AddFolder(PathOf(name));
+    } else {
+      report("'" + Printable(name) + "' is a folder; -r reads the documents in it");
+    }
+  }
+  return std::move(finder.inputs);
+}
+
+ComPtr<ISequentialStream> OpenInput(const Input& input) {
+  ComPtr<ISequentialStream> stream;
+  const HRESULT result =
+      input.is_standard_input ? OpenStandardInput(stream) : OpenFile(PathOf(input.name), stream);
+  if (FAILED(result)) throw Trouble(Unreadable(input.name, ReasonOf(result)));
+  return stream;
+}
+
+}  // namespace tolva::cli

@@ -1,0 +1,209 @@
+#include "cli/session.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <new>
+#include <nlohmann/json.hpp>
+
+#include <tolva/support/save.h>
+
+#include "cli/options.h"
+#include "cli/text.h"
+#include "cli/verbs.h"
+#include "support/errors.h"
+
+namespace tolva::cli {
+namespace {
+
+bool IsSet(const char* variable) {
+  const char* const value = std::getenv(variable);
+  return value != nullptr && *value != '\0';
+}
+
+bool IsColoured(const Stream& stream, const std::string& color) {
+  if (color != "auto") return color == "always";
+  const char* const terminal = std::getenv("TERM");
+  const bool is_dumb = terminal != nullptr && std::string_view(terminal) == "dumb";
+  return stream.IsTerminal() && !IsSet("NO_COLOR") && !is_dumb;
+}
+
+/// A verb or option that is not there is the most common mistake: say which one is near.
+std::string HintFor(const CLI::App& tool, const CLI::App& verb, const std::string& unexpected) {
+  std::vector<std::string> names;
+  if (unexpected.starts_with("-")) {
+    // Options of one letter are all near.
+    if (!unexpected.starts_with("--")) return {};
+    for (const OptionView& option : ViewOfVerb(verb).options) {
+      names.insert(names.end(), option.names.begin(), option.names.end());
+    }
+  } else if (&tool == &verb) {
+    for (const VerbView& one : ViewOfVerbs(tool)) names.push_back(one.name);
+  }
+  return DidYouMean(unexpected.substr(0, unexpected.find('=')), names);
+}
+
+/// The verb that the command line names, or the tool itself.
+const CLI::App& VerbOf(const CLI::App& tool) {
+  const auto verbs = tool.get_subcommands();
+  return verbs.empty() ? tool : *verbs.front();
+}
+
+/// What is wrong with the command line, in words that name what its author wrote.
+std::string FaultOf(const CLI::App& tool, const CLI::App& verb, const CLI::ParseError& error) {
+  const std::vector<std::string> unexpected = tool.remaining(true);
+  if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr && !unexpected.empty()) {
+    const std::string& first = unexpected.front();
+    const bool is_option = first.starts_with("-");
+    const bool is_verb = &verb == &tool && !is_option;
+    return "there is no " +
+           std::string(is_verb     ? "verb"
+                       : is_option ? "option"
+                                   : "place for the argument") +
+           " '" + first + "'" + HintFor(tool, verb, first);
+  }
+  if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
+    for (const CLI::Option* const option : verb.get_options()) {
+      if (option->get_required() && option->count() == 0) {
+        return "'tolva " + verb.get_name() + "' needs " + ViewOf(*option).value;
+      }
+    }
+  }
+  std::string message = error.what();
+  const std::string name = message.substr(0, message.find_first_of(": "));
+  const CLI::Option* const option = verb.get_option_no_throw(name);
+  if (option == nullptr) return message;
+  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+    if (option->get_expected_max() == 0) return name + " takes no value";
+    return option->count() > 1 ? name + " is given more than once"
+                               : name + " needs " + ViewOf(*option).value;
+  }
+  return message;
+}
+
+[[noreturn]] void FailUsage(const CLI::App& tool, const CLI::ParseError& error) {
+  const CLI::App& verb = VerbOf(tool);
+  const std::string help = "tolva " + (&verb == &tool ? "" : verb.get_name() + " ") + "--help";
+  throw Trouble(Printable(FaultOf(tool, verb, error)) + "\nSee '" + help + "'");
+}
+
+int RunTool(const std::vector<std::string>& arguments, Session& session) {
+  CLI::App tool("Explains, describes and makes the configuration documents of the agent.", "tolva");
+  AddTool(tool, session);
+  try {
+    // The parser takes the last argument first.
+    std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
+    tool.parse(reversed);
+  } catch (const CLI::CallForHelp&) {
+    session.out.Write(HelpOf(tool, VerbOf(tool), session.OutStyle(), session.TextWidth()));
+    return kFine;
+  } catch (const CLI::CallForVersion&) {
+    session.out.Write("tolva " TOLVA_VERSION "\n");
+    return kFine;
+  } catch (const CLI::ParseError& error) {
+    FailUsage(tool, error);
+  }
+  if (session.action) return session.action();
+  session.err.Write(
+      HelpOf(tool, tool, Style(IsColoured(session.err, session.color)), session.TextWidth()));
+  return kTrouble;
+}
+
+}  // namespace
+
+std::string Style::In(std::string_view code, std::string_view text) const {
+  if (!is_coloured_ || text.empty()) return std::string(text);
+  return "\x1B[" + std::string(code) + "m" + std::string(text) + "\x1B[0m";
+}
+
+Style Session::OutStyle() const { return Style(IsColoured(out, color)); }
+
+std::size_t Session::TextWidth() const {
+  constexpr std::size_t kWidest = 100;
+  return std::min(out.Width(), kWidest);
+}
+
+void AddCommonOptions(CLI::App& verb, Session& session, Formats formats) {
+  if (formats == Formats::kTextAndJson) {
+    verb.add_option_function<std::string>(
+            "--format",
+            [&session](const std::string& format) { session.is_json = format == "json"; },
+            "the form of the result.")
+        ->type_name("FORMAT")
+        ->trigger_on_parse();
+    AllowOnly(verb, "--format", {"text", "json"});
+  }
+  verb.add_option("--color", session.color, "whether the result is coloured; auto: on a terminal.")
+      ->type_name("WHEN");
+  AllowOnly(verb, "--color", {"auto", "always", "never"});
+}
+
+void AddDestination(CLI::App& verb, Destination& destination) {
+  verb.add_option("-o,--output", destination.file,
+                  "where the result is written; '-' is standard output.")
+      ->type_name("FILE");
+  verb.add_flag("--force", destination.is_forced, "replaces the file if it exists.");
+}
+
+void Deliver(Session& session, const Destination& destination, std::string_view bytes) {
+  if (destination.file.empty() || destination.file == "-") {
+    session.out.Write(bytes);
+    return;
+  }
+  std::error_code ignored;
+  if (!destination.is_forced && std::filesystem::exists(PathOf(destination.file), ignored)) {
+    throw Trouble("'" + Printable(destination.file) + "' exists; --force replaces it");
+  }
+  const support::SaveReport report = support::SaveBytes(bytes, PathOf(destination.file));
+  if (!report) {
+    throw Trouble("'" + Printable(destination.file) +
+                  "' is not written: " + support::internal::Phrase(report.message));
+  }
+}
+
+std::string JsonText(const nlohmann::ordered_json& json) {
+  constexpr int kIndent = 2;
+  return json.dump(kIndent, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+}
+
+void AllowOnly(CLI::App& verb, std::string_view option, const std::vector<std::string>& values) {
+  std::string all;
+  for (const std::string& value : values) all += (all.empty() ? "" : ",") + value;
+  const auto check = [values](const std::string& value) -> std::string {
+    if (std::ranges::find(values, value) != values.end()) return {};
+    return "'" + value + "' is none of " + Enumerate(values, "and") + DidYouMean(value, values);
+  };
+  verb.get_option(std::string(option))->check(CLI::Validator(check, "{" + all + "}"));
+}
+
+int Run(const std::vector<std::string>& arguments, Stream& out, Stream& err) {
+  Session session = {out, err};
+  std::string message;
+  int status = kTrouble;
+  try {
+    try {
+      status = RunTool(arguments, session);
+      out.Flush();
+    } catch (const Trouble& trouble) {
+      message = trouble.what();
+    } catch (const std::bad_alloc&) {
+      message = "there is too little memory";
+    }
+    // What was found before the trouble is printed before it.
+    if (!message.empty()) {
+      status = kTrouble;
+      out.Flush();
+      err.Write(Style(IsColoured(err, session.color)).Error("tolva:") + " " + message + "\n");
+    }
+    err.Flush();
+  } catch (const ClosedPipe&) {
+    return kTrouble;
+  } catch (const Trouble&) {
+    return kTrouble;  // the output, and nobody to tell
+  }
+  return status;
+}
+
+}  // namespace tolva::cli

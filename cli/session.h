@@ -1,0 +1,90 @@
+// What all verbs have in common: exit statuses, common options, styles, and where results go.
+#pragma once
+
+#include <functional>
+#include <nlohmann/json_fwd.hpp>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/stream.h"
+
+namespace CLI {
+class App;
+}
+
+namespace tolva::cli {
+
+enum ExitStatus : int {
+  kFine = 0,      ///< done; equal; found
+  kFindings = 1,  ///< something was found; different; absent
+  kTrouble = 2,   ///< wrong usage; something cannot be read or written
+};
+
+/// The version of the JSON that verbs print.
+inline constexpr int kJsonVersion = 1;
+
+/// Ends a verb with kTrouble. The message has no full stop.
+class Trouble : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// The parts of a text that a terminal shows in different styles.
+class Style {
+ public:
+  explicit Style(bool is_coloured) : is_coloured_(is_coloured) {}
+
+  std::string Heading(std::string_view text) const { return In("1", text); }
+  std::string Name(std::string_view text) const { return In("1;36", text); }
+  std::string Literal(std::string_view text) const { return In("32", text); }
+  std::string Required(std::string_view text) const { return In("33", text); }
+  std::string Faint(std::string_view text) const { return In("2", text); }
+  std::string Error(std::string_view text) const { return In("1;31", text); }
+
+ private:
+  std::string In(std::string_view code, std::string_view text) const;
+
+  bool is_coloured_;
+};
+
+/// One run of the tool.
+struct Session {
+  Stream& out;
+  Stream& err;
+  bool is_json = false;              ///< --format
+  std::string color = "auto";        ///< --color
+  std::function<int()> action = {};  ///< what the verb does once the command line has been read
+
+  /// How results are shown.
+  Style OutStyle() const;
+
+  /// The width for text. Lines that are longer than this limit are hard to read.
+  std::size_t TextWidth() const;
+};
+
+/// Adds --color, and --format if the verb has more than one.
+enum class Formats : bool { kTextOnly, kTextAndJson };
+void AddCommonOptions(CLI::App& verb, Session& session, Formats formats);
+
+/// The options -o and --force of verbs that make a document.
+struct Destination {
+  std::string file;  ///< empty or "-": standard output
+  bool is_forced = false;
+};
+void AddDestination(CLI::App& verb, Destination& destination);
+
+/// Writes a result where the destination says.
+void Deliver(Session& session, const Destination& destination, std::string_view bytes);
+
+/// Prints JSON, indented and with a line feed. Text that is not UTF-8 is repaired.
+std::string JsonText(const nlohmann::ordered_json& json);
+
+/// Allows these values alone. The message about any other one names the nearest.
+void AllowOnly(CLI::App& verb, std::string_view option, const std::vector<std::string>& values);
+
+/// Runs the tool. Returns an exit status.
+int Run(const std::vector<std::string>& arguments, Stream& out, Stream& err);
+
+}  // namespace tolva::cli

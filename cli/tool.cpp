@@ -1,0 +1,15 @@
+#include <CLI/CLI.hpp>
+
+#include "cli/verbs.h"
+
+namespace tolva::cli {
+
+void AddTool(CLI::App& tool, Session& session) {
+  tool.allow_windows_style_options(false);  // a path begins with a slash everywhere
+  tool.set_help_flag("-h,--help", "prints this help.");
+  tool.set_version_flag("--version", "", "prints the version.");
+  tool.footer("tolva explain policy   what the policy holds");
+  AddExplain(tool, session);
+}
+
+}  // namespace tolva::cli

@@ -1,0 +1,14 @@
+// The verbs. Each function adds one to the tool; its options, and what it does, are in the source
+// file of its name.
+#pragma once
+
+#include "cli/session.h"
+
+namespace tolva::cli {
+
+/// Adds what the tool's command line consists of.
+void AddTool(CLI::App& tool, Session& session);
+
+void AddExplain(CLI::App& tool, Session& session);
+
+}  // namespace tolva::cli

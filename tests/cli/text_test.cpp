@@ -1,0 +1,51 @@
+#include "cli/text.h"
+
+#include <gtest/gtest.h>
+
+namespace tolva::test {
+namespace {
+
+using namespace cli;
+
+TEST(Text, IsPrintedWithoutWhatTerminalsObey) {
+  EXPECT_EQ(Printable("Z\u00FCrich \u20AC \U0001F600"), "Z\u00FCrich \u20AC \U0001F600");
+  EXPECT_EQ(Printable("\x1B[31m\n\x7F"), "\\x1B[31m\\x0A\\x7F");
+  EXPECT_EQ(Printable("\xC2\x9B"
+                      "31m"),
+            "\\xC2\\x9B"
+            "31m");  // CSI as one character
+  EXPECT_EQ(Printable(ToUtf8(std::wstring{L'a', 0x202E, L'b', 0x2066, L'c', 0x200F})),
+            "a\\xE2\\x80\\xAE"
+            "b\\xE2\\x81\\xA6"
+            "c\\xE2\\x80\\x8F");
+  EXPECT_EQ(Printable("\xFF\xC3\xE2\x82"), "\\xFF\\xC3\\xE2\\x82");  // broken off
+  EXPECT_EQ(Printable("\xC0\xAF\xED\xA0\x80\xF4\x90\x80\x80"),  // overlong, surrogate, too great
+            "\\xC0\\xAF\\xED\\xA0\\x80\\xF4\\x90\\x80\\x80");
+  EXPECT_EQ(Printable(std::string("a\0b", 3)), "a\\x00b");
+}
+
+TEST(Text, IsWrapped) {
+  EXPECT_EQ(Wrap("a bb ccc", 4), (std::vector<std::string>{"a bb", "ccc"}));
+  EXPECT_EQ(Wrap("  a   incomprehensible b", 4),
+            (std::vector<std::string>{"a", "incomprehensible", "b"}));
+  EXPECT_EQ(Wrap("\u00E9\u00E9 \u00E9\u00E9", 5),
+            (std::vector<std::string>{"\u00E9\u00E9 \u00E9\u00E9"}));
+  EXPECT_EQ(Wrap("", 4), std::vector<std::string>());
+  EXPECT_EQ(Padded("\u00E9", 3), "\u00E9  ");
+}
+
+TEST(Text, NamesWhatIsNear) {
+  const std::vector<std::string> names = {"Name", "Action", "AppName", "CPS", "ID"};
+  EXPECT_EQ(Nearest("Actoin", names), "Action");
+  EXPECT_EQ(Nearest("name", names), "Name");
+  EXPECT_EQ(Nearest("Appname", names), "AppName");
+  EXPECT_EQ(Nearest("id", names), "ID");
+  EXPECT_EQ(Nearest("XY", names), std::nullopt);
+  EXPECT_EQ(Nearest("Elephant", names), std::nullopt);
+  EXPECT_EQ(Nearest("", names), std::nullopt);
+  EXPECT_EQ(Nearest(std::string(1 << 20, 'x'), names), std::nullopt);
+  EXPECT_EQ(Enumerate(names), "Name, Action, AppName, CPS or ID");
+}
+
+}  // namespace
+}  // namespace tolva::test
