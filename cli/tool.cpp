@@ -8,8 +8,11 @@ void AddTool(CLI::App& tool, Session& session) {
   tool.allow_windows_style_options(false);  // a path begins with a slash everywhere
   tool.set_help_flag("-h,--help", "prints this help.");
   tool.set_version_flag("--version", "", "prints the version.");
-  tool.footer("tolva explain policy   what the policy holds");
+  tool.footer(
+      "tolva explain policy            what the policy holds\n"
+      "tolva new policy --full         a policy to start from");
   AddExplain(tool, session);
+  AddNew(tool, session);
 }
 
 }  // namespace tolva::cli

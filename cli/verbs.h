@@ -10,5 +10,6 @@ namespace tolva::cli {
 void AddTool(CLI::App& tool, Session& session);
 
 void AddExplain(CLI::App& tool, Session& session);
+void AddNew(CLI::App& tool, Session& session);
 
 }  // namespace tolva::cli
