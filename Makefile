@@ -60,22 +60,21 @@ abi: ## Compare the binary interface with the lists in abi/
 	@tools/packages.sh test
 	@tools/abi.sh
 
-lists: ## Make the lists of the binary interface and docs/documents.md anew
+lists: documents ## Make the lists of the binary interface and docs/documents.md anew
 	@tools/packages.sh test
 	@cmake --preset linux-release > /dev/null
-	@cmake --build --preset linux-release --target tolva documents
+	@cmake --build --preset linux-release --target tolva
 	@cmake --preset windows > /dev/null
 	@cmake --build --preset windows --target tolva
 	@tools/abi.sh --update
 	@tools/abi.sh linux --update
 	@tools/abi.sh windows --update
-	@cp build/linux-release/documents.md docs/documents.md
 
 documents: ## Make docs/documents.md anew from the tables
-	@tools/packages.sh build
+	@tools/packages.sh tool
 	@cmake --preset linux-release -DTOLVA_TESTS=OFF > /dev/null
 	@cmake --build --preset linux-release --target documents
-	@cp build/linux-release/documents.md docs/documents.md
+	@cp build/linux-release/cli/documents.md docs/documents.md
 
 conformance: ## The W3C conformance suite against the own XML layer
 	@tools/packages.sh conformance

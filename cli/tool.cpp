@@ -10,8 +10,10 @@ void AddTool(CLI::App& tool, Session& session) {
   tool.set_version_flag("--version", "", "prints the version.");
   tool.footer(
       "tolva explain policy            what the policy holds\n"
-      "tolva new policy --full         a policy to start from");
+      "tolva new policy --full         a policy to start from\n"
+      "tolva schema html -o tolva.html a page about all documents");
   AddExplain(tool, session);
+  AddSchema(tool, session);
   AddNew(tool, session);
 }
 

@@ -118,7 +118,7 @@ part_sources() {
   echo 'Sources'
   check 'formatting' tools/format.sh --check
   check 'shell scripts' shellcheck tools/*.sh tests/tables/*.sh .ci/run
-  check 'Python scripts' pyflakes3 tools/*.py
+  check 'Python scripts' pyflakes3 tools/*.py tests/cli/*.py
   check 'examples of the pages' tools/check-examples.sh
   check 'tables that must not compile' tools/must-fail.sh
   check 'factories that the headers declare' compare_factories
@@ -134,10 +134,14 @@ part_linux() {
   build linux-release || return
   programs linux-release
   check 'linux-release: exported symbols' tools/abi.sh linux
-  check 'linux-release: docs/documents.md' diff -u docs/documents.md build/linux-release/documents.md
   demo linux-release
   check 'linux-release: demonstration, C locale' env LC_ALL=C \
     build/linux-release/examples/tolva_demo examples/documents build/linux-release/demo/Zürich-日本
+  local made=build/linux-release/cli
+  check 'linux-release: docs/documents.md' diff -u docs/documents.md "$made/documents.md"
+  check 'linux-release: HTML page' tests/cli/page.py "$made/tolva"
+  check 'linux-release: schemas' tests/cli/schemas.py "$made/tolva" \
+    build/linux-release/tests/tolva_samples examples/documents
   local lib
   lib=$(sed -n 's/^CMAKE_INSTALL_LIBDIR:PATH=//p' build/linux-release/CMakeCache.txt)
   package linux-release "$(printf '%s\n' "$lib"/libtolva{.so{,.1,.1.0.0},-support.a} \

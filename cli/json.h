@@ -1,0 +1,25 @@
+// The JSON form of documents: an object whose only member is the root element, under its name.
+//
+//   {"ILPClientConfiguration": {"SchemaVersion": 12, "LocationArray": {"Location": [...]}, ...}}
+//
+// An element is an object. Its members are the attributes and children, under their names; what is
+// absent is no member. The children of one name that may be repeated are an array. An element whose
+// value is its text is that text, or null if it has none. An ENUM is its text, a number a number, a
+// 64-bit number a string of its digits.
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+
+#include "cli/tables.h"
+
+namespace tolva::cli {
+
+/// The JSON form of a root node, as the library has read it.
+nlohmann::ordered_json ToJson(const Document& document, const node::INode& root);
+
+/// Fills a root node, which loses what it held. A member "$schema" beside the root element is
+/// ignored. Throws Trouble, and says where, if the JSON is not such a document. The node is then
+/// filled in part.
+void FromJson(const Document& document, const nlohmann::ordered_json& json, node::INode& root);
+
+}  // namespace tolva::cli

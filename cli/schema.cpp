@@ -1,0 +1,70 @@
+// schema: descriptions of documents for other programs and for people.
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "cli/places.h"
+#include "cli/schemas.h"
+#include "cli/verbs.h"
+
+namespace tolva::cli {
+namespace {
+
+struct Options {
+  std::string kind;
+  std::string document;
+  bool is_lax = false;
+  Destination destination;
+};
+
+int PrintSchema(Session& session, const Options& options) {
+  std::vector<const Document*> documents;
+  if (!options.document.empty()) {
+    documents.push_back(&DocumentOf(options.document));
+  } else {
+    for (const Document& document : Documents()) documents.push_back(&document);
+  }
+  if (options.is_lax && options.kind != "xsd") throw Trouble("--lax is for xsd alone");
+  std::string text;
+  if (options.kind == "xsd") {
+    text = XsdOf(documents, options.is_lax ? XsdForm::kLax : XsdForm::kStrict);
+  } else if (options.kind == "json") {
+    text = JsonText(JsonSchemaOf(documents));
+  } else {
+    text = options.kind == "html" ? HtmlOf(documents) : MarkdownOf(documents);
+  }
+  Deliver(session, options.destination, text);
+  return kFine;
+}
+
+}  // namespace
+
+void AddSchema(CLI::App& tool, Session& session) {
+  CLI::App& verb = *tool.add_subcommand(
+      "schema",
+      "Describes documents for editors, validators and people.\n\n"
+      "xsd is an XML Schema 1.0 of the documents, json a JSON Schema (2020-12) of their JSON form, "
+      "html a page that needs no network, and md a page in Markdown.");
+  const auto options = std::make_shared<Options>();
+  verb.add_option("kind", options->kind, "the kind of description.")->type_name("KIND")->required();
+  AllowOnly(verb, "kind", {"xsd", "json", "html", "md"});
+  verb.add_option("document", options->document, "which document to describe. Without it, all.")
+      ->type_name("DOCUMENT");
+  verb.add_flag(
+      "--lax", options->is_lax,
+      "accepts what the library reads, as far as XML Schema can say it, instead of what it "
+      "writes.");
+  AddDestination(verb, options->destination);
+  AddCommonOptions(verb, session, Formats::kTextOnly);
+  verb.footer(
+      "tolva schema xsd policy -o policy.xsd\n"
+      "tolva schema json policy\n"
+      "tolva schema html -o documents.html");
+  verb.callback([&session, options] {
+    session.action = [&session, options] { return PrintSchema(session, *options); };
+  });
+}
+
+}  // namespace tolva::cli

@@ -1,0 +1,73 @@
+"""A headless Chromium, driven through chromedriver."""
+
+import base64
+import json
+import re
+import subprocess
+import urllib.request
+
+
+class Browser:
+    """Starts the browser; `with` ends it."""
+
+    def __init__(self, width=1400, height=1000, dark=False):
+        self._driver = subprocess.Popen(
+            ['chromedriver', '--port=0'], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        for line in self._driver.stdout:
+            port = re.search(r'on port (\d+)', line)
+            if port and port[1] != '0':
+                break
+        self._url = f'http://127.0.0.1:{port[1]}'
+        arguments = ['--headless=new', '--no-sandbox', '--disable-gpu', '--hide-scrollbars',
+                     f'--window-size={width},{height}']
+        if dark:
+            arguments.append('--blink-settings=preferredColorScheme=0')
+        options = {'goog:chromeOptions': {'args': arguments}, 'goog:loggingPrefs': {'browser': 'ALL'}}
+        session = self._call('POST', '/session', {'capabilities': {'alwaysMatch': options}})
+        self._url += '/session/' + session['sessionId']
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        try:
+            self._call('DELETE', '')
+        finally:
+            self._driver.terminate()
+            self._driver.wait()
+
+    def _call(self, method, path, body=None):
+        data = None if method != 'POST' else json.dumps(body or {}).encode()
+        request = urllib.request.Request(self._url + path, data, {'Content-Type': 'application/json'},
+                                         method=method)
+        with urllib.request.urlopen(request, timeout=60) as answer:
+            return json.load(answer)['value']
+
+    def open(self, url):
+        self._call('POST', '/url', {'url': url})
+
+    def run(self, script, *arguments):
+        """The value that the script returns."""
+        return self._call('POST', '/execute/sync', {'script': script, 'args': arguments})
+
+    def type(self, keys):
+        """Sends keys to whatever has the focus."""
+        presses = [{'type': kind, 'value': key} for key in keys for kind in ('keyDown', 'keyUp')]
+        self._call('POST', '/actions', {'actions': [{'type': 'key', 'id': 'keyboard', 'actions': presses}]})
+
+    def click(self, selector):
+        """Clicks the first element that the selector finds, as a person would."""
+        element = self._call('POST', '/element', {'using': 'css selector', 'value': selector})
+        self._call('POST', f'/element/{next(iter(element.values()))}/click')
+
+    def problems(self):
+        """What the browser has complained about since the last call."""
+        return [entry['message'] for entry in self._call('POST', '/se/log', {'type': 'browser'})]
+
+    def screenshot(self, file):
+        with open(file, 'wb') as image:
+            image.write(base64.b64decode(self._call('GET', '/screenshot')))
+
+    def print(self, file):
+        with open(file, 'wb') as document:
+            document.write(base64.b64decode(self._call('POST', '/print')))
