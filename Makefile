@@ -70,11 +70,12 @@ lists: documents ## Make the lists of the binary interface and docs/documents.md
 	@tools/abi.sh linux --update
 	@tools/abi.sh windows --update
 
-documents: ## Make docs/documents.md anew from the tables
+documents: ## Make docs/documents.md, and the transcripts of docs/tool.md, anew
 	@tools/packages.sh tool
 	@cmake --preset linux-release -DTOLVA_TESTS=OFF > /dev/null
 	@cmake --build --preset linux-release --target documents
 	@cp build/linux-release/cli/documents.md docs/documents.md
+	@tools/transcripts.py --update docs/tool.md build/linux-release/cli/tolva
 
 conformance: ## The W3C conformance suite against the own XML layer
 	@tools/packages.sh conformance

@@ -15,6 +15,7 @@ void AddTool(CLI::App& tool, Session& session) {
   AddExplain(tool, session);
   AddSchema(tool, session);
   AddNew(tool, session);
+  AddCompletion(tool, session);
 }
 
 }  // namespace tolva::cli

@@ -12,5 +12,6 @@ void AddTool(CLI::App& tool, Session& session);
 void AddExplain(CLI::App& tool, Session& session);
 void AddSchema(CLI::App& tool, Session& session);
 void AddNew(CLI::App& tool, Session& session);
+void AddCompletion(CLI::App& tool, Session& session);
 
 }  // namespace tolva::cli

@@ -102,6 +102,9 @@ package() { # <preset> <expected files> [launcher] [cmake argument...]
     LC_ALL=C sort > "$results/expected-files"
   (cd "$prefix" && find . ! -type d -printf '%P\n') | LC_ALL=C sort > "$results/installed-files"
   check "$preset: installed files" diff -u "$results/expected-files" "$results/installed-files"
+  # shellcheck disable=SC2086
+  check "$preset: installed tool" $launcher "$(ls "$prefix"/bin/tolva "$prefix"/bin/tolva.exe \
+    2> /dev/null)" explain policy
   check "$preset: consumer, configure" cmake -S tests/consumer -B "$consumer" -G Ninja \
     -DCMAKE_PREFIX_PATH="$prefix" "$@" || return
   check "$preset: consumer, build" cmake --build "$consumer" || return
@@ -114,10 +117,27 @@ cmake_files() { # <lib> <config>
   printf '%s\n' "$1"/cmake/tolva/tolva-{config,config-version,targets,"targets-$2"}.cmake
 }
 
+# The command-line tool as a program.
+tool() { # <preset> [launcher]
+  local preset=$1 launcher=${2:-} program
+  program=$(ls build/"$preset"/cli/tolva build/"$preset"/cli/tolva.exe 2> /dev/null)
+  # shellcheck disable=SC2086
+  check "$preset: transcripts of docs/tool.md" tools/transcripts.py docs/tool.md $launcher "$program"
+  # shellcheck disable=SC2086
+  check "$preset: a reader that goes away" closed_pipe $launcher "$program"
+}
+
+closed_pipe() { # <program...>
+  local said
+  said=$({ "$@" schema html | head -c 1 > /dev/null; } 2>&1)
+  echo "$said"
+  [ -z "$said" ]
+}
+
 part_sources() {
   echo 'Sources'
   check 'formatting' tools/format.sh --check
-  check 'shell scripts' shellcheck tools/*.sh tests/tables/*.sh .ci/run
+  check 'shell scripts' shellcheck tools/*.sh tests/cli/*.sh tests/tables/*.sh .ci/run
   check 'Python scripts' pyflakes3 tools/*.py tests/cli/*.py
   check 'examples of the pages' tools/check-examples.sh
   check 'tables that must not compile' tools/must-fail.sh
@@ -137,16 +157,28 @@ part_linux() {
   demo linux-release
   check 'linux-release: demonstration, C locale' env LC_ALL=C \
     build/linux-release/examples/tolva_demo examples/documents build/linux-release/demo/Zürich-日本
+  tool linux-release
   local made=build/linux-release/cli
   check 'linux-release: docs/documents.md' diff -u docs/documents.md "$made/documents.md"
+  check 'linux-release: manual page' manual_page "$made/tolva.1"
+  check 'linux-release: completion' tests/cli/completion.sh "$made/tolva"
   check 'linux-release: HTML page' tests/cli/page.py "$made/tolva"
   check 'linux-release: schemas' tests/cli/schemas.py "$made/tolva" \
     build/linux-release/tests/tolva_samples examples/documents
   local lib
   lib=$(sed -n 's/^CMAKE_INSTALL_LIBDIR:PATH=//p' build/linux-release/CMakeCache.txt)
   package linux-release "$(printf '%s\n' "$lib"/libtolva{.so{,.1,.1.0.0},-support.a} \
-    "$lib"/pkgconfig/tolva{,-support}.pc bin/tolva; cmake_files "$lib" release)" ''
+    "$lib"/pkgconfig/tolva{,-support}.pc bin/tolva share/man/man1/tolva.1 \
+    share/bash-completion/completions/tolva share/zsh/site-functions/_tolva \
+    share/fish/vendor_completions.d/tolva.fish; cmake_files "$lib" release)" ''
   check 'linux-release: pkg-config' pkg_config_consumer "$PWD/build/linux-release/installed/$lib"
+}
+
+manual_page() { # <page>
+  local said
+  said=$(mandoc -Tlint -Wstyle "$1" 2>&1) || true
+  echo "$said"
+  [ -z "$said" ]
 }
 
 pkg_config_consumer() { # <library folder>
@@ -191,6 +223,7 @@ part_sanitizers() {
   build linux-asan || return
   TOLVA_DIFFERENTIAL_LENGTH=4 programs linux-asan
   demo linux-asan
+  tool linux-asan
 }
 
 part_valgrind() {
@@ -218,6 +251,7 @@ part_windows() {
   check 'windows: exported symbols' tools/abi.sh windows
   check 'windows: an export for each factory' count_exports
   demo windows tools/run-windows.sh active-directory broken  # Wine's XmlLite does not escape
+  tool windows tools/run-windows.sh
   package windows "$(printf '%s\n' bin/tolva.{dll,exe} lib/libtolva{.dll,-support}.a \
     lib/pkgconfig/tolva{,-support}.pc; cmake_files lib release)" "env TOLVA_WINEPATH=$PWD/build/windows/installed/bin tools/run-windows.sh" \
     -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake"

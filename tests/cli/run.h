@@ -1,0 +1,38 @@
+// The tool run within the test.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/session.h"
+
+namespace tolva::test {
+
+struct Outcome {
+  int status;
+  std::string out;
+  std::string err;
+};
+
+/// Keeps what is written.
+class TextStream final : public cli::Stream {
+ public:
+  explicit TextStream(std::size_t width = kCommonWidth) : width_(width) {}
+
+  void Write(std::string_view text) override { text_ += text; }
+  std::size_t Width() const override { return width_; }
+  const std::string& text() const { return text_; }
+
+ private:
+  const std::size_t width_;
+  std::string text_;
+};
+
+inline Outcome RunTool(const std::vector<std::string>& arguments, std::size_t width = 80) {
+  TextStream out(width);
+  TextStream err(width);
+  const int status = cli::Run(arguments, out, err);
+  return {status, out.text(), err.text()};
+}
+
+}  // namespace tolva::test

@@ -1,0 +1,147 @@
+// The tool as a whole: statuses, streams and options that verbs have in common.
+#include "cli/run.h"
+
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "cli/places.h"
+#include "cli/text.h"
+#include "support/files.h"
+
+namespace tolva::test {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+TEST(Tool, SaysHowItIsUsed) {
+  const Outcome help = RunTool({"--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_EQ(help.err, "");
+  for (const char* const verb : {"explain", "schema", "new", "completion"}) {
+    EXPECT_NE(help.out.find("\n  " + std::string(verb) + " "), std::string::npos) << verb;
+    const Outcome own = RunTool({verb, "--help"});
+    EXPECT_EQ(own.status, 0);
+    EXPECT_TRUE(own.out.starts_with("Usage: tolva " + std::string(verb))) << own.out;
+    EXPECT_NE(own.out.find("Examples:"), std::string::npos) << verb;
+  }
+  EXPECT_EQ(RunTool({"--version"}).out.substr(0, 6), "tolva ");
+  EXPECT_EQ(RunTool({}).status, 2);
+  EXPECT_EQ(RunTool({}).out, "");
+}
+
+TEST(Tool, SaysWhatIsWrongWithACommandLine) {
+  const auto fault = [](const std::vector<std::string>& arguments) {
+    const Outcome outcome = RunTool(arguments);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.out, "");
+    return outcome.err.substr(0, outcome.err.find('\n'));
+  };
+  EXPECT_EQ(fault({"expain"}), "tolva: there is no verb 'expain'; did you mean 'explain'?");
+  EXPECT_EQ(fault({"explain", "--fomat=json"}),
+            "tolva: there is no option '--fomat=json'; did you mean '--format'?");
+  EXPECT_EQ(fault({"explain", "--format", "xml"}),
+            "tolva: --format: 'xml' is none of text and json");
+  EXPECT_EQ(fault({"explain", "-v"}), "tolva: there is no option '-v'");
+  EXPECT_EQ(fault({"explain", "-t", "--depth", "\x1B"}),
+            "tolva: --depth: '\\x1B' is no number from 1 to 999");
+  EXPECT_EQ(fault({"new"}), "tolva: 'tolva new' needs DOCUMENT");
+  EXPECT_EQ(fault({"new", "policy", "-o"}), "tolva: --output needs FILE");
+  EXPECT_EQ(fault({"new", "policy", "-o", "a", "-o", "b"}),
+            "tolva: --output is given more than once");
+  EXPECT_EQ(fault({"new", "policy", "ng"}), "tolva: there is no place for the argument 'ng'");
+  EXPECT_EQ(fault({"explain", "--", "--tree"}).substr(0, 38),
+            "tolva: there is no document '--tree'; ");
+  EXPECT_EQ(fault({"explain", "\x1B[31m\xFF"}).find('\x1B'), std::string::npos);
+}
+
+TEST(Tool, ColoursOnRequest) {
+  EXPECT_EQ(RunTool({"explain", "policy"}).out.find('\x1B'), std::string::npos);
+  const std::string coloured = RunTool({"explain", "policy", "--color=always"}).out;
+  EXPECT_NE(coloured.find('\x1B'), std::string::npos);
+}
+
+/// Whatever the width, no line is longer, unless a single word is.
+TEST(Explain, FitsTheTerminal) {
+  for (const std::size_t width : {40U, 60U, 80U, 200U}) {
+    for (const cli::Document& document : cli::Documents()) {
+      cli::ForEachPlace(document, [&](const cli::Place& place) {
+        const std::string path = std::string(document.name) + "/" + place.path;
+        const Outcome outcome = RunTool({"explain", path}, width);
+        EXPECT_EQ(outcome.status, 0);
+        std::string_view rest = outcome.out;
+        while (!rest.empty()) {
+          const std::string_view line = rest.substr(0, rest.find('\n'));
+          rest.remove_prefix(line.size() + 1);
+          const std::size_t start = line.find_first_not_of(' ');
+          const bool is_word = line.find(' ', start) == std::string_view::npos;
+          EXPECT_TRUE(cli::Columns(line) <= width || is_word) << width << ": " << line;
+          EXPECT_FALSE(line.ends_with(' ')) << line;
+        }
+      });
+    }
+  }
+}
+
+TEST(Explain, TellsProgramsEverything) {
+  const auto json = [](const std::vector<std::string>& arguments) {
+    std::vector<std::string> all = {"explain", "--format=json"};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    return Json::parse(RunTool(all).out);
+  };
+  EXPECT_EQ(json({})["documents"].size(), 11U);
+  const Json mode = json({"policy/UserInterface/Mode"});
+  EXPECT_EQ(mode["version"], 1);
+  EXPECT_EQ(mode["kind"], "attribute");
+  EXPECT_EQ(mode["values"], Json::array({"NORMAL", "SILENT", "UNATTENDED"}));
+  const Json root = json({"policy", "--tree"});
+  EXPECT_EQ(root["attributes"].size(), 6U);
+  EXPECT_EQ(root["children"][0]["children"][0]["attributes"][0]["namesItem"], true);
+  EXPECT_FALSE(json({"policy"})["children"][0].contains("children"));
+  EXPECT_EQ(json({"proxy/ProxySetting/PACFile"})["attributes"][0]["name"], "URL");
+  EXPECT_EQ(json({"--find", "password"})["places"].size(), 4U);
+  EXPECT_EQ(RunTool({"explain", "--find", "elephant"}).status, 1);
+  EXPECT_EQ(RunTool({"explain", "ng", "--find", "password"}).status, 1);
+}
+
+TEST(Destination, KeepsWhatIsThere) {
+  const TempFile file;
+  const std::string path = file.path().string();
+  EXPECT_EQ(RunTool({"new", "ci", "-o", path}).status, 0);
+  const std::string made = file.Read();
+  EXPECT_EQ(made, RunTool({"new", "ci", "-o", "-"}).out);
+  const Outcome second = RunTool({"new", "ng", "-o", path});
+  EXPECT_EQ(second.status, 2);
+  EXPECT_NE(second.err.find("--force"), std::string::npos);
+  EXPECT_EQ(file.Read(), made);
+  EXPECT_EQ(RunTool({"new", "ng", "-o", path, "--force"}).status, 0);
+  EXPECT_NE(file.Read(), made);
+  EXPECT_EQ(RunTool({"new", "ng", "-o", path + "/x"}).status, 2);
+}
+
+/// A stream whose reader has gone, or whose disk is full.
+class BrokenStream final : public cli::Stream {
+ public:
+  explicit BrokenStream(bool is_closed) : is_closed_(is_closed) {}
+  void Write(std::string_view /*text*/) override {
+    if (is_closed_) throw cli::ClosedPipe();
+    throw cli::Trouble("the output cannot be written");
+  }
+
+ private:
+  const bool is_closed_;
+};
+
+TEST(Tool, EndsQuietlyWhenNobodyReads) {
+  TextStream err;
+  BrokenStream closed(true);
+  EXPECT_EQ(cli::Run({"explain"}, closed, err), 2);
+  EXPECT_EQ(err.text(), "");
+  BrokenStream full(false);
+  EXPECT_EQ(cli::Run({"explain"}, full, err), 2);
+  EXPECT_EQ(err.text(), "tolva: the output cannot be written\n");
+  EXPECT_EQ(cli::Run({"explain"}, full, full), 2);
+}
+
+}  // namespace
+}  // namespace tolva::test
