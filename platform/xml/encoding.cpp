@@ -52,11 +52,11 @@ Conversion ConvertUtf16(std::string_view bytes, char* out) {
 }
 
 constexpr Encoding kEncodings[] = {
-    {"UTF-8", "", "\xEF\xBB\xBF", "", nullptr},
-    {"UTF-16", "UTF-16LE", "\xFF\xFE", "<\0"sv, ConvertUtf16<1, 0>},
-    {"UTF-16", "UTF-16BE", "\xFE\xFF", "\0<"sv, ConvertUtf16<0, 1>},
-    {"ISO-8859-1", "", "", "", ConvertLatin1},
-    {"US-ASCII", "", "", "", ConvertAscii},
+    {"UTF-8", "", "\xEF\xBB\xBF", "", 1, nullptr},
+    {"UTF-16", "UTF-16LE", "\xFF\xFE", "<\0"sv, 2, ConvertUtf16<1, 0>},
+    {"UTF-16", "UTF-16BE", "\xFE\xFF", "\0<"sv, 2, ConvertUtf16<0, 1>},
+    {"ISO-8859-1", "", "", "", 1, ConvertLatin1},
+    {"US-ASCII", "", "", "", 1, ConvertAscii},
 };
 
 constexpr char ToLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }

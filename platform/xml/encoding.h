@@ -19,6 +19,8 @@ struct Encoding {
   std::string_view byte_order_mark;  ///< empty if there is none
   std::string_view first_bytes;      ///< of a document without a byte order mark; empty if they are
                                      ///< those of ASCII
+  std::size_t unit_size;             ///< bytes; a character has one unit, in UTF-8 up to four, in
+                                     ///< UTF-16 two beyond U+FFFF
 
   /// Converts the whole characters at the front of `bytes` to UTF-8. Writes no more than two bytes
   /// for each byte, and one more. Where it finds no character, it writes a byte that is not UTF-8;

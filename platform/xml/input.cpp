@@ -40,10 +40,12 @@ void Input::Close() {
   stream_state_ = StreamState::kOpen;
   stream_failure_ = S_OK;
   encoding_ = nullptr;
+  byte_order_mark_size_ = 0;
   unconverted_.Clear();
   window_.Clear();
   end_ = End::kNone;
-  stopped_at_zero_ = false;
+  illegal_size_ = 0;
+  observer_ = nullptr;
 }
 
 bool Input::More(const char*& at) {
@@ -72,7 +74,8 @@ void Input::Start() {
   encoding_ = converted_ ? &kUtf8 : DetectEncoding(View(window_));
   if (encoding_ == nullptr) encoding_ = &DeclaredEncoding(ReadDeclaration());
   if (View(window_).starts_with(encoding_->byte_order_mark)) {
-    DropFront(window_, encoding_->byte_order_mark.size());
+    byte_order_mark_size_ = encoding_->byte_order_mark.size();
+    DropFront(window_, byte_order_mark_size_);
   }
   if (encoding_->convert == nullptr) {
     Validate(0);
@@ -101,6 +104,7 @@ std::string_view Input::ReadDeclaration() {
 /// Returns how much of the window is left.
 std::size_t Input::DropBefore(const char* at) {
   const auto rest = static_cast<std::size_t>(limit() - at);
+  if (observer_ != nullptr) observer_->Dropping(View(window_).substr(0, window_.size() - rest));
   if (window_.capacity() > kLargestKept && rest < kBlock) {
     Buffer<char> smaller;
     smaller.Append(at, rest);
@@ -165,7 +169,8 @@ void Input::Validate(std::size_t start) {
   char* const limit = window_.data() + start + text.size;
   if (text.malformed) {
     end_ = End::kIllegalCharacter;
-    stopped_at_zero_ = *limit == '\0';
+    illegal_size_ = std::min(size - text.size, illegal_.size());
+    std::copy_n(limit, illegal_size_, illegal_.begin());
   } else {
     unconverted_.Append(limit, size - text.size);
     if (stream_state_ == StreamState::kFailed) end_ = End::kStreamFailure;

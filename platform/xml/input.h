@@ -1,6 +1,7 @@
 // The bytes of a document as a sliding window of text.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -11,6 +12,21 @@
 #include "platform/xml/status.h"
 
 namespace tolva::platform::own_xml {
+
+/// Sees the text that leaves the window of an `Input`.
+class InputObserver {
+ public:
+  InputObserver() = default;
+  InputObserver(const InputObserver&) = delete;
+  InputObserver& operator=(const InputObserver&) = delete;
+
+  /// The front of the window, which is dropped after the call. The rest of the window, or its
+  /// padding, follows it.
+  virtual void Dropping(std::string_view text) = 0;
+
+ protected:
+  virtual ~InputObserver() = default;
+};
 
 /// Reads a stream block by block, detects its encoding, and shows it as UTF-8 that contains only
 /// characters that XML allows. Code that scans the window need not validate them again.
@@ -36,6 +52,10 @@ class Input {
   /// Releases the stream.
   void Close();
 
+  /// Sets the observer, which is kept until the input is closed; null for none.
+  void Observe(InputObserver* observer) { observer_ = observer; }
+
+  const char* start() const { return window_.data(); }
   const char* limit() const { return window_.data() + window_.size(); }
 
   /// Shows more of the document. The text before `at` is dropped, `at` is moved to where the rest
@@ -48,8 +68,17 @@ class Input {
   End end() const { return end_; }
   HRESULT stream_failure() const { return stream_failure_; }
 
+  /// The first bytes of what is no character that XML allows, four at most, or none if the input
+  /// ends within a character. A byte 0xFF stands for anything that is no character in another
+  /// encoding than UTF-8.
+  std::string_view illegal() const { return {illegal_.data(), illegal_size_}; }
+
   /// The illegal character is a zero.
-  bool stopped_at_zero() const { return stopped_at_zero_; }
+  bool stopped_at_zero() const { return illegal().starts_with('\0'); }
+
+  /// The encoding of the input; UTF-8 until it is known.
+  const Encoding& encoding() const { return encoding_ == nullptr ? kUtf8 : *encoding_; }
+  std::size_t byte_order_mark_size() const { return byte_order_mark_size_; }
 
   /// Validates the encoding that the XML declaration names. The fault is MX_E_ENCODING if it is not
   /// supported, and MX_E_ENCODINGSWITCH if it is not the one that the document is in.
@@ -73,11 +102,14 @@ class Input {
 
   bool converted_ = false;
   const Encoding* encoding_ = nullptr;  ///< null until the document has been started
-  Buffer<char> unconverted_;            ///< bytes of the stream that are not in the window yet
+  std::size_t byte_order_mark_size_ = 0;
+  Buffer<char> unconverted_;  ///< bytes of the stream that are not in the window yet
 
   Buffer<char> window_;  ///< the text, followed by the padding
   End end_ = End::kNone;
-  bool stopped_at_zero_ = false;
+  std::array<char, 4> illegal_ = {};
+  std::size_t illegal_size_ = 0;
+  InputObserver* observer_ = nullptr;
 };
 
 }  // namespace tolva::platform::own_xml

@@ -103,13 +103,13 @@ Status Namespaces::Enter(const QName& element, std::span<const Attribute> attrib
     const bool declares = attribute.name.text == "xmlns" || attribute.name.PrefixText() == "xmlns";
     if (!declares) continue;
     const Status status = Declare(attribute);
-    if (!status.IsDone()) return status;
+    if (!status.IsDone()) return FaultAt(attribute.name.text.data(), status);
   }
 
   ScopedStrings::Id uri = ScopedStrings::kNone;
   if (element.prefix != 0) {
     const Status status = Resolve(element.PrefixText(), uri);
-    if (!status.IsDone()) return status;
+    if (!status.IsDone()) return FaultAt(element.text.data(), status);
   }
 
   if (names_.capacity() > kNamesKept) names_ = std::vector<ExpandedName>();
@@ -117,7 +117,7 @@ Status Namespaces::Enter(const QName& element, std::span<const Attribute> attrib
   for (const Attribute& attribute : attributes) {
     if (attribute.name.prefix == 0 || attribute.name.PrefixText() == "xmlns") continue;
     const Status status = Resolve(attribute.name.PrefixText(), uri);
-    if (!status.IsDone()) return status;
+    if (!status.IsDone()) return FaultAt(attribute.name.text.data(), status);
     names_.push_back({uri, attribute.name.Local()});
   }
   const auto key = [](const ExpandedName& name) { return std::tie(name.uri, name.local); };
@@ -126,7 +126,8 @@ Status Namespaces::Enter(const QName& element, std::span<const Attribute> attrib
   const auto same = std::adjacent_find(
       names_.begin(), names_.end(),
       [key](const ExpandedName& a, const ExpandedName& b) { return key(a) == key(b); });
-  return same == names_.end() ? kDone : WC_E_UNIQUEATTRIBUTE;
+  if (same == names_.end()) return kDone;
+  return FaultAt(std::max(same->local.data(), same[1].local.data()), WC_E_UNIQUEATTRIBUTE);
 }
 
 Status Namespaces::Declare(const Attribute& attribute) {

@@ -75,6 +75,9 @@ class Namespaces {
   /// name.
   Status Enter(const QName& element, std::span<const Attribute> attributes);
 
+  /// The name that the last fault is about.
+  const char* fault_at() const { return fault_at_; }
+
   /// The number of declarations in scope.
   std::size_t size() const { return bindings_.size(); }
 
@@ -98,6 +101,10 @@ class Namespaces {
     std::string_view local;
   };
 
+  Status FaultAt(const char* name, Status fault) {
+    fault_at_ = name;
+    return fault;
+  }
   void RemoveFrom(std::size_t index);
   Status Declare(const Attribute& attribute);
   Status Resolve(std::string_view prefix, ScopedStrings::Id& uri) const;
@@ -107,6 +114,7 @@ class Namespaces {
   Buffer<Binding> bindings_;  ///< by the id of the prefix
   Buffer<char> uri_;          ///< of the current declaration
   std::vector<ExpandedName> names_;
+  const char* fault_at_ = nullptr;
 };
 
 }  // namespace tolva::platform::own_xml

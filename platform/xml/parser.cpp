@@ -218,6 +218,7 @@ void Parser::SetInput(ISequentialStream* stream, bool converted) {
     result_ = ReadResult::kNode;
     fault_ = E_OUTOFMEMORY;  // until a call finds another
   }
+  fault_at_ = nullptr;
   at_ = kNoInput;
   has_delivered_ = false;
   has_root_ = false;
@@ -256,6 +257,7 @@ ReadResult Parser::ReadNode() {
     // The node is parsed again from its start: `Input::More` sees to it that this is not done too
     // often. It moves the window, so nothing may point there any more.
     ClearNode();
+    fault_at_ = nullptr;
     if (!input_.More(at_)) {
       if (at_limit_) return EndAtLimit();
       at_limit_ = true;
@@ -272,6 +274,7 @@ template ReadResult Parser::ReadNode<true>();
 
 ReadResult Parser::Fail(HRESULT fault) {
   ClearNode();
+  if (fault_at_ == nullptr) fault_at_ = at_;
   fault_ = fault;
   result_ = ReadResult::kFault;
   return result_;
@@ -280,6 +283,7 @@ ReadResult Parser::Fail(HRESULT fault) {
 /// The document ends, or breaks off within a node.
 ReadResult Parser::EndAtLimit() {
   const bool is_between_nodes = IsOutsideRoot() && at_ == input_.limit();
+  fault_at_ = input_.limit();
   if (input_.end() == Input::End::kStreamFailure) return Fail(input_.stream_failure());
   if (input_.end() == Input::End::kIllegalCharacter) {
     // Outside the root any character that is not markup is a fault, whether it is legal or not.
@@ -334,12 +338,12 @@ Status Parser::ParseCharacters(const char* after_space) {
     }
     if (*at == '&') {
       const Reference reference = ReadReference(at);
-      if (!reference.status.IsDone()) return reference.status;
+      if (!reference.status.IsDone()) return FaultAt(at, reference.status);
       at = reference.end;
       plain = false;
       continue;
     }
-    if (*at == ']' && at[1] == ']' && at[2] == '>') return WC_E_CDSECTEND;
+    if (*at == ']' && at[1] == ']' && at[2] == '>') return FaultAt(at, WC_E_CDSECTEND);
     plain = plain && *at != '\r';
     ++at;
   }
@@ -372,7 +376,7 @@ Status Parser::ParseStartTag(const char* at) {
   if (depth_ == kMaxDepth) return SC_E_MAXELEMENTDEPTH;
 
   Status status = ReadQName(at, name_);
-  if (!status.IsDone()) return status;
+  if (!status.IsDone()) return FaultAt(at, status);
   at = EndOf(name_.text);
   TagTraits traits;
   traits.uses_namespaces = name_.prefix != 0;
@@ -384,7 +388,7 @@ Status Parser::ParseStartTag(const char* at) {
   if (is_empty_element_) {
     ++at;
     if (*at == '\0') return kMoreInput;
-    if (*at != '>') return WC_E_GREATERTHAN;
+    if (*at != '>') return FaultAt(at, WC_E_GREATERTHAN);
   }
   status = OpenScope(traits);
   return status.IsDone() ? Deliver(XmlNodeType_Element, at + 1) : status;
@@ -402,7 +406,7 @@ Status Parser::ParseAttributes(const char* at, const char*& end, TagTraits& trai
       end = at;
       if (*at == '>' || *at == '/') return kDone;
       if (*at == '\0') return kMoreInput;
-      return attributes_.size() == 0 ? NC_E_QNAMECHARACTER : WC_E_WHITESPACE;
+      return FaultAt(at, attributes_.size() == 0 ? NC_E_QNAMECHARACTER : WC_E_WHITESPACE);
     }
     at = SkipSpace(at + 1);
 
@@ -410,12 +414,12 @@ Status Parser::ParseAttributes(const char* at, const char*& end, TagTraits& trai
     Status status = ReadQName(at, attribute.name);
     if (!status.IsDone()) {
       end = at;
-      return *at == '>' || *at == '/' ? kDone : status;
+      return *at == '>' || *at == '/' ? kDone : FaultAt(at, status);
     }
     traits.Add(attribute.name);
     at = EndOf(attribute.name.text);
     status = ReadAttributeValue(at, attribute);
-    if (!status.IsDone()) return status;
+    if (!status.IsDone()) return FaultAt(at, status);
     attributes_.Commit(1);
   }
 }
@@ -429,7 +433,7 @@ inline Status Parser::OpenScope(const TagTraits& traits) {
   const std::size_t declarations = namespaces_.size();
   if (traits.uses_namespaces) {
     const Status status = namespaces_.Enter(name_, attributes());
-    if (!status.IsDone()) return status;
+    if (!status.IsDone()) return FaultAt(namespaces_.fault_at(), status);
     if (is_empty_element_) namespaces_.Leave(declarations);
   }
   if (!is_empty_element_) OpenElement(name_, declarations);
@@ -456,7 +460,8 @@ Status Parser::CheckUniqueNames() {
   if (all.size() <= kFew) {
     for (std::size_t i = 1; i < all.size(); ++i) {
       for (std::size_t j = 0; j < i; ++j) {
-        if (all[i].name.text == all[j].name.text) return WC_E_UNIQUEATTRIBUTE;
+        if (all[i].name.text != all[j].name.text) continue;
+        return FaultAt(all[i].name.text.data(), WC_E_UNIQUEATTRIBUTE);
       }
     }
     return kDone;
@@ -465,7 +470,8 @@ Status Parser::CheckUniqueNames() {
   for (const Attribute& attribute : all) sorted_names_.push_back(attribute.name.text);
   std::sort(sorted_names_.begin(), sorted_names_.end());
   const auto duplicate = std::adjacent_find(sorted_names_.begin(), sorted_names_.end());
-  return duplicate == sorted_names_.end() ? kDone : WC_E_UNIQUEATTRIBUTE;
+  if (duplicate == sorted_names_.end()) return kDone;
+  return FaultAt(std::max(duplicate->data(), duplicate[1].data()), WC_E_UNIQUEATTRIBUTE);
 }
 
 /// Leaves a vector's width readable after the names.
@@ -490,13 +496,14 @@ Status Parser::ParseEndTag(const char* at) {
   if (!matches) {
     QName other;
     const Status status = ReadQName(at, other);
-    if (!status.IsDone()) return status;
-    return other.text == expected ? WC_E_GREATERTHAN : WC_E_ELEMENTMATCH;
+    if (!status.IsDone()) return FaultAt(at, status);
+    if (other.text != expected) return WC_E_ELEMENTMATCH;
+    return FaultAt(EndOf(other.text), WC_E_GREATERTHAN);
   }
   name_.text = Slice(at, at + expected.size());
   at = SkipSpace(at + expected.size());
   if (*at == '\0') return kMoreInput;
-  if (*at != '>') return WC_E_GREATERTHAN;
+  if (*at != '>') return FaultAt(at, WC_E_GREATERTHAN);
 
   name_.prefix = scopes_[depth_ - 1].prefix;
   CloseElement();
@@ -621,7 +628,7 @@ Status Parser::ParseComment(const char* at) {
     if (*at == '-') break;
   }
   if (at[1] == '\0') return kMoreInput;
-  if (at[1] != '>') return WC_E_COMMENT;
+  if (at[1] != '>') return FaultAt(at - 1, WC_E_COMMENT);
   value_ = Slice(start, at - 1);
   value_is_plain_ = false;
   return Deliver(XmlNodeType_Comment, at + 2);
@@ -644,22 +651,22 @@ Status Parser::ParseCData(const char* at) {
 Status Parser::ParseProcessingInstruction(const char* at) {
   const char* const target_end = SkipName(at);
   if (*target_end == '\0') return kMoreInput;
-  if (target_end == at) return WC_E_PI;
-  if (*target_end == ':') return NC_E_NAMECOLON;
+  if (target_end == at) return FaultAt(at, WC_E_PI);
+  if (*target_end == ':') return FaultAt(target_end, NC_E_NAMECOLON);
   const std::string_view target = Slice(at, target_end);
   if (target == "xml") return has_delivered_ ? WC_E_TEXTXMLDECL : ParseDeclaration(target_end);
   if (IsReservedTarget(target)) return WC_E_LEADINGXML;
 
   const char* const start = SkipSpace(target_end);
   const bool has_space = start != target_end;
-  if (!has_space && *start != '?') return WC_E_PI;
+  if (!has_space && *start != '?') return FaultAt(start, WC_E_PI);
   const char* end = start;
   for (;; ++end) {
     end = Find<'?'>(end);
     if (*end == '\0') return kMoreInput;
     if (end[1] == '>') break;
     if (end[1] == '\0') return kMoreInput;
-    if (!has_space) return WC_E_PI;
+    if (!has_space) return FaultAt(start, WC_E_PI);
   }
   name_ = {target, 0};
   value_ = Slice(start, end);
@@ -672,19 +679,20 @@ Status Parser::ParseDeclaration(const char* at) {
   Status status = ParseVersion(at);
   if (status.IsDone()) status = ParseEncodingDeclaration(at);
   if (status.IsDone()) status = ParseStandalone(at);
-  if (!status.IsDone()) return status;
+  if (!status.IsDone()) return FaultAt(fault_at_ == nullptr ? SkipSpace(at) : fault_at_, status);
   at = SkipSpace(at);
   status = Expect(at, "?>", WC_E_XMLDECL);
-  return status.IsDone() ? Deliver(XmlNodeType_XmlDeclaration, at + 2) : status;
+  return status.IsDone() ? Deliver(XmlNodeType_XmlDeclaration, at + 2) : FaultAt(at, status);
 }
 
-Status Parser::ParseEncodingDeclaration(const char*& at) const {
+Status Parser::ParseEncodingDeclaration(const char*& at) {
   std::optional<std::string_view> name;
   const Status status = ReadPseudoAttribute(at, "encoding", name);
   if (!status.IsDone() || !name) return status;
   const bool starts_with_letter =
       !name->empty() && IsClass(name->front(), kNameStart) && name->front() != '_';
-  return starts_with_letter ? input_.CheckDeclaredEncoding(*name) : WC_E_XMLDECL;
+  const Status found = starts_with_letter ? input_.CheckDeclaredEncoding(*name) : WC_E_XMLDECL;
+  return found.IsDone() ? found : FaultAt(name->data(), found);
 }
 
 }  // namespace tolva::platform::own_xml

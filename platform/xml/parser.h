@@ -75,6 +75,22 @@ class Parser {
   /// that has thrown, or E_UNEXPECTED if there is no input.
   HRESULT fault() const { return fault_; }
 
+  /// Where that is, after kFault: in the window, or its limit if the input ends there. Valid until
+  /// the next input.
+  const char* fault_at() const { return fault_at_; }
+
+  /// The window, for positions. Text that is not dropped yet stays where it is during a call.
+  const Input& input() const { return input_; }
+
+  /// Sets what sees the text that leaves the window, until there is another input.
+  void Observe(InputObserver* observer) { input_.Observe(observer); }
+
+  /// The number of elements that are open.
+  std::size_t depth() const { return depth_; }
+
+  /// The name of the innermost of them, as its start tag has it.
+  std::string_view InnermostName() const;
+
   XmlNodeType type() const { return type_; }
 
   /// The name of an Element, EndElement or ProcessingInstruction; otherwise empty.
@@ -144,16 +160,19 @@ class Parser {
   Status ParseCData(const char* at);
   Status ParseProcessingInstruction(const char* at);
   Status ParseDeclaration(const char* at);
-  Status ParseEncodingDeclaration(const char*& at) const;
+  Status ParseEncodingDeclaration(const char*& at);
 
   Status Deliver(XmlNodeType type, const char* end);
+  Status FaultAt(const char* at, Status status) {
+    fault_at_ = at;
+    return status;
+  }
   ReadResult Fail(HRESULT fault);
   ReadResult EndAtLimit();
 
   bool IsOutsideRoot() const { return depth_ == 0; }
   /// The window shows nothing more after the root.
   bool IsAfterRoot() const { return has_root_ && IsOutsideRoot() && at_ == input_.limit(); }
-  std::string_view InnermostName() const;
 
   Input input_;
   const char* at_ = nullptr;    ///< the end of the current node
@@ -162,6 +181,7 @@ class Parser {
   bool at_limit_ = false;       ///< there is no more input than the window shows
   ReadResult result_ = ReadResult::kFault;
   HRESULT fault_ = E_UNEXPECTED;
+  const char* fault_at_ = nullptr;  ///< null: at the start of the node
 
   XmlNodeType type_ = XmlNodeType_None;
   QName name_;
