@@ -9,9 +9,11 @@ void AddTool(CLI::App& tool, Session& session) {
   tool.set_help_flag("-h,--help", "prints this help.");
   tool.set_version_flag("--version", "", "prints the version.");
   tool.footer(
+      "tolva check policy.xml          what is wrong with a policy\n"
       "tolva explain policy            what the policy holds\n"
       "tolva new policy --full         a policy to start from\n"
       "tolva schema html -o tolva.html a page about all documents");
+  AddCheck(tool, session);
   AddExplain(tool, session);
   AddSchema(tool, session);
   AddNew(tool, session);

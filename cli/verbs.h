@@ -9,6 +9,7 @@ namespace tolva::cli {
 /// Adds what the tool's command line consists of.
 void AddTool(CLI::App& tool, Session& session);
 
+void AddCheck(CLI::App& tool, Session& session);
 void AddExplain(CLI::App& tool, Session& session);
 void AddSchema(CLI::App& tool, Session& session);
 void AddNew(CLI::App& tool, Session& session);

@@ -15,9 +15,9 @@ struct Outcome {
 };
 
 /// Keeps what is written.
-class TextStream final : public cli::Stream {
+class TextOutput final : public cli::Stream {
  public:
-  explicit TextStream(std::size_t width = kCommonWidth) : width_(width) {}
+  explicit TextOutput(std::size_t width = kCommonWidth) : width_(width) {}
 
   void Write(std::string_view text) override { text_ += text; }
   std::size_t Width() const override { return width_; }
@@ -29,8 +29,8 @@ class TextStream final : public cli::Stream {
 };
 
 inline Outcome RunTool(const std::vector<std::string>& arguments, std::size_t width = 80) {
-  TextStream out(width);
-  TextStream err(width);
+  TextOutput out(width);
+  TextOutput err(width);
   const int status = cli::Run(arguments, out, err);
   return {status, out.text(), err.text()};
 }

@@ -133,7 +133,7 @@ class BrokenStream final : public cli::Stream {
 };
 
 TEST(Tool, EndsQuietlyWhenNobodyReads) {
-  TextStream err;
+  TextOutput err;
   BrokenStream closed(true);
   EXPECT_EQ(cli::Run({"explain"}, closed, err), 2);
   EXPECT_EQ(err.text(), "");
