@@ -9,11 +9,13 @@ export CMAKE_CXX_COMPILER_LAUNCHER ?= $(shell command -v ccache)
 help: ## This list
 	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-14s %s\n", $$1, $$2 }' Makefile
 
-demo: ## Build, then read, change and write the example documents
-	@tools/packages.sh build
+demo: ## Build, then read, change, write and check the example documents
+	@tools/packages.sh tool
 	@cmake --preset linux-release -DTOLVA_TESTS=OFF > /dev/null
-	@cmake --build --preset linux-release --target tolva_demo
+	@cmake --build --preset linux-release --target tolva_demo tolva_tool
 	@build/linux-release/examples/tolva_demo examples/documents build/demo
+	@echo; echo "tolva check, the command-line tool, says where the broken documents are broken:"
+	@build/linux-release/cli/tolva check -r examples/documents/broken || [ $$? = 1 ]
 
 demo-windows: ## The same with the Windows library, under Wine
 	@tools/packages.sh windows
@@ -105,6 +107,7 @@ bench: ## Build and run the benchmarks, and plot them in docs/
 	@build/bench/bench/tolva_footprint
 	@build/bench/bench/tolva_bench build/bench
 	@gnuplot bench/plots.gp
+	@bench/check.py build/bench/cli/tolva examples/documents
 
 clean: ## Remove everything that was built
 	@rm -rf build

@@ -19,7 +19,7 @@ case ${1:-} in
     command -v npm > /dev/null || wanted="$wanted npm"
     ;;
   bench)
-    wanted="$build dpkg-dev libbenchmark-dev librapidxml-dev libexpat1-dev libxml2-dev libxerces-c-dev xsdcxx gnuplot-nox"
+    wanted="$build $tool libxml2-utils python3 dpkg-dev libbenchmark-dev librapidxml-dev libexpat1-dev libxml2-dev libxerces-c-dev xsdcxx gnuplot-nox"
     ;;
   *) echo 'usage: packages.sh build|tool|windows|test|mutants|conformance|bench' >&2; exit 2 ;;
 esac

@@ -138,7 +138,7 @@ part_sources() {
   echo 'Sources'
   check 'formatting' tools/format.sh --check
   check 'shell scripts' shellcheck tools/*.sh tests/cli/*.sh tests/tables/*.sh .ci/run
-  check 'Python scripts' pyflakes3 tools/*.py tests/cli/*.py
+  check 'Python scripts' pyflakes3 tools/*.py tests/cli/*.py bench/*.py
   check 'examples of the pages' tools/check-examples.sh
   check 'tables that must not compile' tools/must-fail.sh
   check 'factories that the headers declare' compare_factories
@@ -205,16 +205,22 @@ part_speed() {
   check 'cost of a read and a write' tools/instructions.sh build/linux-release/bench/tolva_guard
 }
 
+# What is compared with a standard that has to be fetched.
 part_conformance() {
-  echo 'W3C conformance suite'
+  echo 'W3C conformance suite, schema of SARIF'
   build linux-release || return
-  local log=$results/conformance.log status=0
-  tools/conformance.sh build/linux-release/tests/tolva_conformance > "$log" 2>&1 || status=$?
+  fetched conformance build/linux-release/tests/tolva_conformance
+  fetched sarif build/linux-release/cli/tolva
+}
+
+fetched() { # <name of a script> <program>
+  local log=$results/$1.log status=0
+  tools/"$1".sh "$2" > "$log" 2>&1 || status=$?
   sed 's/^/  /' "$log" | tail -n 20
   case $status in
-    0) count_check yes 'conformance' ;;
+    0) count_check yes "$1" ;;
     77) skipped=$((skipped + 1)) ;;
-    *) count_check no 'conformance' ;;
+    *) count_check no "$1" ;;
   esac
 }
 
