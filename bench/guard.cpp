@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <memory>
 #include <new>
 #include <string>
@@ -58,7 +59,7 @@ bool Write(const tolva::node::INode& root, const std::wstring& path) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
   if (argc < 3) return 2;
   const bool reads = std::string_view(argv[1]) == "read";
   const int count = std::atoi(argv[2]);
@@ -74,4 +75,7 @@ int main(int argc, char** argv) {
   }
   std::printf("%zu elements, %zu allocations\n", document.elements, allocations - before);
   return 0;
+} catch (const std::exception& problem) {
+  std::fprintf(stderr, "%s\n", problem.what());
+  return 1;
 }

@@ -90,7 +90,8 @@ std::string FaultOf(const CLI::App& tool, const CLI::App& verb, const CLI::Parse
 }
 
 int RunTool(const std::vector<std::string>& arguments, Session& session) {
-  CLI::App tool("Checks, explains, describes and makes the configuration documents of the agent.", "tolva");
+  CLI::App tool("Checks, explains, describes and makes the configuration documents of the agent.",
+                "tolva");
   AddTool(tool, session);
   try {
     // The parser takes the last argument first.

@@ -1,6 +1,7 @@
 #include "platform/utf.h"
 
 #include <algorithm>
+#include <memory>
 
 #include "platform/vector.h"
 
@@ -83,6 +84,30 @@ bool IsAscii(std::string_view utf8) {
   return true;
 }
 
+/// Converts to wide characters. There is room for as many as there are bytes, and for a block.
+wchar_t* Widen(std::string_view utf8, wchar_t* to) {
+  static_assert(kReadAhead >= Bytes::kCount);
+  const char* at = utf8.data();
+  const char* const end = at + utf8.size();
+  while (at != end) {
+    // All sixteen bytes are widened. Only the ASCII characters at the front are kept.
+    Bytes block = Bytes::Load(at);
+    block.StoreWidened(to);
+    while (block.ToMask() == 0 && end - at > static_cast<std::ptrdiff_t>(Bytes::kCount)) {
+      at += Bytes::kCount;
+      to += Bytes::kCount;
+      block = Bytes::Load(at);
+      block.StoreWidened(to);
+    }
+    const auto ascii =
+        std::min<std::size_t>(FirstOf(block.ToMask()), static_cast<std::size_t>(end - at));
+    at += ascii;
+    to += ascii;
+    if (at != end) to = EncodeWide(TakeCodePoint(at), to);
+  }
+  return to;
+}
+
 }  // namespace
 
 Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
@@ -111,30 +136,24 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
   return {i, false};
 }
 
-void AppendWide(std::string_view utf8, Buffer<wchar_t>& out) {
-  static_assert(kReadAhead >= Bytes::kCount);
-  // A character has no more units than bytes.
-  wchar_t* const start = out.Room(utf8.size() + kReadAhead);
-  wchar_t* to = start;
-  const char* at = utf8.data();
-  const char* const end = at + utf8.size();
+const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept {
+  constexpr std::ptrdiff_t kCount = Bytes::kCount;
   while (at != end) {
-    // All sixteen bytes are widened. Only the ASCII characters at the front are kept.
-    Bytes block = Bytes::Load(at);
-    block.StoreWidened(to);
-    while (block.ToMask() == 0 && end - at > static_cast<std::ptrdiff_t>(Bytes::kCount)) {
-      at += Bytes::kCount;
-      to += Bytes::kCount;
-      block = Bytes::Load(at);
-      block.StoreWidened(to);
+    if (end - at >= kCount && Bytes::LoadNarrowed(at).IsPrintable().ToMask() == kAllBytes) {
+      at += kCount;
+      continue;
     }
-    const auto ascii =
-        std::min<std::size_t>(FirstOf(block.ToMask()), static_cast<std::size_t>(end - at));
-    at += ascii;
-    to += ascii;
-    if (at != end) to = EncodeWide(TakeCodePoint(at), to);
+    const wchar_t* const stretch = at + std::min(kCount, end - at);
+    while (at < stretch) {
+      if (*at >= L' ' && *at < 0xD800) {  // almost always
+        ++at;
+        continue;
+      }
+      const wchar_t* const character = at;
+      if (!IsXmlCharacter(TakeCodePoint(at, end))) return character;
+    }
   }
-  out.Commit(static_cast<std::size_t>(to - start));
+  return end;
 }
 
 void AssignWide(std::string_view utf8, std::wstring& text) {
@@ -165,9 +184,8 @@ void AssignWide(std::string_view utf8, std::wstring& text) {
     text = std::wstring(utf8.begin(), utf8.end());
     return;
   }
-  Buffer<wchar_t> wide;
-  AppendWide(utf8, wide);
-  text.assign(wide.data(), wide.size());
+  const auto wide = std::make_unique_for_overwrite<wchar_t[]>(utf8.size() + Bytes::kCount);
+  text.assign(wide.get(), Widen(utf8, wide.get()));
 }
 
 void AppendUtf8(std::wstring_view wide, std::string& out) {

@@ -8,8 +8,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/buffer.h"
-
 namespace tolva::platform {
 
 inline constexpr char32_t kReplacementCharacter = 0xFFFD;
@@ -82,12 +80,12 @@ struct Utf8Prefix {
 /// Validates `size` bytes.
 Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept;
 
-/// The number of bytes after a text that AppendWide may read. Their values have no effect.
-inline constexpr std::size_t kReadAhead = 16;
+/// Finds the first character that XML does not allow. Lone surrogates are not allowed. Returns
+/// `end` if there is none.
+const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) noexcept;
 
-/// Appends well-formed UTF-8, which `kReadAhead` readable bytes follow, as a wide string. Leaves
-/// room for a terminating zero.
-void AppendWide(std::string_view utf8, Buffer<wchar_t>& out);
+/// The number of bytes after a text that AssignWide may read. Their values have no effect.
+inline constexpr std::size_t kReadAhead = 16;
 
 // Replaces the text by a value, which is UTF-8 with `kReadAhead` readable bytes after it, or wide.
 

@@ -1,10 +1,8 @@
 #include "platform/windows/xmllite.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "platform/utf.h"
-#include "platform/vector.h"
 
 namespace tolva::platform {
 namespace {
@@ -40,28 +38,6 @@ HRESULT ReadThrough(IStream& document) {
   XmlNodeType type = XmlNodeType_None;
   while (result == S_OK) result = reader->Read(&type);
   return result;
-}
-
-/// Finds the first character that XML does not allow. Lone surrogates are not allowed. Returns
-/// `end` if there is none.
-const wchar_t* FindForbidden(const wchar_t* at, const wchar_t* end) {
-  constexpr std::ptrdiff_t kCount = Bytes::kCount;
-  while (at != end) {
-    if (end - at >= kCount && Bytes::LoadNarrowed(at).IsPrintable().ToMask() == kAllBytes) {
-      at += kCount;
-      continue;
-    }
-    const wchar_t* const stretch = at + std::min(kCount, end - at);
-    while (at < stretch) {
-      if (*at >= L' ' && *at < 0xD800) {  // almost always
-        ++at;
-        continue;
-      }
-      const wchar_t* const character = at;
-      if (!IsXmlCharacter(TakeCodePoint(at, end))) return character;
-    }
-  }
-  return end;
 }
 
 /// XmlLite takes zero-terminated strings, so an embedded zero would hide what follows. Characters

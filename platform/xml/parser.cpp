@@ -533,6 +533,7 @@ inline bool Parser::ReadKnownEndTag(const char* at) {
 }
 
 inline bool Parser::ReadKnownStartTag(const char* at, const KnownTags& tags, std::size_t& index) {
+  if (tags.size() == 0) return false;
   std::size_t place = index;
   for (std::size_t tried = 0; !tags[place].name.IsAt(at); ++tried) {
     if (tried == tags.size()) return false;

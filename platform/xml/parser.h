@@ -67,8 +67,8 @@ class Parser {
   /// Does what `ReadTag` does, but only if the next node is an end tag, or a start tag in `tags`
   /// with no attributes that the tag does not know, and if it is written as most tags are: one
   /// space before each attribute, double quotes, no other space. `index` is where the search among
-  /// the tags, of which there is one at least, starts, and then the place of the tag. Returns
-  /// false, and changes nothing, in all other cases, whether there is a fault or not.
+  /// the tags starts, and then the place of the tag. Returns false, and changes nothing, in all
+  /// other cases, whether there is a fault or not.
   bool ReadKnownTag(const KnownTags& tags, std::size_t& index);
 
   /// What is wrong, after kFault: an XmlLite code, the stream's failure, E_OUTOFMEMORY after a call

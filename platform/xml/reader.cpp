@@ -11,7 +11,7 @@ namespace {
 constexpr char kEmpty[kReadAhead + 1] = {};
 
 XmlReader::Value OrEmpty(std::string_view value) {
-  return value.data() == nullptr ? XmlReader::Value(kEmpty, 0) : value;
+  return value.data() == nullptr ? XmlReader::Value(kEmpty) : value;
 }
 
 own_xml::ValueKind KindOf(XmlNodeType type) {

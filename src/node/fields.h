@@ -233,12 +233,13 @@ class ChildList final : public ItemList {
     static_assert(alignof(C) <= alignof(Block));
     const DWORD added = std::min(capacity_ < 8 ? capacity_ + kFirst : capacity_ / 2, kMostAtOnce);
     const DWORD capacity = capacity_ + added;
-    const DWORD table_size = capacity <= table_size_ ? 0 : std::max(capacity, 2 * table_size_);
+    const bool has_table = items_ != nullptr && capacity <= table_size_;
+    const DWORD table_size = has_table ? 0 : std::max(capacity, 2 * table_size_);
     const std::size_t table_bytes = AlignUp(table_size * sizeof(C*));
     auto* const bytes =
         static_cast<char*>(::operator new(sizeof(Block) + table_bytes + added * sizeof(C)));
     blocks_ = ::new (static_cast<void*>(bytes)) Block{blocks_};
-    if (table_size != 0) {
+    if (!has_table) {
       C** const table = reinterpret_cast<C**>(bytes + sizeof(Block));
       std::copy(items_, items_ + capacity_, table);
       items_ = table;

@@ -106,8 +106,9 @@ Outcome Parse(StackStream& stream, bool converted = false) {
   Outcome outcome;
   ReadResult result = ReadResult::kNode;
   Steps steps;
-  while (steps.Take() && (result = parser.Read()) == ReadResult::kNode)
+  while (steps.Take() && (result = parser.Read()) == ReadResult::kNode) {
     outcome.nodes += Describe(parser);
+  }
   if (result == ReadResult::kFault) outcome.fault = parser.fault();
   for (int again = 0; again < 3; ++again) {
     EXPECT_EQ(parser.Read(), result);

@@ -53,7 +53,7 @@ class ManagerReader : public testing::Test {
     std::size_t index = 0;
     while (kNames[index] != name) ++index;
     reader_.FindAttributes(kNames);
-    const std::wstring value = Wide(reader_.GetAttribute(index));
+    std::wstring value = Wide(reader_.GetAttribute(index));
     reader_.StoreAttributeError();
     return value;
   }
