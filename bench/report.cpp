@@ -21,7 +21,7 @@ const std::string kOurs = "tolva";
 /// The sizes that there are aims for.
 constexpr std::array<std::size_t, 4> kAimSizes = {4'000, 40'000, 400'000, 10'000'000};
 
-/// What the ratio to the best rival is to be, for each size.
+/// What the ratio is to be, for each size. docs/performance.md says against whom the aims were set.
 struct Aim {
   const char* task;
   const char* kind;

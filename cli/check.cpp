@@ -10,6 +10,7 @@
 #include <mutex>
 #include <set>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -240,7 +241,11 @@ class Check {
     const std::size_t threads =
         std::min<std::size_t>(count, std::max(1U, std::thread::hardware_concurrency()));
     std::vector<std::jthread> others;
-    for (std::size_t i = 1; i < threads; ++i) others.emplace_back([this] { CheckFiles(); });
+    try {
+      for (std::size_t i = 1; i < threads; ++i) others.emplace_back([this] { CheckFiles(); });
+    } catch (const std::system_error&) {
+      // There are no more threads to be had: those that there are do all the work.
+    }
     CheckFiles();
     others.clear();
     const Summary& summary = printer_.End();
@@ -262,8 +267,7 @@ class Check {
   void CheckFile(std::size_t file) {
     const Input& input = files_[file];
     FileSink sink(printer_, *format_, ignored_, file, input.name);
-    try {
-      const auto stream = OpenInput(input);
+    if (const auto stream = Open(input, sink.result.trouble)) {
       const FileState state(input);
       const bool skips_foreign = input.is_from_folder && !options_.is_strict;
       const WalkOutcome outcome = WalkDocument(
@@ -275,10 +279,18 @@ class Check {
       } else if (state.HasChanged()) {
         sink.result.trouble = name + "changed while it was read";
       }
-    } catch (const Trouble& trouble) {
-      sink.result.trouble = trouble.what();
     }
     printer_.Finish(file, input.name, std::move(sink.result));
+  }
+
+  /// Null, with the reason in `trouble`, if the file cannot be opened.
+  static ComPtr<ISequentialStream> Open(const Input& input, std::string& trouble) {
+    try {
+      return OpenInput(input);
+    } catch (const Trouble& reason) {
+      trouble = reason.what();
+      return {};
+    }
   }
 
   const Options& options_;

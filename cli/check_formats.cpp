@@ -1,5 +1,6 @@
 #include "cli/check_formats.h"
 
+#include <filesystem>
 #include <nlohmann/json.hpp>
 
 #include "cli/text.h"
@@ -51,9 +52,10 @@ class TextFormat final : public CheckFormat {
 
 // ---- JSON --------------------------------------------------------------------------------------
 
-/// On one line. Text that is not UTF-8 is repaired.
+/// On one line, in ASCII: names of files may have characters that mean something to a terminal.
+/// Text that is not UTF-8 is repaired.
 std::string Line(const Json& json) {
-  return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+  return json.dump(-1, ' ', true, Json::error_handler_t::replace);
 }
 
 class JsonFormat final : public CheckFormat {
@@ -97,10 +99,18 @@ class JsonFormat final : public CheckFormat {
 std::string UriOf(const std::string& file) {
   constexpr std::string_view kPlain = "-._~/!$&'()*+,;=@";
   constexpr std::string_view kDigits = "0123456789ABCDEF";
-  const bool has_drive = file.size() > 1 && file[1] == ':';
-  std::string uri = has_drive ? "file:///" : file.starts_with("/") ? "file://" : "";
+  constexpr bool kIsWindows = std::filesystem::path::preferred_separator == '\\';
+  const bool has_drive = kIsWindows && file.size() > 1 && file[1] == ':';
+  std::string uri;
+  if (has_drive) {
+    uri = "file:///";
+  } else if (kIsWindows && file.starts_with("\\\\")) {
+    uri = "file:";  // the host follows
+  } else if (file.starts_with("/")) {
+    uri = "file://";
+  }
   for (std::size_t i = 0; i < file.size(); ++i) {
-    const char c = file[i] == '\\' && has_drive ? '/' : file[i];
+    const char c = kIsWindows && file[i] == '\\' ? '/' : file[i];
     const auto byte = static_cast<unsigned char>(c);
     const bool is_letter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
     const bool is_plain = is_letter || (c >= '0' && c <= '9') ||
