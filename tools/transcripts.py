@@ -4,7 +4,7 @@
 
 A transcript is a block ```console. A line "$ command" is run by the shell, in a folder that has copies of
 the example documents; the lines after it are its output. A line "..." stands for any lines. --update writes
-the output into the page, where there is no such line.
+the output into the page, where there is no such line. Paths of Windows are compared as if they had slashes.
 """
 
 import os
@@ -26,6 +26,10 @@ def matches(expected, actual):
         return False
     rest = expected[at + 1:]
     return any(matches(rest, actual[start:]) for start in range(at, len(actual) + 1))
+
+
+def with_slashes(lines):
+    return [line.replace('\\', '/') for line in lines]
 
 
 def run(command, folder, environment):
@@ -71,7 +75,7 @@ def main():
             expected = lines[start:index]
             actual = run(line[2:], folder, environment)
             count += 1
-            if matches(expected, actual):
+            if matches(with_slashes(expected), with_slashes(actual)):
                 result += expected
             elif is_update and ANYTHING not in expected:
                 result += actual

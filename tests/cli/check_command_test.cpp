@@ -131,18 +131,19 @@ TEST_F(Checked, SendsNothingRawToATerminal) {
   Add("evil.xml",
       "<ActiveDirectory><DefaultDomain Enabled='&#x9B;&#x202E;x&#10;' "
       "Name='x'/></ActiveDirectory>");
-  Add("evil\u009B\u202E.xml",
+  Add("evil\u009B\xE2\x80\xAE.xml",
       "<ActiveDirectory><DefaultDomain Enabled='1' Name='x' \u0085='1'/></ActiveDirectory>");
   Add("long.xml", "<ActiveDirectory><" + std::string(5000, 'n') + "/></ActiveDirectory>");
   for (const std::string& format : cli::CheckFormats()) {
-    const std::string out =
-        Check({"--format", format, In("evil.xml"), In("evil\u009B\u202E.xml"), In("long.xml")}).out;
+    const std::string out = Check({"--format", format, In("evil.xml"),
+                                   In("evil\u009B\xE2\x80\xAE.xml"), In("long.xml")})
+                                .out;
     if (format == "text") {
       EXPECT_NE(out.find("Enabled=\"/xC2/x9B"), std::string::npos) << out;  // see WithSlashes
     }
     EXPECT_EQ(out.find("\u0085"), std::string::npos) << format;
     EXPECT_EQ(out.find("\u009B"), std::string::npos) << format;
-    EXPECT_EQ(out.find("\u202E"), std::string::npos) << format;
+    EXPECT_EQ(out.find("\xE2\x80\xAE"), std::string::npos) << format;
     EXPECT_EQ(out.find("nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn"),
               std::string::npos)
         << format;
@@ -177,6 +178,7 @@ TEST_F(Checked, KeepsTheOrderOfTheFiles) {
   Add("deep/0-much.xml", much);
   Add("deep/1-much.xml", much);
   std::vector<std::string> names;
+  names.reserve(202);
   for (int i = 0; i < 200; ++i) names.push_back(In(i % 50 == 0 ? "deep/1-much.xml" : "1-bad.xml"));
   names.insert(names.begin(), In("deep/0-much.xml"));
   names.insert(names.begin(), "check");

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "cli/check_walk.h"
+#include "cli/new.h"
 #include "cli/run.h"
 #include "cli/text.h"
 #include "platform/utf.h"
@@ -98,6 +99,9 @@ TEST_P(CheckedExample, IsFine) {
   const std::string text = cli::ToUtf8(TextOf(document()));
   EXPECT_TRUE(Check(text).empty());
   EXPECT_TRUE(Check(text, 1).empty());
+  for (const auto content : {cli::NewContent::kRequired, cli::NewContent::kEverything}) {
+    EXPECT_TRUE(Check(cli::NewDocument(document(), content)).empty());
+  }
 }
 
 /// Every fault that the tests know: what is absent or malformed, a document that breaks off, and
