@@ -271,13 +271,14 @@ TEST(CheckedPlaces, AreExact) {
         text += CodePoints(place.document);
         const std::size_t mark = text.find(U'|');
         text.erase(mark, 1);
-        const auto before = std::u32string_view(text).substr(0, mark);
+        const std::u32string_view before{text.data(), mark};
         const auto line = static_cast<std::uint64_t>(std::ranges::count(before, U'\n')) + 1;
         const std::uint64_t column = mark - before.rfind(U'\n');
         const auto bytes = [&](std::u32string_view part) {
           std::u32string ended;
-          for (const char32_t c : part)
+          for (const char32_t c : part) {
             ended += c == U'\n' ? CodePoints(line_end) : std::u32string(1, c);
+          }
           return Encoded(ended, encoding);
         };
         for (const std::size_t block : {1U, 7U, 65536U}) {
