@@ -116,8 +116,10 @@ TEST(Posix, ReadsAMemoryStreamInPieces) {
 }
 
 TEST(Posix, ConvertsTextThatFits) {
-  const std::wstring wide = L"a\u00E9\U0001F600\xD83D\xDE00\xD800" + std::wstring(1, 0x110000);
-  const std::string utf8 = "a\xC3\xA9\xF0\x9F\x98\x80\xF0\x9F\x98\x80\xEF\xBF\xBD\xEF\xBF\xBD";
+  const std::wstring wide =
+      L"a long run of letters \u00E9\U0001F600\xD83D\xDE00\xD800" + std::wstring(1, 0x110000);
+  const std::string utf8 =
+      "a long run of letters \xC3\xA9\xF0\x9F\x98\x80\xF0\x9F\x98\x80\xEF\xBF\xBD\xEF\xBF\xBD";
   const auto convert = [&wide](char* buffer, int capacity) {
     return WideCharToMultiByte(CP_UTF8, 0, wide.data(), static_cast<int>(wide.size()), buffer,
                                capacity, nullptr, nullptr);
