@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <nlohmann/json.hpp>
 
+#include "cli/markup.h"
 #include "cli/text.h"
 
 namespace tolva::cli {
@@ -216,28 +217,7 @@ class GithubFormat final : public CheckFormat {
 
 // ---- JUnit -------------------------------------------------------------------------------------
 
-std::string EscapedForXml(std::string_view text) {
-  std::string escaped;
-  for (const char c : Printable(text)) {
-    switch (c) {
-      case '&':
-        escaped += "&amp;";
-        break;
-      case '<':
-        escaped += "&lt;";
-        break;
-      case '>':
-        escaped += "&gt;";
-        break;
-      case '"':
-        escaped += "&quot;";
-        break;
-      default:
-        escaped += c;
-    }
-  }
-  return escaped;
-}
+std::string EscapedForXml(std::string_view text) { return Escaped(Printable(text)); }
 
 /// A test case for each finding, or for a file in which there is none. The numbers of test cases
 /// are left out: they would have to be known before the first.

@@ -151,7 +151,7 @@ std::string Bash(const VerbView& tool, const std::vector<VerbView>& verbs) {
 
 // ---- zsh ---------------------------------------------------------------------------------------
 
-/// Text in the brackets of a specification.
+/// Text in brackets, as zsh's _arguments takes it.
 std::string ZshText(const std::string& text) {
   return Replaced(Replaced(Replaced(Replaced(text, "\\", "\\\\"), "[", "\\["), "]", "\\]"), ":",
                   "\\:");
@@ -175,26 +175,26 @@ std::string ZshOption(const OptionView& option) {
   const std::string about = "[" + ZshText(Sentence(option.description)) + "]";
   const std::string candidates = option.value.empty() ? "" : ":" + ZshCandidates(option);
   const std::string others = "(" + Join(option.names, " ") + ")";
-  std::string specifications;
+  std::string arguments;
   for (const std::string& name : option.names) {
     const std::string form =
         candidates.empty() ? name : name + (name.starts_with("--") ? "=" : "+");
-    specifications += " \\\n      " + Quoted(others + form + about + candidates);
+    arguments += " \\\n      " + Quoted(others + form + about + candidates);
   }
-  return specifications;
+  return arguments;
 }
 
 std::string ZshArguments(const VerbView& verb) {
-  std::string specifications;
+  std::string arguments;
   for (const OptionView& option : verb.options) {
     if (!option.IsPositional()) {
-      specifications += ZshOption(option);
+      arguments += ZshOption(option);
       continue;
     }
-    specifications +=
+    arguments +=
         " \\\n      " + Quoted((option.is_repeatable ? "*:" : ":") + ZshCandidates(option));
   }
-  return specifications;
+  return arguments;
 }
 
 std::string Zsh(const VerbView& tool, const std::vector<VerbView>& verbs) {

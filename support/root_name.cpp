@@ -177,7 +177,7 @@ class FileCharacters {
   Encoding encoding_ = Encoding::kUtf8;
   std::size_t at_ = 0;
   std::size_t size_ = 0;
-  std::array<char, 16384> block_;  // NOLINT(*-member-init): as much of it is read as is filled
+  std::array<char, 16384> block_ = {};
 };
 
 /// Finds the root element. Everything before it has to be well-formed.
