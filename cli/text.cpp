@@ -25,7 +25,7 @@ std::string NativeToUtf8(const Text& path) {
 
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-/// Whether a terminal obeys the character instead of showing it.
+/// Whether a terminal obeys the character instead of showing it, or XML does not allow it.
 bool IsControl(char32_t c) {
   struct Range {
     char32_t first;
@@ -37,6 +37,7 @@ bool IsControl(char32_t c) {
       {0x2066, 0x2069},                                      // likewise
       {0x2028, 0x2029},                                      // ends of lines
       {0xFEFF, 0xFEFF},                                      // nothing that is seen
+      {0xFFFE, 0xFFFF},                                      // no characters
   };
   return std::ranges::any_of(
       kRanges, [c](const Range& range) { return c >= range.first && c <= range.last; });

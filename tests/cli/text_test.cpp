@@ -22,6 +22,8 @@ TEST(Text, IsPrintedWithoutWhatTerminalsObey) {
   EXPECT_EQ(Printable("\xC0\xAF\xED\xA0\x80\xF4\x90\x80\x80"),  // overlong, surrogate, too great
             "\\xC0\\xAF\\xED\\xA0\\x80\\xF4\\x90\\x80\\x80");
   EXPECT_EQ(Printable(std::string("a\0b", 3)), "a\\x00b");
+  EXPECT_EQ(Printable("\xEF\xBF\xBD\xEF\xBF\xBF"),
+            "\xEF\xBF\xBD\\xEF\\xBF\\xBF");  // U+FFFD, U+FFFF
 }
 
 TEST(Text, IsWrapped) {
