@@ -1,8 +1,10 @@
-// Files as streams, and what can go wrong with them: one source file per platform.
+// Files and memory as streams, and what can go wrong with files, which has a source file per
+// platform.
 #pragma once
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 #include "platform/com_ptr.h"
@@ -17,6 +19,12 @@ using namespace platform;  // see platform.h
 HRESULT OpenFile(const std::filesystem::path& path, ComPtr<ISequentialStream>& stream);
 
 HRESULT OpenStandardInput(ComPtr<ISequentialStream>& stream);
+
+/// A stream that gives the bytes out. They are not copied.
+ComPtr<ISequentialStream> StreamOf(std::string_view bytes);
+
+/// A stream that appends what is written to the bytes.
+ComPtr<ISequentialStream> StreamInto(std::string& bytes);
 
 /// The result that says what an error of std::filesystem does.
 HRESULT ResultOf(const std::error_code& error);

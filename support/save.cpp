@@ -262,6 +262,15 @@ SaveReport SaveBytes(std::string_view bytes, const path& file, const SaveOptions
   if (error == 0) error = closed;
   if (error != 0) {
     FailToWrite(report, error);
+    return report;
+  }
+  std::string written;
+  error = ReadAll(new_file, written);
+  if (error != 0) {
+    Fail(report, SaveOutcome::kNotReadBack, error,
+         "the new file cannot be read back: " + PhraseOf(error));
+  } else if (written != bytes) {
+    Fail(report, SaveOutcome::kNotReadBack, 0, "the new file does not hold what was written");
   } else {
     files.Finish(new_file);
   }

@@ -5,8 +5,8 @@
 
 #include <cerrno>
 
+#include "counted_stream.h"
 #include "platform/posix/file.h"
-#include "platform/ref_counted.h"
 
 namespace tolva::cli {
 namespace {
@@ -17,7 +17,7 @@ HRESULT ResultOf(int error) {
   return HRESULT_FROM_WIN32(error == ELOOP ? kTooManyLinks : posix::ErrorOf(error));
 }
 
-class DescriptorStream final : public RefCounted<ISequentialStream> {
+class DescriptorStream final : public CountedStream {
  public:
   explicit DescriptorStream(int file) : file_(file) {}
   ~DescriptorStream() override {

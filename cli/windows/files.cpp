@@ -1,30 +1,17 @@
 #include "cli/files.h"
 
+#include "counted_stream.h"
+
 namespace tolva::cli {
 namespace {
 
 HRESULT LastResult() { return HRESULT_FROM_WIN32(GetLastError()); }
 
-/// Not thread-safe.
-class HandleStream final : public ISequentialStream {
+class HandleStream final : public CountedStream {
  public:
   HandleStream(HANDLE file, bool is_owned) : file_(file), is_owned_(is_owned) {}
-  HandleStream(const HandleStream&) = delete;
-  HandleStream& operator=(const HandleStream&) = delete;
-
-  ULONG AddRef() noexcept override { return ++references_; }
-
-  ULONG Release() noexcept override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
-
-  HRESULT QueryInterface(REFIID id, void** object) noexcept override {
-    const bool is_known = id == __uuidof(IUnknown) || id == __uuidof(ISequentialStream);
-    *object = is_known ? this : nullptr;
-    if (is_known) AddRef();
-    return is_known ? S_OK : E_NOINTERFACE;
+  ~HandleStream() override {
+    if (is_owned_) CloseHandle(file_);
   }
 
   HRESULT Read(void* buffer, ULONG size, ULONG* count) noexcept override {
@@ -47,11 +34,6 @@ class HandleStream final : public ISequentialStream {
   }
 
  private:
-  ~HandleStream() {
-    if (is_owned_) CloseHandle(file_);
-  }
-
-  ULONG references_ = 1;
   const HANDLE file_;
   const bool is_owned_;
 };

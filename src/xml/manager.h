@@ -29,7 +29,7 @@ class CXMLLiteManager : public IXMLLiteManager {
   Kind kind() const { return kind_; }
 
  protected:
-  ComPtr<IStream> stream_;  ///< null while nothing is open
+  ComPtr<ISequentialStream> stream_;  ///< null while nothing is open
 
  private:
   const Kind kind_;

@@ -25,8 +25,16 @@ ConfigResult CXMLLiteManagerReader::OpenFile(const wchar_t* path) {
   if (!is_usable_) return kFailed;
   if (path == nullptr) return kInvalidArgument;
   Close();
-  if (!OpenToRead(path, stream_.Receive())) return kFailed;
-  return MoveToRoot(reader_.SetInput(stream_.Get()));
+  ComPtr<IStream> file;
+  if (!OpenToRead(path, file.Receive())) return kFailed;
+  return OpenStream(*file.Get());
+}
+
+ConfigResult CXMLLiteManagerReader::OpenStream(ISequentialStream& stream) {
+  if (!is_usable_) return kFailed;
+  Close();
+  stream_.Share(&stream);
+  return MoveToRoot(reader_.SetInput(&stream));
 }
 
 ConfigResult CXMLLiteManagerReader::OpenFromString(const wchar_t* xml_text) {

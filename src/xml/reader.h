@@ -19,6 +19,10 @@ class CXMLLiteManagerReader final : public CXMLLiteManager {
   ConfigResult OpenFromString(const wchar_t* xml_text) override;
   ConfigResult Close() override;
 
+  /// Opens what a stream holds, from where it stands. The stream is kept until `Close`. The result
+  /// is that of `OpenFile` for a file that could be opened.
+  ConfigResult OpenStream(ISequentialStream& stream);
+
   /// The local name of the current element or processing instruction. On any other node the empty
   /// name, with last error 1.
   Value GetLocalName();

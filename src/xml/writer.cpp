@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <new>
+#include <utility>
 
 #include "xml/writer_fault.h"
 
@@ -63,17 +64,27 @@ CXMLLiteManagerWriter::~CXMLLiteManagerWriter() {
   if (stream_) Release();
 }
 
-ConfigResult CXMLLiteManagerWriter::OpenFile(const wchar_t* path) try {
+ConfigResult CXMLLiteManagerWriter::OpenFile(const wchar_t* path) {
   if (!is_usable_) return kFailed;
   if (path == nullptr) return kInvalidArgument;
-  if (Close() != kSuccess) Release();
+  EndPrevious();
 
-  HRESULT result = SHCreateStreamOnFileW(path, STGM_CREATE | STGM_WRITE, stream_.Receive());
+  ComPtr<IStream> file;
+  const HRESULT result = SHCreateStreamOnFileW(path, STGM_CREATE | STGM_WRITE, file.Receive());
   if (FAILED(result)) {
     SetLastResult(result);
     return kFailed;
   }
-  result = Invoke([this] { return writer_.SetOutput(stream_.Get()); });
+  const ConfigResult opened = OpenStream(*file.Get());
+  if (opened == kSuccess) file_ = std::move(file);
+  return opened;
+}
+
+ConfigResult CXMLLiteManagerWriter::OpenStream(ISequentialStream& stream) try {
+  if (!is_usable_) return kFailed;
+  EndPrevious();
+  stream_.Share(&stream);
+  HRESULT result = Invoke([&] { return writer_.SetOutput(&stream); });
   if (SUCCEEDED(result)) {
     result = Invoke([this] { return writer_.WriteStartDocument(); });
   }
@@ -105,7 +116,8 @@ HRESULT CXMLLiteManagerWriter::Finish() {
   const HRESULT flushed = Invoke([this] { return writer_.Flush(); });
   if (FAILED(ended) && !IsRefusal(ended)) return ended;
   // The document is complete, or can never be completed.
-  const HRESULT stored = FAILED(flushed) ? flushed : stream_->Commit(STGC_DEFAULT);
+  const bool is_to_be_stored = SUCCEEDED(flushed) && file_;
+  const HRESULT stored = is_to_be_stored ? file_->Commit(STGC_DEFAULT) : flushed;
   return FAILED(ended) ? ended : stored;
 }
 
@@ -116,11 +128,20 @@ HRESULT CXMLLiteManagerWriter::EndDocument() {
   return result;
 }
 
-/// Releases the file, whatever its state.
+/// Closes what is open; if that fails, releases it.
+void CXMLLiteManagerWriter::EndPrevious() try {
+  if (Close() != kSuccess) Release();
+} catch (const std::bad_alloc&) {
+  Release();
+  throw;
+}
+
+/// Releases the stream, whatever its state.
 void CXMLLiteManagerWriter::Release() {
   writer_.SetOutput(nullptr);
   is_ended_ = false;
   loss_ = S_OK;
+  file_.Reset();
   CXMLLiteManager::Close();
 }
 

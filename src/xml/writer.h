@@ -23,6 +23,10 @@ class CXMLLiteManagerWriter final : public CXMLLiteManager {
   ConfigResult OpenFile(const wchar_t* path) override;
   ConfigResult Close() override;
 
+  /// Starts a document in a stream, which is kept until it is closed. The result is that of
+  /// `OpenFile` for a file that could be opened.
+  ConfigResult OpenStream(ISequentialStream& stream);
+
   // Each returns 0, or -101 if the platform refuses. The names come from tables, so no element has
   // two attributes of one name.
 
@@ -50,8 +54,10 @@ class CXMLLiteManagerWriter final : public CXMLLiteManager {
   void NoteLoss(HRESULT failure);
   HRESULT EndDocument();
   HRESULT Finish();
+  void EndPrevious();
   void Release();
 
+  ComPtr<IStream> file_;  ///< null unless the stream is a file
   XmlWriter writer_;
   bool is_usable_ = false;
   bool is_ended_ = false;  ///< the document has been ended, but perhaps not flushed

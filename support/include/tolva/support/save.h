@@ -79,7 +79,8 @@ SaveReport Save(const Interface& root, const std::filesystem::path& file,
   return Save(kDocument<Interface>, root, file, options);
 }
 
-/// Replaces what a file holds by `bytes` in the same way; they are written as they are.
+/// Replaces what a file holds by `bytes` in the same way. They are written as they are, and the new
+/// file is read back and compared with them before it takes the old one's name.
 SaveReport SaveBytes(std::string_view bytes, const std::filesystem::path& file,
                      const SaveOptions& options = {});
 
