@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <nlohmann/json.hpp>
+#include <optional>
 
 #include "cli/session.h"
 #include "cli/text.h"
@@ -12,50 +13,6 @@ namespace tolva::cli {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-// ---- from a node -------------------------------------------------------------------------------
-
-Json ValueToJson(const Value& value, const node::FieldRef& field) {
-  switch (value.type) {
-    case Value::Type::kText:
-      return ToUtf8(*static_cast<const std::wstring*>(field.value));
-    case Value::Type::kEnum:
-      return value.texts.at(*static_cast<const DWORD*>(field.value));
-    default:
-      if (value.IsLong()) return std::to_string(*static_cast<const std::uint64_t*>(field.value));
-      return *static_cast<const DWORD*>(field.value);
-  }
-}
-
-bool IsPresent(const DWORD* present) { return present == nullptr || *present != 0; }
-
-Json ElementToJson(const Element& element, node::IElement& node) {
-  if (element.text.has_value()) {
-    const node::FieldRef field = element.schema->content.locate(node);
-    return IsPresent(field.present) ? ValueToJson(*element.text, field) : Json(nullptr);
-  }
-  Json json = Json::object();
-  for (const Attribute& attribute : element.attributes) {
-    const node::FieldRef field = attribute.row->locate(node);
-    if (IsPresent(field.present)) json[attribute.name] = ValueToJson(attribute.value, field);
-  }
-  for (const Child& child : element.children) {
-    const node::ChildRef found = child.row->locate(node);
-    if (found.items == nullptr) {
-      if (!IsPresent(found.present)) continue;
-      json[child.name] = ElementToJson(*child.element, *found.element);
-      continue;
-    }
-    for (std::size_t i = 0; i < found.items->Size(); ++i) {
-      // Located, not changed.
-      auto& item = const_cast<node::IElement&>(found.items->Item(i));
-      json[child.name].push_back(ElementToJson(*child.element, item));
-    }
-  }
-  return json;
-}
-
-// ---- into a node -------------------------------------------------------------------------------
 
 class JsonReader {
  public:
@@ -223,10 +180,42 @@ class JsonReader {
 
 }  // namespace
 
+nlohmann::ordered_json ValueToJson(const Value& value, const std::string& text) {
+  if (value.type != Value::Type::kNumber || value.IsLong()) return text;
+  return std::stoul(text);
+}
+
+nlohmann::ordered_json ElementToJson(const Element& element, const ElementView& view,
+                                     Secrets secrets) {
+  if (element.text.has_value()) {
+    const std::optional<std::string> text = view.Text();
+    return text.has_value() ? ValueToJson(*element.text, *text) : Json(nullptr);
+  }
+  Json json = Json::object();
+  for (const Attribute& attribute : element.attributes) {
+    const std::optional<std::string> value = view.ValueOf(attribute);
+    if (!value.has_value()) continue;
+    const bool is_hidden = attribute.is_secret && secrets == Secrets::kHidden;
+    json[attribute.name] = is_hidden ? Json(nullptr) : ValueToJson(attribute.value, *value);
+  }
+  for (const Child& child : element.children) {
+    view.ForEach(child, [&](const ElementView& one) {
+      Json value = ElementToJson(*child.element, one, secrets);
+      if (child.occurrence == Occurrence::kRepeated) {
+        json[child.name].push_back(std::move(value));
+      } else {
+        json[child.name] = std::move(value);
+      }
+    });
+  }
+  return json;
+}
+
 nlohmann::ordered_json ToJson(const Document& document, const node::INode& root) {
   auto& node = const_cast<node::INode&>(root);  // located, not changed
   Json json = Json::object();
-  json[document.root().name] = ElementToJson(document.root(), node);
+  json[document.root().name] =
+      ElementToJson(document.root(), NodeView(document.root(), node), Secrets::kShown);
   return json;
 }
 

@@ -9,13 +9,23 @@
 #pragma once
 
 #include <nlohmann/json_fwd.hpp>
+#include <string>
 
+#include "cli/fields.h"
 #include "cli/tables.h"
 
 namespace tolva::cli {
 
 /// The JSON form of a root node, as the library has read it.
 nlohmann::ordered_json ToJson(const Document& document, const node::INode& root);
+
+/// The JSON form of a value that is there, as text (fields.h).
+nlohmann::ordered_json ValueToJson(const Value& value, const std::string& text);
+
+/// The JSON form of an element. Secrets that are hidden are null.
+enum class Secrets : bool { kShown, kHidden };
+nlohmann::ordered_json ElementToJson(const Element& element, const ElementView& view,
+                                     Secrets secrets);
 
 /// Fills a root node, which loses what it held. A member "$schema" beside the root element is
 /// ignored. Throws Trouble, and says where, if the JSON is not such a document. The node is then

@@ -1,5 +1,5 @@
 // What the library's tables say of the documents, in UTF-8. Nothing else of the tool looks into the
-// rows of the tables, except to locate fields in nodes (json.cpp).
+// rows of the tables, except to locate fields in nodes (fields.cpp, json.cpp).
 #pragma once
 
 #include <cstdint>

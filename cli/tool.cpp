@@ -14,6 +14,7 @@ void AddTool(CLI::App& tool, Session& session) {
       "tolva new policy --full         a policy to start from\n"
       "tolva schema html -o tolva.html a page about all documents");
   AddCheck(tool, session);
+  AddDiff(tool, session);
   AddExplain(tool, session);
   AddSchema(tool, session);
   AddNew(tool, session);

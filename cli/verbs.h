@@ -10,6 +10,7 @@ namespace tolva::cli {
 void AddTool(CLI::App& tool, Session& session);
 
 void AddCheck(CLI::App& tool, Session& session);
+void AddDiff(CLI::App& tool, Session& session);
 void AddExplain(CLI::App& tool, Session& session);
 void AddSchema(CLI::App& tool, Session& session);
 void AddNew(CLI::App& tool, Session& session);
