@@ -32,9 +32,11 @@ class LikenessMeter {
   LikenessMeter(const Tree& from, const Tree& to) : from_(from), to_(to) {}
 
   Likeness Measure(Index from, Index to) const {
-    const std::uint64_t whole = kWhole * (1 + std::uint64_t{from_.Size(from)});
-    if (from_.Identity(from) == to_.Identity(to)) return {whole, whole};
     Likeness likeness;
+    if (from_.Identity(from) == to_.Identity(to)) {
+      AddSame(from, likeness);
+      return likeness;
+    }
     const Element& element = from_.ElementAt(from);
     if (element.text.has_value()) {
       AddValues(from_.Text(from), to_.Text(to), *element.text, likeness);
@@ -95,21 +97,25 @@ class LikenessMeter {
     const Index pairs = std::min(from.count, to.count);
     for (Index i = 0; i < pairs; ++i) {
       const Likeness one = Measure(from.first + i, to.first + i);
-      likeness.Add(kWhole + one.same, kWhole + one.all);
+      likeness.Add(one.same, one.all);
     }
     AddRest(from_, from, pairs, likeness);
     AddRest(to_, to, pairs, likeness);
   }
 
   void AddSame(Index from, Likeness& likeness) const {
-    const std::uint64_t whole = kWhole * (1 + std::uint64_t{from_.Size(from)});
-    likeness.Add(whole, whole);
+    const std::uint64_t weight = WeightOf(from_, from);
+    likeness.Add(weight, weight);
   }
 
   static void AddRest(const Tree& tree, Range range, Index start, Likeness& likeness) {
     for (Index i = start; i < range.count; ++i) {
-      likeness.Add(0, kWhole * (1 + std::uint64_t{tree.Size(range.first + i)}));
+      likeness.Add(0, WeightOf(tree, range.first + i));
     }
+  }
+
+  static std::uint64_t WeightOf(const Tree& tree, Index index) {
+    return kWhole * std::max<std::uint64_t>(tree.Size(index), 1);
   }
 
   const Tree& from_;
@@ -238,16 +244,15 @@ class ListMatcher {
     for (Index i = 0; i < from_items_.count; ++i) {
       if (IsFreeFrom(i)) left.push_back(i);
     }
-    if (left.empty()) return;
     std::vector<Candidate> candidates;
-    Index expected = 0;  ///< the old position that corresponds to the new one
-    for (Index to = 0; to < to_items_.count; ++to) {
-      if (!IsFreeTo(to)) {
-        expected = partner_of_to_[to] + 1;
-        continue;
-      }
-      const bool is_alone = order == ListOrder::kCounts && IsAlone(expected, to);
-      AddCandidates(left, expected++, to, is_alone, candidates);
+    for (Index start = 0; start < to_items_.count && !left.empty(); ++start) {
+      Index end = start;
+      while (end < to_items_.count && IsFreeTo(end)) ++end;
+      Range gap = GapOf(start, end);
+      if (order == ListOrder::kIsIgnored) gap.count = 0;
+      for (Index i = start; i < end; ++i)
+        AddCandidates(left, gap, i, end - start, i - start, candidates);
+      start = end;
     }
     std::ranges::sort(candidates);
     for (const Candidate& one : candidates) {
@@ -255,31 +260,36 @@ class ListMatcher {
     }
   }
 
-  /// Whether the new item and the old one are between the same neighbours.
-  bool IsAlone(Index from, Index to) const {
-    if (from >= from_items_.count || !IsFreeFrom(from)) return false;
-    const bool starts = to == 0 ? from == 0 : from != 0 && partner_of_to_[to - 1] == from - 1;
-    const bool is_last = from + 1 == from_items_.count;
-    const bool ends =
-        to + 1 == to_items_.count ? is_last : !is_last && partner_of_to_[to + 1] == from + 1;
-    return starts && ends;
+  /// The free old items between the neighbours of new items. None, but where they would be, if the
+  /// neighbours are not neighbours there.
+  Range GapOf(Index start, Index end) const {
+    const Index first = start == 0 ? 0 : partner_of_to_[start - 1] + 1;
+    Index last = first;
+    while (last < from_items_.count && IsFreeFrom(last)) ++last;
+    const Index next = end == to_items_.count ? from_items_.count : partner_of_to_[end];
+    return {first, last == next ? last - first : 0};
   }
 
-  void AddCandidates(const std::vector<Index>& left, Index expected, Index to, bool is_alone,
+  /// Looks for old items that are like a new one, the `number`-th of `count` in its gap. What has
+  /// got another name is the same item only if it is in its place.
+  void AddCandidates(const std::vector<Index>& left, Range gap, Index to, Index count, Index number,
                      std::vector<Candidate>& candidates) const {
     constexpr std::ptrdiff_t kBefore = 4;
     constexpr std::ptrdiff_t kAfter = 12;
+    const Index expected = gap.first + number;
     const auto middle = std::ranges::lower_bound(left, expected);
     const auto first = middle - std::min(kBefore, middle - left.begin());
     const auto last = middle + std::min(kAfter, left.end() - middle);
     for (auto one = first; one != last; ++one) {
       const bool is_named = KeyFrom(*one) != 0 || KeyTo(to) != 0;
+      const bool is_in_gap = *one >= gap.first && *one - gap.first < gap.count;
+      if (is_named && !is_in_gap) continue;
       const Likeness likeness =
           LikenessMeter(from_, to_).Measure(from_items_.first + *one, to_items_.first + to);
       const bool is_like =
           is_named ? 2 * likeness.same > likeness.all : 2 * likeness.same >= likeness.all;
-      const bool fills_the_gap = is_alone && !is_named && *one == expected;
-      if (!is_like && !fills_the_gap) continue;
+      const bool is_alone = is_in_gap && gap.count == 1 && count == 1;
+      if (!is_like && (is_named || !is_alone)) continue;
       const std::uint64_t all = std::max<std::uint64_t>(likeness.all, 1);
       const auto unlikeness =
           static_cast<std::uint32_t>((likeness.all - likeness.same) * kMillion / all);
@@ -335,7 +345,7 @@ class Comparer {
     return true;
   }
 
-  /// What is removed stands where it was, and everything else where it is.
+  /// What is removed is told where it was, before what is added there, and the rest where it is.
   void AddItems(const Child& child, Range from, Range to, std::vector<Difference>& out) const {
     if (AreEqual(from, to)) return;
     ListMatcher matcher(from_, from, to_, to);
@@ -351,10 +361,16 @@ class Comparer {
     for (Index i = 0; i < to.count; ++i) {
       const Index partner = matcher.PartnersOfNew()[i];
       if (partner == Tree::kNone) {
+        Index end = next;
+        while (end < from.count && matcher.PartnersOfOld()[end] == Tree::kNone) ++end;
+        add_removed(end);
         out.push_back({&child, Tree::kNone, to.first + i, 0, i});
         continue;
       }
-      if (!has_moved[i]) add_removed(partner);
+      if (!has_moved[i]) {
+        add_removed(partner);
+        next = partner + 1;
+      }
       const Index old_item = from.first + partner;
       const Index new_item = to.first + i;
       if (!has_moved[i] && from_.Identity(old_item) == to_.Identity(new_item)) continue;

@@ -398,7 +398,7 @@ class PageWriter {
     const StepWriter steps(to_, child, range);
     for (Tree::Index i = 0; i < range.count; ++i) {
       if (differs[i]) continue;
-      const std::size_t size = 1 + std::size_t{to_.Size(range.first + i)};
+      const std::size_t size = std::max<std::size_t>(to_.Size(range.first + i), 1);
       if (size > room_) {
         ++left_out;
         continue;
@@ -418,7 +418,7 @@ class PageWriter {
   const Tree& from_;
   const Tree& to_;
   const Secrets secrets_;
-  std::size_t room_ = kMostUnchanged;  ///< for what is the same, in values and elements
+  std::size_t room_ = kMostUnchanged;  ///< for what is the same, in values
   bool has_hidden_ = false;
   std::string rows_;  ///< of the section that is being made
   std::string sections_;

@@ -153,7 +153,7 @@ class TextWriter {
     if (change.value != nullptr) {
       const std::uint32_t value =
           change.kind == ChangeKind::kAdded ? change.new_value : change.old_value;
-      text_ += ": " + Shown(change.attribute, *change.value, value, used + 2);
+      text_ += Shown(change.attribute, *change.value, value, used);
       return;
     }
     const bool is_added = change.kind == ChangeKind::kAdded;
@@ -162,7 +162,7 @@ class TextWriter {
     const Element& element = *change.element;
     if (element.text.has_value()) {
       if (tree.Text(index) != 0) {
-        text_ += ": " + Shown(nullptr, *element.text, tree.Text(index), used + 2);
+        text_ += Shown(nullptr, *element.text, tree.Text(index), used);
       }
       return;
     }
@@ -204,10 +204,11 @@ class TextWriter {
   std::string Shown(const Attribute* attribute, const Value& value, std::uint32_t number,
                     std::size_t used) const {
     if (attribute != nullptr && attribute->is_secret && secrets_ == Secrets::kHidden) {
-      return style_.Faint("(a secret)");
+      return ": " + style_.Faint("(a secret)");
     }
     const std::string text = Quoted(value, CutAround(*comparison_.pool.Text(number), 0, 0));
-    return used + Columns(text) <= width_ ? text : "\n    " + text;
+    const bool fits = Columns(text) <= kShort || used + 2 + Columns(text) <= width_;
+    return (fits ? ": " : ":\n    ") + text;
   }
 
   static std::string Quoted(const Value& value, const std::string& text) {

@@ -39,7 +39,7 @@ void Tree::Fill(Index index, const Element& element, const ElementView& view) {
     const Range range = AddChildren(child, view);
     slots_[slot++] = range.first;
     slots_[slot++] = range.count;
-    for (Index i = 0; i < range.count; ++i) size += 1 + nodes_[range.first + i].size;
+    for (Index i = 0; i < range.count; ++i) size += std::max(nodes_[range.first + i].size, 1U);
   }
   nodes_[index].size = size;
   nodes_[index].identity = IdentityOf(index);

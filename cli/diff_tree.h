@@ -62,7 +62,7 @@ class Tree {
   /// What names the item of a list, as a number; 0: nothing does.
   std::uint32_t Key(Index index) const { return nodes_[index].key; }
 
-  /// How many values and elements there are in the element.
+  /// How many values, and elements without any, are in the element.
   std::uint32_t Size(Index index) const { return nodes_[index].size; }
 
   const Pool& pool() const { return pool_; }

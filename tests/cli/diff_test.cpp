@@ -6,9 +6,11 @@
 #include <regex>
 #include <set>
 
+#include "cli/diff_align.h"
 #include "cli/diff_formats.h"
 #include "cli/places.h"
 #include "cli/run.h"
+#include "cli/text.h"
 #include "support/files.h"
 #include "tables/random_content.h"
 
@@ -228,6 +230,220 @@ INSTANTIATE_TEST_SUITE_P(AllDocuments, DiffOf, testing::ValuesIn([] {
                            for (const Document& one : Documents()) names.push_back(one.name);
                            return names;
                          }()));
+
+// ---- the tool ----------------------------------------------------------------------------------
+
+std::string ExampleOf(const std::string& document) {
+  return TempFile::ReadFile(std::filesystem::path(TOLVA_DOCUMENTS) / (document + ".xml"));
+}
+
+Outcome Diff(const std::string& from, const std::string& to,
+             const std::vector<std::string>& options = {}) {
+  const TempFile old_file(from);
+  const TempFile new_file(to);
+  std::vector<std::string> arguments = {"diff", old_file.path().string(), new_file.path().string()};
+  arguments.insert(arguments.end(), options.begin(), options.end());
+  return RunTool(arguments);
+}
+
+std::string Replaced(std::string text, const std::string& what, const std::string& by) {
+  const std::size_t at = text.find(what);
+  EXPECT_NE(at, std::string::npos) << what;
+  return text.replace(at, what.size(), by);
+}
+
+/// The lines that tell of changes.
+std::string Told(const std::string& from, const std::string& to,
+                 const std::vector<std::string>& options = {}) {
+  const std::string text = Diff(from, to, options).out;
+  return text.substr(0, text.find_last_of('\n', text.size() - 2) + 1);
+}
+
+/// A catalogue with messages "ID:Description", and localised ones.
+std::string Catalogue(const std::vector<std::string>& messages, const std::string& localised = "") {
+  std::string text = "<EndPointMessage SchemaVersion='1'>";
+  for (const std::string& message : messages) {
+    const std::size_t colon = message.find(':');
+    text += "<Message ID='" + message.substr(0, colon) + "'><Content>c</Content><Description>" +
+            message.substr(colon + 1) + "</Description></Message>";
+  }
+  return text + localised + "</EndPointMessage>";
+}
+
+TEST(Diff, TellsOneEditAsOneChange) {
+  const std::string policy = ExampleOf("policy");
+  const std::string media =
+      "LocationArray/Location[Name=\"Office\"]/ILPProtection/ILPRemovableMedia/";
+  const std::string rule = "<DeviceRule Action=\"BLOCK\" VendorID=\"090C\"/>";
+  EXPECT_EQ(Told(policy, Replaced(policy, " Sid=\"11\"", " Sid=\"12\"")),
+            "~ " + media + "Sid: 11 -> 12\n");
+  EXPECT_EQ(Told(policy, Replaced(policy, rule, "")),
+            "- " + media + "DeviceRule[VendorID=\"090C\"]:\n    Action=\"BLOCK\"\n");
+  EXPECT_EQ(Told(Replaced(policy, rule, ""), policy),
+            "+ " + media + "DeviceRule[VendorID=\"090C\"]:\n    Action=\"BLOCK\"\n");
+  EXPECT_EQ(Told(policy, Replaced(policy, " SerialNumber=\"4C530001261215105\"", "")),
+            "- " + media +
+                "DeviceRule[DeviceName=\"Company stick\"]/SerialNumber: "
+                "\"4C530001261215105\"\n");
+
+  const std::string four = Catalogue({"1:a", "2:b", "3:c", "4:d"});
+  EXPECT_EQ(Told(four, Catalogue({"2:b", "3:c", "4:d", "1:a"})),
+            "> Message[ID=\"1\"]: from place 1 to 4\n");
+  EXPECT_EQ(Told(four, Catalogue({"2:b", "3:c", "4:d", "1:a"}), {"--ignore-order"}), "");
+  EXPECT_EQ(Told(four, Catalogue({"1:a", "2:b", "9:c", "4:d"})),
+            "~ Message[ID=\"3\"]/ID: 3 -> 9\n");  // the same, under another name
+  EXPECT_EQ(Told(four, Catalogue({"4:e", "1:a", "2:b", "3:c"})),
+            "> Message[ID=\"4\"]: from place 4 to 1\n"
+            "~ Message[ID=\"4\"]/Description: \"d\" -> \"e\"\n");
+}
+
+TEST(Diff, MatchesItemsThatShareANameOrHaveNone) {
+  const std::string twice = Catalogue({"1:a", "1:a", "1:b", "1:a", "2:a"});
+  EXPECT_EQ(Told(twice, Catalogue({"1:a", "1:a", "1:x", "1:a", "2:a"})),
+            "~ Message[3]/Description: \"b\" -> \"x\"\n");
+  EXPECT_EQ(Told(twice, Catalogue({"1:n", "1:a", "1:a", "1:b", "1:a", "2:a"})),
+            "+ Message[1]: ID=\"1\", 2 elements in it\n");
+  const auto localised = [](const std::vector<std::string>& catalogues) {
+    std::string text = "<EndpointLocalMsg>";
+    for (const std::string& one : catalogues) text += one;
+    return Catalogue({}, text + "</EndpointLocalMsg>");
+  };
+  const std::string list = "EndpointLocalMsg[1]/EndPointMessage";
+  const std::string a = Catalogue({"1:a", "2:a", "3:a"});
+  const std::string b = Catalogue({"4:b"});
+  const std::string c = Catalogue({"5:c", "6:c"});
+  EXPECT_EQ(Told(localised({a, b, c}), localised({a, Catalogue({"7:n"}), c})),
+            "- " + list + "[2]/Message[ID=\"4\"]: 2 elements in it\n" +  //
+                "+ " + list + "[2]/Message[ID=\"7\"]: 2 elements in it\n");
+  EXPECT_EQ(Told(localised({a, b, c}), localised({b, c, Catalogue({"1:a", "2:x", "3:a"})})),
+            "> " + list + "[1]: from place 1 to 3\n~ " + list +
+                "[1]/Message[ID=\"2\"]/Description: \"a\" -> \"x\"\n");
+}
+
+/// The document with its attributes in reverse order and in lines of their own, in UTF-16.
+std::string InOtherForm(const std::string& document) {
+  static const std::regex tag(R"(<(\w+)((?: [\w:]+="[^"]*")+)(/?)>)");
+  static const std::regex attribute(R"( [\w:]+="[^"]*")");
+  std::string text;
+  std::size_t copied = 0;
+  for (std::sregex_iterator one(document.begin(), document.end(), tag), end; one != end; ++one) {
+    text += document.substr(copied, static_cast<std::size_t>(one->position()) - copied);
+    copied = static_cast<std::size_t>(one->position() + one->length());
+    const std::string attributes = (*one)[2];
+    std::string reversed;
+    for (std::sregex_iterator each(attributes.begin(), attributes.end(), attribute);
+         each != std::sregex_iterator(); ++each) {
+      reversed = "\r\n" + each->str() + reversed;
+    }
+    text += "<!-- -->\t<" + (*one)[1].str() + reversed + (*one)[3].str() + ">";
+  }
+  text += document.substr(copied);
+  text.erase(0, text.find("?>") + 2);
+  std::string wide = "\xFF\xFE";
+  for (const wchar_t c : ToWide(text)) {
+    wide += {static_cast<char>(c & 0xFF), static_cast<char>(c >> 8)};
+  }
+  return wide;
+}
+
+TEST(Diff, DoesNotSeeLayoutOrEncoding) {
+  for (const Document& document : Documents()) {
+    const std::string text = ExampleOf(std::string(document.name));
+    const Outcome outcome = Diff(text, InOtherForm(text));
+    EXPECT_EQ(outcome.status, 0) << document.name;
+    EXPECT_EQ(outcome.out + outcome.err, "") << document.name;
+  }
+}
+
+TEST(Diff, KeepsSecrets) {
+  const auto with_key = [](const std::string& key, const std::string& old_keys) {
+    const std::string policy = ExampleOf("policy");
+    const std::size_t start = policy.find("<Encryption>");
+    const std::size_t end = policy.find("</Encryption>");
+    return policy.substr(0, start) + "<Encryption><PrimaryKey KeyID=\"1\" Key=\"" + key +
+           "\" FileHeader=\"SECRET-0\"/>" + old_keys + policy.substr(end);
+  };
+  const std::string from = with_key("SECRET-1", "<OldKey KeyID='1' Key='SECRET-2'/>");
+  const std::string to =
+      with_key("SECRET-3", "<OldKey KeyID='2' Key='SECRET-4'/><OldKey KeyID='3' Key='SECRET-5'/>");
+  for (const char* const format : {"text", "json", "html"}) {
+    const Outcome hidden = Diff(from, to, {"--format", format});
+    EXPECT_EQ(hidden.status, 1);
+    EXPECT_EQ(hidden.out.find("SECRET"), std::string::npos) << hidden.out;
+    const std::string shown = Diff(from, to, {"--format", format, "--show-secrets"}).out;
+    for (const char* const secret : {"1", "2", "3", "4", "5"}) {
+      EXPECT_NE(shown.find(secret), std::string::npos) << format;
+    }
+  }
+  EXPECT_NE(Told(from, to).find("~ Encryption/PrimaryKey/Key: (a secret, changed)\n"),
+            std::string::npos);
+}
+
+TEST(Diff, ShowsLongValuesAroundTheDifference) {
+  const std::string left(300, 'l');
+  const std::string right(300, 'r');
+  const std::string told = Told(Catalogue({"1:" + left + "old\xC3\xA4" + right}),
+                                Catalogue({"1:" + left + "old\xC3\xB6\xE2\x80\xAE" + right}));
+  EXPECT_EQ(told,
+            "~ Message[ID=\"1\"]/Description:\n"
+            "    - \"…lllllllllllllold\xC3\xA4rrrrrrrrrrrrrrrr…\"\n"
+            "    + \"…lllllllllllllold\xC3\xB6\\xE2\\x80\\xAErrrrrrrrrrrrrrrr…\"\n");
+}
+
+TEST(Diff, SaysWhatCannotBeCompared) {
+  const std::string policy = ExampleOf("policy");
+  const Outcome other = Diff(policy, ExampleOf("ng"));
+  EXPECT_EQ(other.status, 2);
+  EXPECT_NE(other.err.find("documents of different kinds cannot be compared: "), std::string::npos);
+  const Outcome broken = Diff(policy, policy.substr(0, 1000));
+  EXPECT_EQ(broken.status, 2);
+  EXPECT_EQ(broken.out, "");
+  EXPECT_NE(broken.err.find("breaks off"), std::string::npos) << broken.err;
+  EXPECT_EQ(RunTool({"diff", "-", "-"}).err,
+            "tolva: standard input can only be one of the documents\n");
+}
+
+// ---- sequences ---------------------------------------------------------------------------------
+
+std::vector<std::uint32_t> RandomSequence(std::mt19937& random, std::size_t size, unsigned kinds) {
+  std::vector<std::uint32_t> sequence(size);
+  for (std::uint32_t& one : sequence) one = static_cast<std::uint32_t>(random() % kinds);
+  return sequence;
+}
+
+std::size_t LengthOfLongestCommon(const std::vector<std::uint32_t>& left,
+                                  const std::vector<std::uint32_t>& right) {
+  std::vector<std::size_t> row(right.size() + 1);
+  for (const std::uint32_t one : left) {
+    std::size_t diagonal = 0;
+    for (std::size_t i = 0; i < right.size(); ++i) {
+      const std::size_t next = one == right[i] ? diagonal + 1 : std::max(row[i], row[i + 1]);
+      diagonal = row[i + 1];
+      row[i + 1] = next;
+    }
+  }
+  return row.back();
+}
+
+TEST(Align, FindsALongestCommonSubsequence) {
+  std::mt19937 random(7);
+  for (unsigned i = 0; i < 3000; ++i) {
+    // Long ones with many differences need more than one search.
+    const std::size_t size = i % 100 == 0 ? 2000 : 20;
+    const unsigned kinds = 1 + i % 7 * (size == 20 ? 1U : 300U);
+    const auto left = RandomSequence(random, random() % size, kinds);
+    const auto right = RandomSequence(random, random() % size, kinds);
+    const auto pairs = Align(left, right);
+    for (std::size_t k = 0; k < pairs.size(); ++k) {
+      ASSERT_EQ(left.at(pairs[k].first), right.at(pairs[k].second));
+      if (k == 0) continue;
+      ASSERT_LT(pairs[k - 1].first, pairs[k].first);
+      ASSERT_LT(pairs[k - 1].second, pairs[k].second);
+    }
+    const std::size_t longest = LengthOfLongestCommon(left, right);
+    ASSERT_GE(pairs.size(), size == 20 ? longest : longest / 2) << size;
+  }
+}
 
 }  // namespace
 }  // namespace tolva::test
