@@ -18,7 +18,7 @@ std::string Span(std::string_view kind, std::string_view content) {
   return Tag("span", "class=\"" + std::string(kind) + "\"", content);
 }
 
-std::string Code(std::string_view name) { return Tag("code", "", Escaped(name)); }
+std::string Code(std::string_view name) { return Tag("code", "", Breakable(name)); }
 
 /// Text from a document: control characters are escapes, and ends of lines are seen.
 std::string Shown(std::string_view text) {

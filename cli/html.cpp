@@ -21,19 +21,6 @@ std::string Link(const std::string& anchor, std::string_view content,
 
 std::string Code(std::string_view text) { return Tag("code", "", Escaped(text)); }
 
-/// A name or path that may be broken after a slash, and where a word begins within a name.
-std::string Breakable(std::string_view text) {
-  std::string broken;
-  char last = 'A';
-  for (const char c : text) {
-    const bool is_word = c >= 'A' && c <= 'Z' && last >= 'a' && last <= 'z';
-    if (is_word || last == '/') broken += "<wbr>";
-    broken += Escaped({&c, 1});
-    last = c;
-  }
-  return broken;
-}
-
 std::string BreakableCode(std::string_view text) { return Tag("code", "", Breakable(text)); }
 
 std::string Badge(std::string_view kind, std::string_view text) {

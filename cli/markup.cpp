@@ -8,6 +8,18 @@ std::string Tag(std::string_view name, std::string_view attributes, std::string_
   return tag + ">" + std::string(content) + "</" + std::string(name) + ">";
 }
 
+std::string Breakable(std::string_view text) {
+  std::string broken;
+  char last = 'A';
+  for (const char c : text) {
+    const bool is_word = c >= 'A' && c <= 'Z' && last >= 'a' && last <= 'z';
+    if (is_word || last == '/') broken += "<wbr>";
+    broken += Escaped({&c, 1});
+    last = c;
+  }
+  return broken;
+}
+
 std::string PageStart(std::string_view title, std::string_view style) {
   constexpr std::string_view kHead =
       "<!DOCTYPE html>\n"

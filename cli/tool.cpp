@@ -10,6 +10,7 @@ void AddTool(CLI::App& tool, Session& session) {
   tool.set_version_flag("--version", "", "prints the version.");
   tool.footer(
       "tolva check policy.xml          what is wrong with a policy\n"
+      "tolva diff old.xml new.xml      what differs between two documents\n"
       "tolva explain policy            what the policy holds\n"
       "tolva new policy --full         a policy to start from\n"
       "tolva schema html -o tolva.html a page about all documents");
