@@ -176,6 +176,11 @@ class PageWriter {
     if (comparison_.pool.order == ListOrder::kIsIgnored) {
       notes += Tag("p", "class=\"lead\"", "The order of the items of lists does not count.");
     }
+    if (row_count_ > kMostRows) {
+      notes += Tag("p", "class=\"lead\"",
+                   "Only the first " + std::to_string(kMostRows) +
+                       " differences are on this page. --format json tells all.");
+    }
     if (has_hidden_) notes += Tag("p", "class=\"lead\"", "Secrets are not shown.");
     return notes;
   }
@@ -220,17 +225,18 @@ class PageWriter {
     }
     AddSection(pair, trail);
     for (const Inner& one : inner) {
-      if (!one.pair->children.empty() || HasValueChange(*one.pair)) AddPair(*one.pair, one.trail);
+      if (Differs(*one.pair)) AddPair(*one.pair, one.trail);
     }
   }
 
-  bool HasValueChange(const Difference& pair) const {
+  /// An item that has moved may be the same otherwise.
+  bool Differs(const Difference& pair) const {
     return from_.Identity(pair.from) != to_.Identity(pair.to);
   }
 
   void AddSection(const Difference& pair, const Trail& trail) {
     const std::string same = Unchanged(pair);
-    if (rows_.empty() && same.empty()) return;
+    if (rows_.empty() && (same.empty() || row_count_ > kMostRows)) return;
     const std::string_view sentence = from_.ElementAt(pair.from).sentence;
     sections_ += "<section class=\"" + std::string(rows_.empty() ? "quiet" : "card") +
                  "\" data-path=\"" + Escaped(Printable(trail.path)) + "\">\n" +
@@ -252,9 +258,14 @@ class PageWriter {
 
   // ---- rows ------------------------------------------------------------------------------------
 
+  /// Counts a difference. Returns whether the page has room for it.
+  bool Count(ChangeKind kind) {
+    ++counts_[static_cast<std::size_t>(kind)];
+    return ++row_count_ <= kMostRows;
+  }
+
   void AddRow(ChangeKind kind, const std::string& name, std::string_view sentence,
               const std::string& from, const std::string& to) {
-    ++counts_[static_cast<std::size_t>(kind)];
     const std::string kind_name(NameOf(kind));
     rows_ += "<tr class=\"" + kind_name + "\" data-kind=\"" + kind_name + "\" tabindex=\"-1\">" +
              Tag("th", "scope=\"row\"",
@@ -265,6 +276,7 @@ class PageWriter {
   }
 
   void AddValueRow(const Change& change, const std::string& name, std::string_view sentence) {
+    if (!Count(change.kind)) return;
     const std::optional<std::string> from = comparison_.pool.Text(change.old_value);
     const std::optional<std::string> to = comparison_.pool.Text(change.new_value);
     Sides sides = {Absent(), Absent()};
@@ -284,11 +296,13 @@ class PageWriter {
   }
 
   void AddMoveRow(const Difference& pair, const std::string& name) {
+    if (!Count(ChangeKind::kMoved)) return;
     AddRow(ChangeKind::kMoved, name, "", "from place " + std::to_string(pair.from_position + 1),
            "to place " + std::to_string(pair.to_position + 1));
   }
 
   void AddElementRow(const Difference& difference, const std::string& name) {
+    if (!Count(difference.IsAdded() ? ChangeKind::kAdded : ChangeKind::kRemoved)) return;
     const std::string_view sentence = difference.child->sentence.empty()
                                           ? difference.child->element->sentence
                                           : difference.child->sentence;
@@ -382,8 +396,8 @@ class PageWriter {
       items += UnchangedChildren(child, range, differs);
     }
     if (items.empty()) return {};
-    std::string what = attributes == 0 ? "" : Count(attributes, "attribute");
-    if (elements != 0) what += (what.empty() ? "" : ", ") + Count(elements, "element");
+    std::string what = attributes == 0 ? "" : cli::Count(attributes, "attribute");
+    if (elements != 0) what += (what.empty() ? "" : ", ") + cli::Count(elements, "element");
     return Tag("details", "class=\"more same\"",
                Tag("summary", "", "Show what is the same: " + what) +
                    Tag("ul", "class=\"content\"", items)) +
@@ -407,12 +421,14 @@ class PageWriter {
       items += ElementItem(to_, range.first + i, child, steps.Label(i), Fold::kClosed);
     }
     if (left_out == 0) return items;
-    return items + Tag("li", "",
-                       Code(child.name) + " " +
-                           Span("none", Count(left_out, "element") + " that this page leaves out"));
+    return items +
+           Tag("li", "",
+               Code(child.name) + " " +
+                   Span("none", cli::Count(left_out, "element") + " that this page leaves out"));
   }
 
   static constexpr std::size_t kMostUnchanged = 20'000;
+  static constexpr std::size_t kMostRows = 10'000;
 
   const Comparison& comparison_;
   const Tree& from_;
@@ -420,6 +436,7 @@ class PageWriter {
   const Secrets secrets_;
   std::size_t room_ = kMostUnchanged;  ///< for what is the same, in values
   bool has_hidden_ = false;
+  std::size_t row_count_ = 0;
   std::string rows_;  ///< of the section that is being made
   std::string sections_;
   std::size_t counts_[std::size(kChangeKinds)] = {};

@@ -6,11 +6,17 @@
 #include <limits>
 #include <random>
 #include <span>
+#include <type_traits>
 #include <vector>
 
 #include "cli/session.h"
 
 namespace tolva::cli {
+
+inline std::uint64_t RandomOddNumber() {
+  std::random_device random;
+  return (static_cast<std::uint64_t>(random()) << 32) | random() | 1;
+}
 
 /// Keeps each sequence once. Numbers are from 1 on, in the order of the first occurrence.
 template <class T>
@@ -43,16 +49,12 @@ class Interner {
   }
 
  private:
-  static std::uint64_t RandomOddNumber() {
-    std::random_device random;
-    return (static_cast<std::uint64_t>(random()) << 32) | random() | 1;
-  }
-
   /// Nobody can make documents whose sequences collide: the factor is a secret of the process.
-  std::uint64_t MakeHashKey(std::span<const T> sequence) const {
-    std::uint64_t hash = factor_ ^ sequence.size();
+  static std::uint64_t MakeHashKey(std::span<const T> sequence) {
+    static const std::uint64_t factor = RandomOddNumber();
+    std::uint64_t hash = factor ^ sequence.size();
     for (const T one : sequence) {
-      hash = (hash ^ static_cast<std::make_unsigned_t<T>>(one)) * factor_;
+      hash = (hash ^ static_cast<std::make_unsigned_t<T>>(one)) * factor;
       hash ^= hash >> 29;
     }
     return hash;
@@ -71,7 +73,6 @@ class Interner {
     }
   }
 
-  const std::uint64_t factor_ = RandomOddNumber();
   std::vector<T> items_;           ///< of all sequences, one after the other
   std::vector<std::size_t> ends_;  ///< where each ends
   std::vector<std::uint64_t> hashes_;

@@ -231,6 +231,67 @@ INSTANTIATE_TEST_SUITE_P(AllDocuments, DiffOf, testing::ValuesIn([] {
                            return names;
                          }()));
 
+/// Lists of messages, named by their IDs.
+class Messages {
+ public:
+  explicit Messages(unsigned seed) : random_(seed) {
+    while (items_.size() < 60) items_.push_back(New(items_.size()));
+  }
+
+  Json ToJson() const { return {{"EndPointMessage", {{"SchemaVersion", 1}, {"Message", items_}}}}; }
+
+  void EditOnce(bool has_unique_names) {
+    const std::size_t at = random_() % items_.size();
+    Json item = items_[at];
+    switch (random_() % 4) {
+      case 0:
+        items_[at]["Description"] = "other " + std::to_string(random_());
+        return;
+      case 1:
+        item = New(has_unique_names ? random_() : random_() % 60);
+        break;
+      default:
+        items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(at));
+        if (random_() % 2 == 0) return;
+    }
+    items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(random_() % items_.size()), item);
+  }
+
+ private:
+  Json New(std::size_t id) {
+    const std::string text = std::to_string(random_() % 4);
+    return {{"ID", id & 0x7FFFFFFF}, {"Content", text}, {"Description", text}};
+  }
+
+  std::mt19937 random_;
+  std::vector<Json> items_;
+};
+
+TEST(Diff, TellsNoMoreThanWasDone) {
+  const Document& document = *FindDocument("message-catalogue");
+  for (unsigned seed = 0; seed < 300; ++seed) {
+    SCOPED_TRACE(seed);
+    Messages messages(seed);
+    const Json from = messages.ToJson();
+    const bool has_unique_names = seed % 2 == 0;
+    const unsigned edits = seed % 50;
+    for (unsigned i = 0; i < edits; ++i) messages.EditOnce(has_unique_names);
+    const Json to = messages.ToJson();
+    const auto old_node = document.make();
+    const auto new_node = document.make();
+    FromJson(document, nlohmann::ordered_json::parse(from.dump()), *old_node);
+    FromJson(document, nlohmann::ordered_json::parse(to.dump()), *new_node);
+    const auto comparison = CompareNodes(document, *old_node, *new_node, ListOrder::kCounts);
+    const Json changes =
+        Json::parse(DiffJson(*comparison, {"old", "new"}, Secrets::kShown))["changes"];
+    const std::string& root = document.root().name;
+    ASSERT_EQ(Applied(from[root], changes, to[root]), to[root]) << changes.dump(1);
+    if (has_unique_names) {
+      ASSERT_LE(changes.size(), edits) << changes.dump(1);
+    }
+  }
+}
+
 // ---- the tool ----------------------------------------------------------------------------------
 
 std::string ExampleOf(const std::string& document) {
