@@ -353,6 +353,9 @@ TEST(Diff, TellsOneEditAsOneChange) {
   EXPECT_EQ(Told(four, Catalogue({"2:b", "3:c", "4:d", "1:a"}), {"--ignore-order"}), "");
   EXPECT_EQ(Told(four, Catalogue({"1:a", "2:b", "9:c", "4:d"})),
             "~ Message[ID=\"3\"]/ID: 3 -> 9\n");  // the same, under another name
+  EXPECT_EQ(Told(four, Catalogue({"2:b", "3:c", "4:d", "9:a"})),
+            "- Message[ID=\"1\"]: 2 elements in it\n"
+            "+ Message[ID=\"9\"]: 2 elements in it\n");
   EXPECT_EQ(Told(four, Catalogue({"4:e", "1:a", "2:b", "3:c"})),
             "> Message[ID=\"4\"]: from place 4 to 1\n"
             "~ Message[ID=\"4\"]/Description: \"d\" -> \"e\"\n");
