@@ -177,7 +177,7 @@ std::vector<IndexPair> Align(Sequence from, Sequence to) {
 }
 
 std::vector<bool> LongestAscent(Sequence numbers) {
-  constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+  constexpr auto kNone = static_cast<std::size_t>(-1);
   std::vector<std::size_t> ends;  ///< of the ascents of each length, that with the least end
   std::vector<std::size_t> before(numbers.size(), kNone);
   for (std::size_t i = 0; i < numbers.size(); ++i) {

@@ -77,7 +77,7 @@ class LikenessMeter {
     const std::size_t shorter = std::min(from.size(), to.size());
     std::size_t end = 0;
     while (end < shorter - start && from[from.size() - 1 - end] == to[to.size() - 1 - end]) ++end;
-    const std::size_t longer = std::max<std::size_t>({from.size(), to.size(), 1});
+    const auto longer = std::max<std::size_t>({from.size(), to.size(), 1});
     return (start + end) * kWhole / longer;
   }
 
@@ -233,8 +233,6 @@ class ListMatcher {
     std::uint32_t distance;
     Index from;
     Index to;
-
-    auto operator<=>(const Candidate&) const = default;
   };
 
   static constexpr std::uint32_t kMillion = 1'000'000;
@@ -250,11 +248,14 @@ class ListMatcher {
       while (end < to_items_.count && IsFreeTo(end)) ++end;
       Range gap = GapOf(start, end);
       if (order == ListOrder::kIsIgnored) gap.count = 0;
-      for (Index i = start; i < end; ++i)
+      for (Index i = start; i < end; ++i) {
         AddCandidates(left, gap, i, end - start, i - start, candidates);
+      }
       start = end;
     }
-    std::ranges::sort(candidates);
+    std::ranges::sort(candidates, {}, [](const Candidate& one) {
+      return std::tie(one.unlikeness, one.distance, one.from, one.to);
+    });
     for (const Candidate& one : candidates) {
       if (IsFreeFrom(one.from) && IsFreeTo(one.to)) Pair(one.from, one.to);
     }

@@ -76,6 +76,7 @@ Sides MarkedValues(std::string_view from, std::string_view to) {
   Interner<char> numbers;
   const auto numbered = [&](const std::vector<std::string_view>& pieces) {
     std::vector<std::uint32_t> result;
+    result.reserve(pieces.size());
     for (const std::string_view piece : pieces) result.push_back(numbers.Intern(piece));
     return result;
   };
@@ -283,8 +284,7 @@ class PageWriter {
     if (change.IsSecret() && secrets_ == Secrets::kHidden) {
       has_hidden_ = true;
       if (from.has_value()) sides.from = Span("none", "secret");
-      if (to.has_value())
-        sides.to = Span("none", to.has_value() && from.has_value() ? "secret, changed" : "secret");
+      if (to.has_value()) sides.to = Span("none", from.has_value() ? "secret, changed" : "secret");
     } else if (from.has_value() && to.has_value() && change.value->type == Value::Type::kText) {
       sides = MarkedValues(*from, *to);
       sides = {InValue(sides.from), InValue(sides.to)};

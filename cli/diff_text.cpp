@@ -17,16 +17,18 @@ bool IsInCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x
 
 std::size_t Back(std::string_view text, std::size_t at, std::size_t characters) {
   for (; characters != 0 && at != 0; --characters) {
-    do --at;
-    while (at != 0 && IsInCharacter(text[at]));
+    do {
+      --at;
+    } while (at != 0 && IsInCharacter(text[at]));
   }
   return at;
 }
 
 std::size_t Forward(std::string_view text, std::size_t at, std::size_t characters) {
   for (; characters != 0 && at != text.size(); --characters) {
-    do ++at;
-    while (at != text.size() && IsInCharacter(text[at]));
+    do {
+      ++at;
+    } while (at != text.size() && IsInCharacter(text[at]));
   }
   return at;
 }

@@ -165,8 +165,8 @@ Json Applied(Json json, const Json& changes, const Json& to) {
     const Pointer list(place.second);
     Json items = json.contains(list) ? json.at(list) : Json::array();
     for (const auto& [moved, change] : moves) {
-      if (moved == &edit)
-        edit.placed[(*change)["to"]] = items.at((*change)["from"].get<std::size_t>() - 1);
+      if (moved != &edit) continue;
+      edit.placed[(*change)["to"]] = items.at((*change)["from"].get<std::size_t>() - 1);
     }
     items = Edited(items, edit);
     if (items.empty()) {
@@ -447,7 +447,7 @@ TEST(Diff, ShowsLongValuesAroundTheDifference) {
   const std::string left(300, 'l');
   const std::string right(300, 'r');
   const std::string told = Told(Catalogue({"1:" + left + "old\xC3\xA4" + right}),
-                                Catalogue({"1:" + left + "old\xC3\xB6\xE2\x80\xAE" + right}));
+                                Catalogue({"1:" + left + "old\xC3\xB6&#x202E;" + right}));
   EXPECT_EQ(told,
             "~ Message[ID=\"1\"]/Description:\n"
             "    - \"…lllllllllllllold\xC3\xA4rrrrrrrrrrrrrrrr…\"\n"
