@@ -12,6 +12,7 @@ void AddTool(CLI::App& tool, Session& session) {
       "tolva check policy.xml          what is wrong with a policy\n"
       "tolva explain policy            what the policy holds\n"
       "tolva new policy --full         a policy to start from\n"
+      "tolva fmt --check policy.xml    whether it has the form that the library writes\n"
       "tolva schema html -o tolva.html a page about all documents");
   AddCheck(tool, session);
   AddExplain(tool, session);

@@ -113,7 +113,7 @@ Outcome Fmt(std::vector<std::string> options, const TempFile& file) {
 }
 
 TEST(Fmt, GivesOneFormWhateverTheLayout) {
-  const auto& encoding = [](const char* start) { return own_xml::DetectEncoding({start, 2}); };
+  const auto encoding = [](const char* start) { return own_xml::DetectEncoding({start, 2}); };
   const ByteForm forms[] = {
       {},
       {.has_mark = true, .line_end = "\r\n"},
