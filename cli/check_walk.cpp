@@ -8,6 +8,7 @@
 #include <limits>
 #include <map>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "cli/check_faults.h"
@@ -179,8 +180,8 @@ class Walk final : public InputObserver {
       if (WantsLosses()) TellLostNode();
       return parser_.type();
     }
-    has_ended_ = true;
-    if (result == ReadResult::kFault) TellFault();
+    const bool is_first = !std::exchange(has_ended_, true);
+    if (result == ReadResult::kFault && is_first) TellFault();
     return XmlNodeType_None;
   }
 
