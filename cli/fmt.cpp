@@ -94,8 +94,8 @@ class Formatter {
     const ByteForm form = FormOf(before);
     const std::string after = FormEncoder(form).Encode(written);
     if (options_.shows_diff) {
-      if (after != before)
-        TellDifference(input, TextOf(before, form), TextOf(after, form), document);
+      if (after == before) return;
+      TellDifference(input, TextOf(before, form), TextOf(after, form), document);
     } else if (!options_.is_in_place) {
       const bool is_shown = session_.out.IsTerminal() && options_.destination.file.empty();
       Deliver(session_, options_.destination, is_shown ? ShownText(written) : after);

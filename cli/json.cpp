@@ -29,7 +29,8 @@ Json ElementToJson(const Element& element, node::IElement& node) {
     if (!IsPresent(field.present)) return nullptr;
     Json json = ValueToJson(*element.text, field);
     // Of an optional text, an empty one is written as none.
-    const bool is_none = element.schema->content.is_optional && json == "";
+    const auto* const text = json.get_ptr<const std::string*>();
+    const bool is_none = element.schema->content.is_optional && text != nullptr && text->empty();
     return is_none ? Json(nullptr) : json;
   }
   Json json = Json::object();

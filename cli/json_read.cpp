@@ -359,7 +359,7 @@ class Receiver {
     }
   }
 
-  bool TakeScalar(Json json) {
+  bool TakeScalar(const Json& json) {
     StartToken();
     Require(!frames_.empty(), "has to be an object");
     const Slot slot = TakeSlot();

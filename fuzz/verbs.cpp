@@ -52,6 +52,8 @@ void ExpectStable(const std::string& document) {
 void TryXml(const MemoryFile& file, std::string_view bytes) {
   const std::string formatted = Result(file, {"fmt"});
   const std::string dropped = Result(file, {"fmt", "--drop"});
+  // Most bytes are no document: it is enough to ask of some of them what else is said.
+  if (dropped.empty() && formatted.empty() && bytes.size() % 4 != 0) return;
   for (const char* const mode : {"--check", "--diff"}) {
     const int status = formatted.empty() ? 2 : formatted == bytes ? 0 : 1;
     Expect(Run(file, {"fmt", mode}).status == status, "that --check and --diff agree with fmt");
