@@ -64,6 +64,9 @@ class Receiver {
 
   FromJsonResult Read() {
     const char* const end = text_.data() + text_.size();
+    // The reader takes a zero for the end.
+    const char* const zero = std::find(text_.data(), end, '\0');
+    if (zero != end) throw Trouble(At(zero, "there is a zero byte, which JSON does not allow"));
     Json::sax_parse(CountingIterator(text_.data(), &reached_), CountingIterator(end, &reached_),
                     this);
     return std::move(result_);

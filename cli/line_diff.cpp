@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -40,8 +39,8 @@ class LineMarker {
  private:
   using Index = std::ptrdiff_t;
 
-  /// More steps than these from either end are not tried: all lines of the part count as different.
-  static constexpr Index kMostSteps = 1000;
+  /// After so many steps from either end, the furthest point that has been reached will do.
+  static constexpr Index kMostSteps = 256;
 
   static Index Size(const Lines& lines) { return static_cast<Index>(lines.size()); }
   static std::size_t At(Index index) { return static_cast<std::size_t>(index); }
@@ -72,22 +71,22 @@ class LineMarker {
   bool IsSame(Index before, Index after) const { return before_[At(before)] == after_[At(after)]; }
 
   void Mark(Index left, Index right, Index top, Index bottom) {
-    while (left < right && top < bottom && IsSame(left, top)) ++left, ++top;
-    while (left < right && top < bottom && IsSame(right - 1, bottom - 1)) --right, --bottom;
-    const bool is_simple = left == right || top == bottom;
-    const auto middle = is_simple ? std::nullopt : FindMiddle({left, right, top, bottom});
-    if (!middle.has_value()) {
-      std::fill(removed.begin() + left, removed.begin() + right, true);
-      std::fill(added.begin() + top, added.begin() + bottom, true);
-      return;
+    for (;;) {
+      while (left < right && top < bottom && IsSame(left, top)) ++left, ++top;
+      while (left < right && top < bottom && IsSame(right - 1, bottom - 1)) --right, --bottom;
+      if (left == right || top == bottom) break;
+      const Point middle = FindMiddle({left, right, top, bottom});
+      Mark(left, middle.x, top, middle.y);
+      left = middle.x;
+      top = middle.y;
     }
-    Mark(left, middle->x, top, middle->y);
-    Mark(middle->x, right, middle->y, bottom);
+    std::fill(removed.begin() + left, removed.begin() + right, true);
+    std::fill(added.begin() + top, added.begin() + bottom, true);
   }
 
-  /// A point on a shortest path. The texts in the box differ in their first and last lines, so it
-  /// is none of the path's ends.
-  std::optional<Point> FindMiddle(const Box& box) {
+  /// A point on a shortest path, or, if that is long, on a short one. The texts in the box differ
+  /// in their first and last lines, so it is none of the path's ends.
+  Point FindMiddle(const Box& box) {
     for (Front* const front : {&forward_, &backward_}) {
       front->furthest.assign(At(2 * kMostSteps + 3), kNone);
     }
@@ -107,7 +106,13 @@ class LineMarker {
         }
       }
     }
-    return std::nullopt;
+    Point furthest = {box.left, box.top};
+    for (Index k = -kMostSteps; k <= kMostSteps; k += 2) {
+      const Index x = forward_.At(k);
+      if (x == kNone || 2 * x - k <= furthest.x - box.left + furthest.y - box.top) continue;
+      furthest = {box.left + x, box.top + (x - k)};
+    }
+    return furthest;
   }
 
   /// Takes a step to a diagonal, and goes along it as far as lines are the same.

@@ -9,8 +9,7 @@
 namespace tolva::cli {
 
 /// A unified diff with three lines of context; empty if the texts are equal. Memory is linear in
-/// the texts. Where more than a thousand lines differ in one place, the diff may be longer than
-/// necessary.
+/// the texts; so is time, and where hundreds of lines differ the diff may be longer than necessary.
 std::string UnifiedDiff(std::string_view before, std::string_view after,
                         const std::string& before_name, const std::string& after_name,
                         const Style& style);

@@ -117,7 +117,7 @@ TEST(Fmt, GivesOneFormWhateverTheLayout) {
   const ByteForm forms[] = {
       {},
       {.has_mark = true, .line_end = "\r\n"},
-      {.encoding = encoding("<\0"), .line_end = "\r"},
+      {.encoding = encoding("\xFF\xFE"), .line_end = "\r"},
       {.encoding = encoding("\xFE\xFF"), .has_mark = true},
       {.encoding = &own_xml::DeclaredEncoding("encoding='ISO-8859-1'"), .line_end = "\r\n"},
       {.encoding = &own_xml::DeclaredEncoding("encoding='US-ASCII'")},

@@ -95,6 +95,8 @@ TEST(JsonForm, SaysWhatIsWrongWhere) {
   EXPECT_EQ(in_message(R"("Content": "\uD800x")").substr(0, 41),
             "x:1:82: this is no JSON: invalid string: ");
   EXPECT_EQ(FaultOf(std::string("\xFF\xFE{\0", 4)), "x:1:1: this is no UTF-8, which JSON is in");
+  EXPECT_EQ(FaultOf(R"({"InstallConfig":)" + std::string("\n{}}\0", 5)),
+            "x:2:4: there is a zero byte, which JSON does not allow");
   EXPECT_EQ(FaultOf(std::string(1 << 24, '[')), "x:1:1: '/' has to be an object");
   // A catalogue in a catalogue, as deep as elements may be, and one more.
   std::string deep = R"({"EndPointMessage":)";
