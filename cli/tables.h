@@ -65,6 +65,11 @@ struct Element {
 
   const Attribute* FindAttribute(std::string_view attribute) const;
   const Child* FindChild(std::string_view child) const;
+
+  /// Whether the library does not write the element if it has no text.
+  bool IsLostWithoutText() const {
+    return schema->content.is_optional && !schema->content.is_always_written;
+  }
 };
 
 struct Document {
