@@ -17,6 +17,7 @@ void AddTool(CLI::App& tool, Session& session) {
   AddExplain(tool, session);
   AddSchema(tool, session);
   AddNew(tool, session);
+  AddGet(tool, session);
   AddCompletion(tool, session);
 }
 
