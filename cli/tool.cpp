@@ -18,6 +18,7 @@ void AddTool(CLI::App& tool, Session& session) {
   AddSchema(tool, session);
   AddNew(tool, session);
   AddGet(tool, session);
+  AddSet(tool, session);
   AddCompletion(tool, session);
 }
 

@@ -14,6 +14,7 @@ void AddExplain(CLI::App& tool, Session& session);
 void AddSchema(CLI::App& tool, Session& session);
 void AddNew(CLI::App& tool, Session& session);
 void AddGet(CLI::App& tool, Session& session);
+void AddSet(CLI::App& tool, Session& session);
 void AddCompletion(CLI::App& tool, Session& session);
 
 }  // namespace tolva::cli
