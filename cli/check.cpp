@@ -17,7 +17,9 @@
 #include "cli/check_formats.h"
 #include "cli/check_walk.h"
 #include "cli/inputs.h"
+#include "cli/interrupt.h"
 #include "cli/places.h"
+#include "cli/progress.h"
 #include "cli/text.h"
 #include "cli/verbs.h"
 
@@ -67,6 +69,18 @@ class FileState {
   const State before_;
 };
 
+/// The size of the files, as far as they have one.
+std::uint64_t SizeOf(const std::vector<Input>& files) {
+  std::uint64_t size = 0;
+  for (const Input& file : files) {
+    std::error_code error;
+    if (file.is_standard_input) return 0;
+    const std::uintmax_t one = std::filesystem::file_size(PathOf(file.name), error);
+    if (!error) size += one;
+  }
+  return size;
+}
+
 /// What was found in one file.
 struct FileResult {
   std::uint64_t errors = 0;
@@ -80,7 +94,15 @@ struct FileResult {
 class Printer {
  public:
   Printer(Session& session, const CheckFormat& format, std::uint64_t most, bool is_quiet)
-      : session_(session), format_(format), most_(is_quiet ? 0 : most), is_quiet_(is_quiet) {
+      : session_(session),
+        format_(format),
+        most_(is_quiet ? 0 : most),
+        is_quiet_(is_quiet),
+        is_terminal_(session.out.IsTerminal()) {}
+
+  /// Prints what comes before the first record.
+  void Start(Progress& progress) {
+    progress_ = &progress;
     Print(format_.Start());
   }
 
@@ -122,7 +144,7 @@ class Printer {
   const Summary& End() {
     if (failure_ != nullptr) std::rethrow_exception(failure_);
     Print(format_.End(summary_));
-    session_.out.Flush();
+    progress_->StepAside([this] { session_.out.Flush(); });
     for (const FileTrouble& trouble : summary_.troubles) {
       session_.err.Write("tolva: " + trouble.message + "\n");
     }
@@ -141,7 +163,15 @@ class Printer {
   };
 
   void Print(std::string_view text) {
-    if (!is_quiet_) session_.out.Write(text);
+    if (is_quiet_ || text.empty()) return;
+    if (!is_terminal_) {
+      session_.out.Write(text);
+      return;
+    }
+    progress_->StepAside([&] {
+      session_.out.Write(text);
+      session_.out.Flush();
+    });
   }
 
   void PrintRecord(std::string_view record) {
@@ -183,6 +213,8 @@ class Printer {
   const CheckFormat& format_;
   const std::uint64_t most_;
   const bool is_quiet_;
+  const bool is_terminal_;
+  Progress* progress_ = nullptr;
   std::mutex mutex_;
   std::condition_variable turned_;
   std::size_t turn_ = 0;
@@ -222,7 +254,8 @@ class FileSink final : public FindingSink {
 class Check {
  public:
   Check(Session& session, const Options& options)
-      : options_(options),
+      : session_(session),
+        options_(options),
         format_(MakeCheckFormat(options.format, session.OutStyle(), options.is_strict)),
         printer_(session, *format_, options.most, options.is_quiet) {
     for (const CodeInfo& info : Codes()) {
@@ -238,6 +271,11 @@ class Check {
       printer_.AddTrouble({"", message});
     });
     const std::size_t count = files_.size();
+    const bool is_shown = session_.err.IsTerminal();
+    Progress progress(session_.err, {.bytes = is_shown ? SizeOf(files_) : 0, .files = count});
+    progress_ = &progress;
+    printer_.Start(progress);
+    CatchInterrupt();
     const std::size_t threads =
         std::min<std::size_t>(count, std::max(1U, std::thread::hardware_concurrency()));
     std::vector<std::jthread> others;
@@ -248,6 +286,10 @@ class Check {
     }
     CheckFiles();
     others.clear();
+    if (checked_ != count && IsInterrupted()) {
+      const std::string rest = Count(count - checked_, "file");
+      printer_.AddTrouble({"", "it was interrupted: " + rest + " left out"});
+    }
     const Summary& summary = printer_.End();
     const bool has_findings = summary.errors != 0 || (options_.is_strict && summary.warnings != 0);
     if (!summary.troubles.empty() || count == 0) return kTrouble;
@@ -257,7 +299,12 @@ class Check {
  private:
   void CheckFiles() {
     try {
-      for (std::size_t file = next_++; file < files_.size(); file = next_++) CheckFile(file);
+      for (std::size_t file = next_++; file < files_.size(); file = next_++) {
+        if (IsInterrupted()) break;
+        CheckFile(file);
+        ++checked_;
+        progress_->Add({.files = 1});
+      }
     } catch (...) {
       next_ = files_.size();
       printer_.Fail(std::current_exception());
@@ -270,8 +317,9 @@ class Check {
     if (const auto stream = Open(input, sink.result.trouble)) {
       const FileState state(input);
       const bool skips_foreign = input.is_from_folder && !options_.is_strict;
-      const WalkOutcome outcome = WalkDocument(
-          *stream.Get(), {.expected = expected_, .skips_foreign = skips_foreign}, sink);
+      const WalkOutcome outcome =
+          WalkDocument(*Watch(*stream.Get(), *progress_).Get(),
+                       {.expected = expected_, .skips_foreign = skips_foreign}, sink);
       sink.result.is_foreign = outcome.is_foreign;
       const std::string name = "'" + Printable(input.name) + "' ";
       if (FAILED(outcome.failure)) {
@@ -293,13 +341,16 @@ class Check {
     }
   }
 
+  Session& session_;
   const Options& options_;
   const std::unique_ptr<CheckFormat> format_;
   Printer printer_;
   std::set<Code> ignored_;
   const Document* expected_ = nullptr;
+  Progress* progress_ = nullptr;
   std::vector<Input> files_;
   std::atomic<std::size_t> next_ = 0;
+  std::atomic<std::size_t> checked_ = 0;
 };
 
 }  // namespace

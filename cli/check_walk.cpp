@@ -8,6 +8,7 @@
 #include <limits>
 #include <map>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "cli/check_faults.h"
@@ -176,8 +177,8 @@ class Walk final : public InputObserver {
   XmlNodeType Take(ReadResult result) {
     is_known_tag_ = false;
     if (result == ReadResult::kNode) return parser_.type();
-    has_ended_ = true;
-    if (result == ReadResult::kFault) TellFault();
+    const bool is_first = !std::exchange(has_ended_, true);
+    if (result == ReadResult::kFault && is_first) TellFault();
     return XmlNodeType_None;
   }
 

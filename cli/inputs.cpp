@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <set>
+#include <utility>
 
 #include "cli/session.h"
 #include "cli/text.h"
@@ -79,8 +80,13 @@ void AddInputs(CLI::App& verb, InputOptions& options) {
 
 std::vector<Input> FindInputs(const InputOptions& options, const ReportTrouble& report) {
   Finder finder(report);
+  bool has_standard_input = false;
   for (const std::string& name : options.names) {
     if (name == "-") {
+      if (std::exchange(has_standard_input, true)) {
+        report("standard input is named twice");
+        continue;
+      }
       finder.inputs.push_back({.name = options.stdin_name, .is_standard_input = true});
       continue;
     }

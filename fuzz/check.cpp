@@ -94,6 +94,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   for (const Finding& finding : findings) {
     has_error = has_error || cli::InfoOf(finding.code).is_error;
     ExpectPlace(text, finding);
+    const bool is_end = finding.code <= Code::kEncoding;  // nothing can be said of what follows
+    Expect(!is_end || &finding == &findings.back(), "nothing after what ends the walk");
     Expect(cli::Printable(finding.message) == finding.message, "a message for a terminal");
     Expect(cli::Printable(finding.path) == finding.path, "a path for a terminal");
   }

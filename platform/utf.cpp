@@ -1,6 +1,7 @@
 #include "platform/utf.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 
 #include "platform/vector.h"
@@ -189,13 +190,29 @@ void AssignWide(std::string_view utf8, std::wstring& text) {
 }
 
 void AppendUtf8(std::wstring_view wide, std::string& out) {
+  constexpr std::ptrdiff_t kCount = Bytes::kCount;
+  std::array<char, 1024> bytes;
+  const char* const last = bytes.data() + bytes.size() - kCount;  // where a block still fits
   const wchar_t* at = wide.data();
   const wchar_t* const end = at + wide.size();
   while (at != end) {
-    char bytes[4];
-    char32_t c = TakeCodePoint(at, end);
-    if (IsSurrogate(c) || c > kLastCodePoint) c = kReplacementCharacter;
-    out.append(bytes, EncodeUtf8(c, bytes));
+    char* to = bytes.data();
+    while (at != end && to <= last) {
+      if (end - at >= kCount) {
+        const Bytes block = Bytes::LoadNarrowed(at);
+        // Negative values are narrowed to 0.
+        if ((block.ToMask() | block.Is('\0').ToMask()) == 0) {
+          block.Store(to);
+          to += kCount;
+          at += kCount;
+          continue;
+        }
+      }
+      char32_t c = TakeCodePoint(at, end);
+      if (IsSurrogate(c) || c > kLastCodePoint) c = kReplacementCharacter;
+      to = EncodeUtf8(c, to);
+    }
+    out.append(bytes.data(), to);
   }
 }
 

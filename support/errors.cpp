@@ -218,6 +218,7 @@ constexpr Words kSystemWords[] = {
     {997, "the operation is still under way"},
     {1006, "the file's disk was changed while it was open"},
     {1117, "the device failed to read or write"},
+    {1223, "it was interrupted"},
     {1142, "the file has too many hard links"},
     {1175, "the old file could not be removed"},
     {1176, "the new file could not be renamed"},

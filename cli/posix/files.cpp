@@ -5,6 +5,7 @@
 
 #include <cerrno>
 
+#include "cli/interrupt.h"
 #include "counted_stream.h"
 #include "platform/posix/file.h"
 
@@ -13,6 +14,8 @@ namespace {
 
 HRESULT ResultOf(int error) {
   constexpr DWORD kTooManyLinks = 1921;
+  constexpr DWORD kCancelled = 1223;
+  if (error == EINTR) return HRESULT_FROM_WIN32(kCancelled);
   if (error == ENOENT) return HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
   return HRESULT_FROM_WIN32(error == ELOOP ? kTooManyLinks : posix::ErrorOf(error));
 }
@@ -28,7 +31,7 @@ class DescriptorStream final : public CountedStream {
     *count = 0;
     while (*count < size) {
       const ssize_t read_now = read(file_, static_cast<char*>(buffer) + *count, size - *count);
-      if (read_now < 0 && errno == EINTR) continue;
+      if (read_now < 0 && errno == EINTR && !IsInterrupted()) continue;
       if (read_now < 0) return ResultOf(errno);
       if (read_now == 0) break;
       *count += static_cast<ULONG>(read_now);

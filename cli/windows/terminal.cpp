@@ -72,7 +72,9 @@ class Handle final : public Stream {
                             static_cast<int>(wide.size()))));
     std::wstring_view rest = wide;
     while (!rest.empty()) {
-      const auto size = static_cast<DWORD>(std::min(rest.size(), kConsoleBlock));
+      auto size = static_cast<DWORD>(std::min(rest.size(), kConsoleBlock));
+      // A pair of surrogates stays whole.
+      if (size != rest.size() && IS_HIGH_SURROGATE(rest[size - 1])) --size;
       DWORD written = 0;
       Check(WriteConsoleW(handle_, rest.data(), size, &written, nullptr));
       rest.remove_prefix(written);

@@ -4,14 +4,18 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
-#include <memory>
+#include <cwchar>
+#include <limits>
 #include <new>
-#include <utility>
+#include <string>
+#include <string_view>
+#include <vector>
 
+#include "platform/com_ptr.h"
 #include "platform/open_to_read.h"
 #include "platform/posix/file.h"
 #include "platform/ref_counted.h"
+#include "platform/utf.h"
 
 namespace tolva::platform {
 namespace {
@@ -63,16 +67,30 @@ class FileStream final : public RefCounted<IStream> {
   HRESULT committed_ = S_OK;  ///< the result of closing it
 };
 
-class MemoryStream final : public RefCounted<IStream> {
+/// Text in UTF-8, in pieces. A piece is released once it has been read.
+class TextStream final : public RefCounted<IStream> {
  public:
-  MemoryStream(std::unique_ptr<BYTE[]> bytes, UINT size) : bytes_(std::move(bytes)), size_(size) {}
+  void Add(std::string_view text) {
+    pieces_.emplace_back(text);
+    size_ += text.size();
+  }
+
+  std::size_t size() const { return size_; }
 
   HRESULT Read(void* buffer, ULONG size, ULONG* read_count) noexcept override {
-    const ULONG count = std::min(size, size_ - position_);
-    if (count != 0) std::memcpy(buffer, bytes_.get() + position_, count);
-    position_ += count;
-    *read_count = count;
-    return count == size ? S_OK : S_FALSE;
+    char* out = static_cast<char*>(buffer);
+    const char* const end = out + size;
+    for (; out != end && piece_ != pieces_.size(); offset_ = 0) {
+      std::string& piece = pieces_[piece_];
+      const std::size_t count = piece.copy(out, static_cast<std::size_t>(end - out), offset_);
+      out += count;
+      offset_ += count;
+      if (offset_ != piece.size()) break;
+      std::string().swap(piece);
+      ++piece_;
+    }
+    *read_count = size - static_cast<ULONG>(end - out);
+    return out == end ? S_OK : S_FALSE;
   }
 
   HRESULT Write(const void* /*buffer*/, ULONG /*size*/, ULONG* /*written*/) noexcept override {
@@ -82,9 +100,10 @@ class MemoryStream final : public RefCounted<IStream> {
   HRESULT Commit(DWORD /*flags*/) noexcept override { return S_OK; }
 
  private:
-  const std::unique_ptr<BYTE[]> bytes_;
-  const UINT size_;
-  UINT position_ = 0;
+  std::vector<std::string> pieces_;
+  std::size_t size_ = 0;    ///< of all pieces together
+  std::size_t piece_ = 0;   ///< the one to be read next
+  std::size_t offset_ = 0;  ///< in it
 };
 
 /// Makes a stream of an open file, or closes it.
@@ -132,11 +151,32 @@ HRESULT SHCreateStreamOnFileW(const wchar_t* path, DWORD /*mode*/, IStream** str
   return MakeStream(file, stream);
 }
 
-IStream* SHCreateMemStream(const BYTE* bytes, UINT size) noexcept {
-  std::unique_ptr<BYTE[]> copy(new (std::nothrow) BYTE[size]);
-  if (copy == nullptr) return nullptr;
-  std::memcpy(copy.get(), bytes, size);
-  return new (std::nothrow) MemoryStream(std::move(copy), size);
+HRESULT OpenText(const wchar_t* text, IStream** stream) noexcept try {
+  constexpr std::size_t kPiece = 4096;
+  constexpr auto kMost = static_cast<std::size_t>(std::numeric_limits<int>::max());
+  *stream = nullptr;
+  std::size_t left = std::wcslen(text);
+  if (left == 0) return E_INVALIDARG;
+  ComPtr<TextStream> made;
+  made.Attach(new TextStream);
+  std::string piece;
+  while (left != 0) {
+    std::size_t length = std::min(left, kPiece);
+    // A surrogate pair stays whole.
+    if (length != left && IsHighSurrogate(static_cast<char32_t>(text[length - 1]))) --length;
+    piece.clear();
+    AppendUtf8({text, length}, piece);
+    made->Add(piece);
+    if (made->size() > kMost) return E_INVALIDARG;
+    text += length;
+    left -= length;
+  }
+  made->Add({"", 1});
+  made->AddRef();
+  *stream = made.Get();
+  return S_OK;
+} catch (const std::bad_alloc&) {
+  return E_OUTOFMEMORY;
 }
 
 }  // namespace tolva::platform

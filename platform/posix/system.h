@@ -94,18 +94,4 @@ inline constexpr DWORD STGM_CREATE = 0x1000;
 /// neither a regular file nor a character device fails with ERROR_ACCESS_DENIED.
 HRESULT SHCreateStreamOnFileW(const wchar_t* path, DWORD mode, IStream** stream) noexcept;
 
-/// Returns a stream over a copy of `size` bytes, or null if there is not enough memory.
-IStream* SHCreateMemStream(const BYTE* bytes, UINT size) noexcept;
-
-// ---- text --------------------------------------------------------------------------------------
-
-inline constexpr UINT CP_UTF8 = 65001;
-
-/// Converts `length` characters to UTF-8. Returns the size of the result, which is not stored if
-/// `buffer` is null. Returns 0 if the result does not fit. Wide strings are
-/// code points here: a surrogate pair is combined, and a lone surrogate or a value beyond U+10FFFF
-/// becomes U+FFFD.
-int WideCharToMultiByte(UINT code_page, DWORD flags, const wchar_t* text, int length, char* buffer,
-                        int capacity, const char* default_char, BOOL* default_used) noexcept;
-
 }  // namespace tolva::platform

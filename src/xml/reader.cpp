@@ -1,9 +1,6 @@
 #include "xml/reader.h"
 
-#include <cwchar>
-#include <limits>
 #include <new>
-#include <vector>
 
 namespace tolva::xml {
 namespace {
@@ -40,28 +37,9 @@ ConfigResult CXMLLiteManagerReader::OpenStream(ISequentialStream& stream) {
 ConfigResult CXMLLiteManagerReader::OpenFromString(const wchar_t* xml_text) {
   if (!is_usable_) return kFailed;
   if (xml_text == nullptr) return kInvalidArgument;
-  const std::size_t length = std::wcslen(xml_text);
-  // Of nothing, the conversion would change the last error; of more than this, it takes nothing.
-  constexpr auto kMost = static_cast<std::size_t>(std::numeric_limits<int>::max());
-  if (length == 0 || length > kMost) return kInvalidArgument;
-  const auto wide_size = static_cast<int>(length);
-  const int size =
-      WideCharToMultiByte(CP_UTF8, 0, xml_text, wide_size, nullptr, 0, nullptr, nullptr);
-  if (size == 0) return kInvalidArgument;
-
-  // The terminating zero is part of the stream. It comes after the end of the document.
-  std::vector<char> text;
-  try {
-    text.resize(static_cast<std::size_t>(size) + 1);
-  } catch (const std::bad_alloc&) {
-    return kFailed;
-  }
-  const int converted =
-      WideCharToMultiByte(CP_UTF8, 0, xml_text, wide_size, text.data(), size, nullptr, nullptr);
-  if (converted == 0) return kFailed;
-  IStream* const stream =
-      SHCreateMemStream(reinterpret_cast<const BYTE*>(text.data()), static_cast<UINT>(text.size()));
-  if (stream == nullptr) return kFailed;
+  IStream* stream = nullptr;
+  const HRESULT result = OpenText(xml_text, &stream);
+  if (FAILED(result)) return result == E_INVALIDARG ? kInvalidArgument : kFailed;
   stream_.Attach(stream);
   return MoveToRoot(reader_.SetConvertedInput(stream));
 }

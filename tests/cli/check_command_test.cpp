@@ -95,6 +95,26 @@ TEST_F(Checked, TellsWhatItFinds) {
             "5 files: 4 errors, 2 warnings\n");
 }
 
+TEST_F(Checked, TellsOnceWhereADocumentEnds) {
+  std::string deep = "<ActiveDirectory>";
+  for (int i = 0; i < 256; ++i) deep += "<a>";
+  Add("deep.xml", deep);
+  Add("open.xml", "<ActiveDirectory><a></b>");
+  Add("code.xml", "<?xml version='1.0' encoding='EBCDIC'?><ActiveDirectory/>");
+  Add("bytes.xml", "<ActiveDirectory>\n<a b='\xFF'/>");
+  const Outcome outcome = Check({"--ignore", "unknown-element", In("deep.xml"), In("open.xml"),
+                                 In("code.xml"), In("bytes.xml")});
+  EXPECT_EQ(
+      outcome.out,
+      "deep.xml:1:783: error: more than 256 elements are open [too-deep]\n"
+      "open.xml:1:21: error: the end tag 'b' does not match the start tag 'a' [not-well-formed]\n"
+      "code.xml:1:31: error: the encoding 'EBCDIC' is not supported; UTF-8, UTF-16, "
+      "ISO-8859-1 and US-ASCII are [encoding]\n"
+      "bytes.xml:2:7: error: the bytes that follow here are no character of UTF-8 "
+      "[encoding]\n"
+      "4 files: 4 errors, 0 warnings\n");
+}
+
 TEST_F(Checked, TellsNoMoreThanIsWanted) {
   const std::string bad = In("1-bad.xml");
   EXPECT_EQ(Check({"--ignore", "bad-number", "--ignore=missing-attribute", bad}).out,
