@@ -107,24 +107,19 @@ class Get {
   Json MatchOf(const Target& target, const Found& found, const Json& root) {
     std::string path;
     const Json* value = &root.front();
-    const SourceElement* element = found.element;
-    std::vector<const SourceElement*> parents;
-    for (; element != nullptr; element = element->parent) parents.push_back(element->parent);
+    if (!found.counts) {
+      throw Trouble("'" + target.Spelling() +
+                    "' does not count: another one after it does; it has no JSON form");
+    }
     for (std::size_t i = 0; i < target.elements.size(); ++i) {
       const Target::ElementStep& step = target.elements[i];
       const std::string& name = step.child->name;
       const std::size_t number = found.numbers[i];
       path += (path.empty() ? "" : "/") + name;
       value = &value->at(name);
-      if (step.child->occurrence == Occurrence::kRepeated) {
-        path += "[" + std::to_string(number) + "]";
-        value = &value->at(number - 1);
-        continue;
-      }
-      const SourceElement& parent = *parents[target.elements.size() - 1 - i];
-      if (number != parent.Children(name).size()) {
-        throw Trouble("'" + target.Spelling() + "' does not count: the last '" + name + "' does");
-      }
+      if (step.child->occurrence != Occurrence::kRepeated) continue;
+      path += "[" + std::to_string(number) + "]";
+      value = &value->at(number - 1);
     }
     std::string_view place = found.element->name;
     if (target.attribute != nullptr) {
@@ -132,7 +127,7 @@ class Get {
       value = &value->at(target.attribute->name);
       place = found.attribute->name;
     }
-    Position position = source_.PositionOf(
+    const Position position = source_.PositionOf(
         target.attribute != nullptr ? place : std::string_view(place.data() - 1, 1));
     return {{"path", path},
             {"line", position.line},

@@ -133,22 +133,19 @@ std::optional<std::string> ValueIn(SourceElement& element, const Element& table,
 }
 
 std::vector<Numbered> MatchesOf(const SourceElement& parent, const Target::ElementStep& step) {
-  std::vector<Numbered> matches;
-  for (SourceElement* const element : parent.Children(step.child->name)) {
-    matches.push_back({element, matches.size() + 1});
-  }
+  const bool is_repeated = step.child->occurrence == Occurrence::kRepeated;
+  const std::vector<SourceElement*> elements = parent.Children(step.child->name);
   const Step& wanted = step.step;
-  if (wanted.position != 0) {
-    if (wanted.position > matches.size()) return {};
-    return {matches[wanted.position - 1]};
-  }
-  if (step.child->occurrence != Occurrence::kRepeated && matches.size() > 1) {
-    matches.erase(matches.begin(), matches.end() - 1);
-  }
-  if (!wanted.attribute.empty()) {
-    std::erase_if(matches, [&](const Numbered& one) {
-      return ValueIn(*one.element, *step.child->element, wanted.attribute) != wanted.value;
-    });
+  std::vector<Numbered> matches;
+  for (std::size_t number = 1; number <= elements.size(); ++number) {
+    SourceElement& element = *elements[number - 1];
+    const bool counts = is_repeated || number == elements.size();
+    const bool is_wanted =
+        wanted.position != 0 ? number == wanted.position
+        : !wanted.attribute.empty()
+            ? counts && ValueIn(element, *step.child->element, wanted.attribute) == wanted.value
+            : counts;
+    if (is_wanted) matches.push_back({&element, number, counts});
   }
   return matches;
 }
@@ -159,7 +156,9 @@ std::vector<Found> Select(Source& source, const Target& target) {
     std::vector<Found> next;
     for (const Found& one : found) {
       for (const Numbered& match : MatchesOf(*one.element, step)) {
-        next.push_back({.element = match.element, .numbers = one.numbers});
+        next.push_back({.element = match.element,
+                        .numbers = one.numbers,
+                        .counts = one.counts && match.counts});
         next.back().numbers.push_back(match.number);
       }
     }
@@ -200,8 +199,8 @@ SourceElement& SelectElement(Source& source, const Target& target, std::size_t s
     }
     const std::string path = "'" + target.Spelling(i + 1) + "'";
     if (!matches.empty()) {
-      throw Trouble(Named(source) + " has " + std::to_string(matches.size()) + " " + path + ": " +
-                    ChoiceIn(*element, step));
+      throw Trouble(path + " names " + std::to_string(matches.size()) + " elements in " +
+                    Named(source) + ": " + ChoiceIn(*element, step));
     }
     const std::string near = NearestItem(*element, step);
     throw Trouble(Named(source) + " has no " + path +

@@ -39,21 +39,22 @@ Target ParseTarget(const Document& document, std::string_view path);
 /// Something in the source that a path names.
 struct Found {
   SourceElement* element = nullptr;
-  SourceAttribute* attribute = nullptr;  ///< null: the element
-  std::vector<std::size_t> numbers =
-      {};  ///< of each step's element among those of its name, from 1
+  SourceAttribute* attribute = nullptr;   ///< null: the element
+  std::vector<std::size_t> numbers = {};  ///< of each step's element, among those of its name
+  bool counts = true;                     ///< the library reads it, and none after it in its place
 };
 
 /// All that a path names, in the order of the document. A step without brackets means all of the
 /// elements if they may be repeated. Of others the last one counts, as the library reads.
 std::vector<Found> Select(Source& source, const Target& target);
 
-/// The one element that the steps of a path name, without the attribute. Throws Trouble if there is
-/// none, or several: then it says how to choose one. `steps`: how many steps.
 enum class IfAbsent : bool {
   kFails,
   kMayBeAdded,  ///< the message says how
 };
+
+/// The one element that the first `steps` steps of a path name. Throws Trouble if there is none, or
+/// several: then it says how to choose one.
 SourceElement& SelectElement(Source& source, const Target& target, std::size_t steps,
                              IfAbsent if_absent);
 
@@ -61,6 +62,7 @@ SourceElement& SelectElement(Source& source, const Target& target, std::size_t s
 struct Numbered {
   SourceElement* element;
   std::size_t number;
+  bool counts;  ///< no other one counts in its place
 };
 std::vector<Numbered> MatchesOf(const SourceElement& parent, const Target::ElementStep& step);
 
