@@ -354,11 +354,36 @@ void Editor::Indent(SourceElement& element, std::string_view line, std::string_v
   const std::string inner = std::string(line) + std::string(unit);
   for (std::size_t i = 0; i < element.content.size(); ++i) {
     SourceContent& one = element.content[i];
-    if (one.element != nullptr)
+    if (one.element != nullptr) {
       Indent(*one.element, line.empty() ? line : source_.Keep(inner), unit);
+    }
     if (one.kind != Kind::kSpace) continue;
     one.text = i + 1 == element.content.size() ? outer : source_.Keep(inner);
   }
+}
+
+/// The layout of an element that is added: that of another in the parent or, if there is none, of a
+/// comment.
+Editor::Layout Editor::LayoutIn(const SourceElement& parent, std::size_t place) const {
+  Layout layout = {std::nullopt, UnitOf(parent)};
+  const std::optional<std::string_view> outer = IndentOf(parent);
+  const Content& content = parent.content;
+  const bool is_first = std::ranges::none_of(
+      content, [](const SourceContent& one) { return one.element != nullptr; });
+  std::optional<std::string>& indent = layout.indent;
+  for (std::size_t i = 0; i < content.size(); ++i) {
+    const bool is_alike =
+        is_first ? content[i].kind == Kind::kComment : content[i].element != nullptr;
+    const auto found = is_alike ? IndentAt(content, i) : std::nullopt;
+    if (found.has_value() && (i < place || !indent.has_value())) indent = *found;
+  }
+  if (!is_first || !outer.has_value()) return layout;
+  if (!indent.has_value()) {
+    indent = std::string(*outer) + layout.unit;
+  } else if (indent->size() > outer->size() && indent->starts_with(*outer)) {
+    layout.unit = indent->substr(outer->size());
+  }
+  return layout;
 }
 
 /// `number`: which one it becomes of those of its name; 0: the last.
@@ -369,33 +394,23 @@ SourceElement& Editor::AddChild(SourceElement& parent, const Element& table, con
   const std::size_t place = number != 0 && number <= others.size()
                                 ? PlaceBefore(*others[number - 1])
                                 : PlaceOf(parent, table, child);
-  // What the line of the new element begins with: the same as that of another in the parent.
-  const std::string unit = UnitOf(parent);
-  const std::optional<std::string_view> outer = IndentOf(parent);
-  const bool is_first = std::ranges::none_of(
-      content, [](const SourceContent& one) { return one.element != nullptr; });
-  std::optional<std::string> indent;
-  for (std::size_t i = 0; i < content.size(); ++i) {
-    const auto found = content[i].element == nullptr ? std::nullopt : IndentAt(content, i);
-    if (found.has_value() && (i < place || !indent.has_value())) indent = *found;
-  }
-  if (is_first && outer.has_value()) indent = std::string(*outer) + unit;
-
+  const Layout layout = LayoutIn(parent, place);
   const bool was_empty = content.empty();
   const std::size_t at = was_empty ? 0 : EndOfLine(content, place);
-  const bool has_line =
-      indent.has_value() && !source_.line_end().empty() && (was_empty || StartsLine(content, at));
-  const std::string_view line =
-      has_line ? source_.Keep(std::string(source_.line_end()) + *indent) : std::string_view();
+  const bool has_line = layout.indent.has_value() && !source_.line_end().empty() &&
+                        (was_empty || StartsLine(content, at));
+  const std::string_view line = has_line
+                                    ? source_.Keep(std::string(source_.line_end()) + *layout.indent)
+                                    : std::string_view();
   std::unique_ptr<SourceElement> made = source_.ParseElement(NewElement(child));
   SourceElement& element = *made;
   element.parent = &parent;
-  Indent(element, line, unit);
+  Indent(element, line, layout.unit);
   Open(parent, source_);
   Insert(content, at, {Kind::kElement, {}, std::move(made)});
   if (has_line) Insert(content, at, {Kind::kSpace, line});
   if (has_line && was_empty) {
-    const std::string end = std::string(source_.line_end()) + std::string(*outer);
+    const std::string end = std::string(source_.line_end()) + std::string(*IndentOf(parent));
     content.push_back({Kind::kSpace, source_.Keep(end)});
   }
   return element;

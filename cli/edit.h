@@ -32,6 +32,11 @@ class Editor {
   void Remove(std::string_view path);
 
  private:
+  struct Layout {
+    std::optional<std::string> indent;  ///< of its line; nothing: it has no line of its own
+    std::string unit;                   ///< by which what is in it is indented
+  };
+
   void SetAttribute(SourceElement& element, const Element& table, const Attribute& attribute,
                     const std::string& value);
   void SetText(SourceElement& element, const Element& table, const std::string& value);
@@ -41,6 +46,7 @@ class Editor {
   void Indent(SourceElement& element, std::string_view line, std::string_view unit);
   std::optional<std::string_view> IndentOf(const SourceElement& element) const;
   std::string UnitOf(const SourceElement& parent) const;
+  Layout LayoutIn(const SourceElement& parent, std::size_t place) const;
   std::string Escaped(std::string_view value, char quote) const;
 
   Source& source_;

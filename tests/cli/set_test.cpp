@@ -1,16 +1,20 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <nlohmann/json.hpp>
 #include <random>
 
 #include "cli/edit.h"
+#include "cli/encoded.h"
 #include "cli/json.h"
 #include "cli/load.h"
 #include "cli/run.h"
 #include "cli/text.h"
-#include "platform/utf.h"
 #include "support/files.h"
 #include "tables/random_content.h"
 
@@ -58,8 +62,8 @@ class Layout {
 
   std::string Space(std::string_view space) {
     const std::string same(space);
-    const std::string others[] = {"", "  <!-- a < b & \"c\" -->" + same, same + "<!-- d -->" + same,
-                                  "\n\n\t", " <?target value?>\n"};
+    const std::string others[] = {"", "  <!-- a <\n b & \"c\" -->" + same,
+                                  same + "<!-- d -->" + same, "\n\n\t", " <?target value?>\n"};
     const std::size_t choice = random_() % 8;
     return choice < std::size(others) ? others[choice] : same;
   }
@@ -89,133 +93,102 @@ class Layout {
 
 std::string Encode(const std::string& text, std::string_view encoding) {
   const std::string name(encoding.substr(0, encoding.find(' ')));
-  const bool is_wide = name.starts_with("UTF-16");
   const char32_t limit = name == "US-ASCII" ? 0x80 : name == "ISO-8859-1" ? 0x100 : 0x110000;
-  std::string bytes = encoding == "UTF-8 with mark" ? "\xEF\xBB\xBF" : "";
-  const auto add_unit = [&](char32_t unit) {
-    const char pair[] = {static_cast<char>(unit >> 8), static_cast<char>(unit)};
-    bytes += {pair[name == "UTF-16LE"], pair[name != "UTF-16LE"]};
-  };
-  if (is_wide) add_unit(0xFEFF);
-  const std::string all = "<?xml version='1.0' encoding=\"" + name + "\"?>" + text;
-  for (const char* at = all.data(); at != all.data() + all.size();) {
-    const char* const start = at;
-    const char32_t c = platform::TakeCodePoint(at);
-    if (is_wide && c > 0xFFFF) add_unit(0xD800 + ((c - 0x10000) >> 10));
-    if (is_wide) {
-      add_unit(c > 0xFFFF ? 0xDC00 + (c & 0x3FF) : c);
-    } else if (c >= limit) {
-      char reference[16];
-      std::snprintf(reference, sizeof reference, "&#x%X;", static_cast<unsigned>(c));
-      bytes += reference;
-    } else if (limit == 0x100) {
-      bytes += static_cast<char>(c);
-    } else {
-      bytes.append(start, at);
-    }
+  std::u32string all = encoding == "UTF-8" || limit < 0x110000 ? U"" : U"\uFEFF";
+  for (const char32_t c : CodePoints("<?xml version='1.0' encoding=\"" + name + "\"?>" + text)) {
+    std::array<char, 16> reference = {};
+    std::snprintf(reference.data(), reference.size(), "&#x%X;", static_cast<unsigned>(c));
+    all += c < limit ? std::u32string(1, c) : CodePoints(reference.data());
   }
-  return bytes;
+  return Encoded(all, limit < 0x110000 ? "ISO-8859-1" : name);
 }
 
 // ---- places ------------------------------------------------------------------------------------
 
-struct ValuePlace {
+struct Place {
   std::string path;
   Pointer pointer;
-  const Value* value;
-  bool is_text;  ///< of an element
-  bool is_free;  ///< an optional attribute whose absence stands for nothing
-  bool is_absent;
+  bool is_there;
+  const Value* value = nullptr;  ///< null: an element that may be added
+  bool is_text = false;          ///< the value is that of an element
+  bool is_free = false;          ///< an optional attribute whose absence stands for nothing
+  bool is_repeated = false;
 };
 
-struct ItemPlace {
-  std::string path;  ///< of an element that may be added
-  Pointer pointer;
-  bool is_repeated;
-};
+/// The places of a document by its JSON form: those with a value, and elements that may be added.
+class Places {
+ public:
+  Places(const Document& document, const Json& json) {
+    const std::string& root = document.root().name;
+    Collect(document.root(), json[root], "", Pointer("/" + root));
+  }
 
-struct Places {
-  std::vector<ValuePlace> values;
-  std::vector<ItemPlace> items;
-};
+  const Place& Value(Random& random) const { return values_[random() % values_.size()]; }
+  const Place& Item(Random& random) const { return items_[random() % items_.size()]; }
+  bool HasItems() const { return !items_.empty(); }
 
-/// The places of a document by its JSON form.
-void Collect(const Element& element, const Json& json, const std::string& path,
-             const Pointer& pointer, Places& places) {
-  const std::string prefix = path.empty() ? "" : path + "/";
-  if (element.text.has_value()) {
-    places.values.push_back({path, pointer, &*element.text, true, false, json.is_null()});
-    return;
-  }
-  for (const Attribute& attribute : element.attributes) {
-    const bool is_free =
-        attribute.occurrence == Occurrence::kOptional && !attribute.when_absent.has_value();
-    places.values.push_back({prefix + attribute.name, pointer / attribute.name, &attribute.value,
-                             false, is_free, !json.contains(attribute.name)});
-  }
-  for (const Child& child : element.children) {
-    const std::string name = prefix + child.name;
-    const Pointer at = pointer / child.name;
-    const bool is_repeated = child.occurrence == Occurrence::kRepeated;
-    const bool is_there = json.contains(child.name);
-    const bool is_addable = is_repeated || !is_there;
-    if (is_addable && !element.schema->closes_as_empty_tag) {
-      places.items.push_back({name, at, is_repeated});
+ private:
+  void Collect(const Element& element, const Json& json, const std::string& path,
+               const Pointer& pointer) {
+    const std::string prefix = path.empty() ? "" : path + "/";
+    if (element.text.has_value()) {
+      values_.push_back({path, pointer, !json.is_null(), &*element.text, true});
+      return;
     }
-    if (!is_there) continue;
-    if (!is_repeated) {
-      Collect(*child.element, json[child.name], name, at, places);
-      continue;
+    for (const Attribute& attribute : element.attributes) {
+      const bool is_free =
+          attribute.occurrence == Occurrence::kOptional && !attribute.when_absent.has_value();
+      values_.push_back({prefix + attribute.name, pointer / attribute.name,
+                         json.contains(attribute.name), &attribute.value, false, is_free});
     }
-    for (std::size_t i = 0; i < json[child.name].size(); ++i) {
-      Collect(*child.element, json[child.name][i], name + "[" + std::to_string(i + 1) + "]", at / i,
-              places);
+    for (const Child& child : element.children) {
+      const std::string name = prefix + child.name;
+      const Pointer at = pointer / child.name;
+      const bool is_repeated = child.occurrence == Occurrence::kRepeated;
+      const bool is_there = json.contains(child.name);
+      if ((is_repeated || !is_there) && !element.schema->closes_as_empty_tag) {
+        items_.push_back(
+            {.path = name, .pointer = at, .is_there = is_there, .is_repeated = is_repeated});
+      }
+      if (is_there && !is_repeated) Collect(*child.element, json[child.name], name, at);
+      for (std::size_t i = 0; is_there && is_repeated && i < json[child.name].size(); ++i) {
+        Collect(*child.element, json[child.name][i], name + "[" + std::to_string(i + 1) + "]",
+                at / i);
+      }
     }
   }
-}
+
+  std::vector<Place> values_;
+  std::vector<Place> items_;
+};
 
 std::string AsText(const Json& json) {
   return json.is_string() ? json.get<std::string>() : json.dump();
 }
 
-std::string RandomValue(const ValuePlace& place, Random& random) {
+std::string RandomValue(const Place& place, Random& random) {
   static constexpr const char* kPieces[] = {"a", " ", "\t", "\n", "\r", "<",   "&",
                                             ">", "'", "\"", "é",  "€",  "]]>", "\U0001F600"};
   const Value& value = *place.value;
   if (value.type == Value::Type::kEnum) return value.texts[random() % value.texts.size()];
   if (value.type == Value::Type::kNumber) return std::to_string(random() % value.greatest);
   std::string text = place.is_text && !value.may_be_empty ? " " : "";
-  for (auto count = random() % 6; count != 0; --count)
-    text += kPieces[random() % std::size(kPieces)];
+  const auto count = random() % 6;
+  for (unsigned i = 0; i < count; ++i) text += kPieces[random() % std::size(kPieces)];
   return text;
 }
 
-class Sample {
- public:
-  explicit Sample(const Document& document) : document_(document) {}
+std::string Edited(const std::string& bytes, const std::function<void(Editor&)>& edit) {
+  Source source("test.xml", bytes);
+  Editor editor(source, source.Recognise(nullptr));
+  edit(editor);
+  return source.Bytes();
+}
 
-  std::string Edited(const std::string& bytes, const std::function<void(Editor&)>& edit) const {
-    Source source("test.xml", bytes);
-    Editor editor(source, document_);
-    edit(editor);
-    return source.Bytes();
-  }
-
-  Json Read(const std::string& bytes) const {
-    const Loaded loaded = LoadBytes(bytes, "test.xml", &document_);
-    return ToJson(document_, *loaded.root);
-  }
-
-  Places PlacesOf(const Json& json) const {
-    Places places;
-    const std::string& root = document_.root().name;
-    Collect(document_.root(), json[root], "", Pointer("/" + root), places);
-    return places;
-  }
-
- private:
-  const Document& document_;
-};
+Json ReadJson(const std::string& bytes) {
+  const Loaded loaded = LoadBytes(bytes, "test.xml");
+  return ToJson(*loaded.document, *loaded.root);
+}
 
 /// What the second text has in place of the first one's.
 std::string Changed(const std::string& before, const std::string& after) {
@@ -242,19 +215,18 @@ std::string RandomDocument(const Document& document, unsigned seed) {
 /// document looks like.
 TEST(Set, ChangesNothingElse) {
   for (const Document& document : Documents()) {
-    const Sample sample(document);
     for (unsigned seed = 0; seed < 24; ++seed) {
       const char* const encoding = kEncodings[seed % std::size(kEncodings)];
       SCOPED_TRACE(std::string(document.name) + " " + std::to_string(seed) + " " + encoding);
       Random random(seed);
       const std::string written = RandomDocument(document, seed);
       const std::string bytes = Encode(Layout(written, random).Make(), encoding);
-      const Json json = sample.Read(bytes);
-      ASSERT_EQ(json, sample.Read(written));
-      ASSERT_EQ(sample.Edited(bytes, [](Editor&) {}), bytes);
-      const Places places = sample.PlacesOf(json);
+      const Json json = ReadJson(bytes);
+      ASSERT_EQ(json, ReadJson(written));
+      ASSERT_EQ(Edited(bytes, [](Editor&) {}), bytes);
+      const Places places(document, json);
       for (int i = 0; i < 12; ++i) {
-        const ValuePlace& place = places.values[random() % places.values.size()];
+        const Place& place = places.Value(random);
         const std::string value = RandomValue(place, random);
         SCOPED_TRACE(place.path + "=" + Printable(value));
         Json wanted = json;
@@ -262,41 +234,39 @@ TEST(Set, ChangesNothingElse) {
                                     ? Json::parse(value)
                                     : Json(value);
         const std::string after =
-            sample.Edited(bytes, [&](Editor& editor) { editor.Set(place.path, value); });
-        const Json read = sample.Read(after);
-        if (!place.is_absent) {
+            Edited(bytes, [&](Editor& editor) { editor.Set(place.path, value); });
+        const Json read = ReadJson(after);
+        if (place.is_there) {
           ASSERT_EQ(read, wanted);
           const std::string old = AsText(json[place.pointer]);
           ASSERT_EQ(Changed(RootText(bytes), RootText(after)).find_first_of("<>"),
                     std::string::npos);
-          ASSERT_EQ(sample.Edited(after, [&](Editor& editor) { editor.Set(place.path, old); }),
-                    bytes);
+          ASSERT_EQ(Edited(after, [&](Editor& editor) { editor.Set(place.path, old); }), bytes);
           if (!place.is_free) continue;
           wanted = json[place.pointer.parent_pointer()];
           wanted.erase(place.pointer.back());
-          const auto unset =
-              sample.Edited(bytes, [&](Editor& editor) { editor.Unset(place.path); });
-          ASSERT_EQ(sample.Read(unset)[place.pointer.parent_pointer()], wanted);
+          const auto unset = Edited(bytes, [&](Editor& editor) { editor.Unset(place.path); });
+          ASSERT_EQ(ReadJson(unset)[place.pointer.parent_pointer()], wanted);
         } else {
           ASSERT_EQ(AsText(read[place.pointer]), value);
           if (place.is_text) continue;
-          ASSERT_EQ(sample.Edited(after, [&](Editor& editor) { editor.Unset(place.path); }), bytes);
+          ASSERT_EQ(Edited(after, [&](Editor& editor) { editor.Unset(place.path); }), bytes);
         }
       }
-      for (int i = 0; i < 6 && !places.items.empty(); ++i) {
-        const ItemPlace& place = places.items[random() % places.items.size()];
-        const std::size_t count = json.contains(place.pointer) ? json[place.pointer].size() : 0;
+      for (int i = 0; i < 6 && places.HasItems(); ++i) {
+        const Place& place = places.Item(random);
+        const std::size_t count = place.is_there ? json[place.pointer].size() : 0;
         const std::size_t number = place.is_repeated ? 1 + random() % (count + 1) : 0;
         const std::string path =
             place.path + (number == 0 ? "" : "[" + std::to_string(number) + "]");
         SCOPED_TRACE(path);
-        const std::string after = sample.Edited(bytes, [&](Editor& editor) { editor.Add(path); });
-        Json read = sample.Read(after)[place.pointer];
+        const std::string after = Edited(bytes, [&](Editor& editor) { editor.Add(path); });
+        Json read = ReadJson(after)[place.pointer];
         if (place.is_repeated) {
           read.erase(number - 1);
           ASSERT_EQ(read, count == 0 ? Json::array() : json[place.pointer]);
         }
-        ASSERT_EQ(sample.Edited(after, [&](Editor& editor) { editor.Remove(path); }), bytes);
+        ASSERT_EQ(Edited(after, [&](Editor& editor) { editor.Remove(path); }), bytes);
       }
     }
   }
@@ -305,18 +275,17 @@ TEST(Set, ChangesNothingElse) {
 /// What is added stands where the library would write it, and looks as it would.
 TEST(Set, KeepsTheLibrarysForm) {
   for (const Document& document : Documents()) {
-    const Sample sample(document);
     for (unsigned seed = 0; seed < 10; ++seed) {
       SCOPED_TRACE(std::string(document.name) + " " + std::to_string(seed));
       Random random(seed);
       const std::string bytes = RandomDocument(document, seed);
-      const Places places = sample.PlacesOf(sample.Read(bytes));
+      const Places places(document, ReadJson(bytes));
       for (int i = 0; i < 10; ++i) {
-        const ValuePlace& place = places.values[random() % places.values.size()];
+        const Place& place = places.Value(random);
         const std::string value = RandomValue(place, random);
-        const std::string after = sample.Edited(bytes, [&](Editor& editor) {
+        const std::string after = Edited(bytes, [&](Editor& editor) {
           editor.Set(place.path, value);
-          if (!places.items.empty()) editor.Add(places.items[random() % places.items.size()].path);
+          if (places.HasItems()) editor.Add(places.Item(random).path);
         });
         const Loaded loaded = LoadBytes(after, "test.xml");
         ASSERT_EQ(WrittenForm(document, *loaded.root), after) << place.path;
@@ -372,6 +341,9 @@ TEST(Set, FindsTheTextThatIsRead) {
                       {"Message/Description=]]>"}),
             "tolva: the text of 'Description' cannot hold this: a CDATA section, which cannot, "
             "begins it\n");
+  EXPECT_EQ(
+      Catalogue("<Message ID='1'><Content> </Content></Message>", {"--unset", "Message/Content"}),
+      "tolva: 'Message/Content' has no text\n");
 }
 
 TEST(Set, FollowsTheLayout) {
@@ -384,6 +356,12 @@ TEST(Set, FollowsTheLayout) {
             start + first + " <!-- one -->\r\n\t<Message ID=\"7\">" + made + "\r\n");
   EXPECT_EQ(Catalogue(start + first + end, {"--add=Message[1]", "Message[1]/ID=7"}),
             "\r\n\t<Message ID=\"7\">" + made + start + first + end);
+  EXPECT_EQ(Catalogue(start + "\r\n", {"--add", "Message", "Message/ID=7"}),
+            start.substr(0, start.size() - 3) + "\r\n\t<Message ID=\"7\">" + made +
+                start.substr(start.size() - 3) + "\r\n");
+  EXPECT_EQ(Catalogue("<Message ID='1'><Content>a]=b</Content></Message>",
+                      {"Message[Content=\"a]=b\"]/ID=2"}),
+            "<Message ID='2'><Content>a]=b</Content></Message>");
   EXPECT_EQ(Catalogue(start + first + end, {"--remove", "Message"}),
             "\r\n\t<!-- all -->\r\n\t" + end);
 }
@@ -414,7 +392,7 @@ TEST_F(SetFile, RefusesWhatCannotBe) {
        "none of NORMAL, SILENT and UNATTENDED; did you mean 'NORMAL'"},
       {{"SchemaVersion=4294967296"}, "no number from 0 to 4294967295 in digits"},
       {{"Name=a\x01"}, "the value of 'Name' holds what is no character"},
-      {{"Encryption/PrimaryKey/Key=secret\x7F\xFF"}, "tolva: the value of 'Key' holds"},
+      {{"Encryption/PrimaryKey/Key=secret\xC3"}, "tolva: the value of 'Key' holds"},
       {{"UserInterface/Mod=SILENT"}, "did you mean 'Mode'?"},
       {{"UserInterface=x"}, "'UserInterface' is an element that has no text"},
       {{"LocationArray/Location/Desc=x"},
@@ -453,7 +431,8 @@ TEST_F(SetFile, RefusesWhatCannotBe) {
 
 TEST_F(SetFile, WritesInPlace) {
   const std::string before = file_.Read();
-  const auto time = std::filesystem::last_write_time(file_.path());
+  const auto time = std::filesystem::last_write_time(file_.path()) - std::chrono::hours(1);
+  std::filesystem::last_write_time(file_.path(), time);
   EXPECT_EQ(Run("set", {"-i", "UserInterface/Mode=NORMAL"}).status, 0);
   EXPECT_EQ(std::filesystem::last_write_time(file_.path()), time);  // nothing to write
   const Outcome printed = Run("set", {"UserInterface/Mode=SILENT"});
