@@ -119,7 +119,7 @@ void Open(SourceElement& element, Source& source) {
 /// Where a child of the kind belongs by the tables: after the last of those that come before it.
 std::size_t PlaceOf(const SourceElement& parent, const Element& table, const Child& child) {
   const auto rank_of = [&](std::string_view name) {
-    return table.FindChild(name) - &table.children[0];
+    return table.FindChild(name) - table.children.data();
   };
   const auto rank = rank_of(child.name);
   const Content& content = parent.content;
@@ -233,8 +233,9 @@ void Editor::SetText(SourceElement& element, const Element& table, const std::st
   const bool is_section = found != nullptr && found->kind == Kind::kSection;
   bool fits = value.find("]]>") == std::string::npos && value.find('\r') == std::string::npos;
   const char* const end = value.data() + value.size();
-  for (const char* at = value.data(); at != end;)
+  for (const char* at = value.data(); at != end;) {
     fits = source_.Has(platform::TakeCodePoint(at)) && fits;
+  }
   if (is_section && fits) {
     std::string text = "<![CDATA[";
     for (const char c : value) {

@@ -73,8 +73,7 @@ class Get {
   int PrintJson(const Json& root) {
     int status = kFine;
     Json results = Json::array();
-    for (std::size_t i = 0; i < targets_.size(); ++i) {
-      const Target& target = targets_[i];
+    for (const Target& target : targets_) {
       Json matches = Json::array();
       for (const Found& found : Select(source_, target)) {
         if (TextAt(target, found).has_value()) matches.push_back(MatchOf(target, found, root));

@@ -88,7 +88,7 @@ std::string Target::Spelling(std::size_t elements_count) const {
 }
 
 std::string Target::Spelling() const {
-  const std::string path = Spelling(elements.size());
+  std::string path = Spelling(elements.size());
   if (attribute == nullptr) return path;
   return path.empty() ? attribute->name : path + "/" + attribute->name;
 }
@@ -175,8 +175,9 @@ std::string AbsenceOf(Source& source, const Target& target) {
   for (std::size_t i = 0; i < target.elements.size(); ++i) {
     std::vector<SourceElement*> next;
     for (SourceElement* const one : elements) {
-      for (const Numbered& match : MatchesOf(*one, target.elements[i]))
+      for (const Numbered& match : MatchesOf(*one, target.elements[i])) {
         next.push_back(match.element);
+      }
     }
     if (next.empty()) {
       return Named(source) + " has no '" + target.Spelling(i + 1) + "'" +

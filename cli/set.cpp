@@ -79,7 +79,7 @@ void Apply(const Operation& operation, Editor& editor) {
   switch (operation.kind) {
     case Operation::Kind::kSet: {
       const std::size_t end = EndOfPath(argument);
-      editor.Set(std::string_view(argument).substr(0, end), argument.substr(end + 1));
+      editor.Set(argument.substr(0, end), argument.substr(end + 1));
       break;
     }
     case Operation::Kind::kUnset:

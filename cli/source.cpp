@@ -340,7 +340,7 @@ std::string_view Source::Keep(std::string text) {
   const std::size_t size = text.size();
   // Values are decoded from what is kept, a block at a time.
   text.append(Window::kPadding, '\0');
-  return std::string_view(kept_.emplace_back(std::move(text))).substr(0, size);
+  return {kept_.emplace_back(std::move(text)).data(), size};
 }
 
 std::unique_ptr<SourceElement> Source::ParseElement(std::string_view text) {

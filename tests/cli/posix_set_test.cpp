@@ -71,8 +71,8 @@ TEST_F(SetInFolder, SurvivesAKill) {
     const pid_t child = fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
-      for (int status = 0; status == 0;)
-        status = Set(second, File()).status + Set("first", File()).status;
+      while (Set(second, File()).status + Set("first", File()).status == 0) {
+      }
       _exit(1);
     }
     usleep(static_cast<useconds_t>(1000 + i * 237));
