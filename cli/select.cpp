@@ -203,11 +203,11 @@ SourceElement& SelectElement(Source& source, const Target& target, std::size_t s
       throw Trouble(path + " names " + std::to_string(matches.size()) + " elements in " +
                     Named(source) + ": " + ChoiceIn(*element, step));
     }
-    const std::string near = NearestItem(*element, step);
+    const std::string hint = NearestItem(*element, step);
     throw Trouble(Named(source) + " has no " + path +
-                  (near.empty() && if_absent == IfAbsent::kMayBeAdded
+                  (hint.empty() && if_absent == IfAbsent::kMayBeAdded
                        ? "; --add " + path + " adds it"
-                       : near));
+                       : hint));
   }
   return *element;
 }
