@@ -1,7 +1,7 @@
 # Warnings, as errors for developers.
 function(tolva_add_warnings target)
   if(MSVC)
-    target_compile_options(${target} INTERFACE /W4 /permissive- /utf-8)
+    target_compile_options(${target} INTERFACE /W4 /permissive- /utf-8 /bigobj)
     if(TOLVA_DEVELOPER)
       target_compile_options(${target} INTERFACE /WX)
     endif()

@@ -171,7 +171,16 @@ part_linux() {
     "$lib"/pkgconfig/tolva{,-support}.pc bin/tolva share/man/man1/tolva.1 \
     share/bash-completion/completions/tolva share/zsh/site-functions/_tolva \
     share/fish/vendor_completions.d/tolva.fish; cmake_files "$lib" release)" ''
+  check 'linux-release: as a part of another project' subproject
   check 'linux-release: pkg-config' pkg_config_consumer "$PWD/build/linux-release/installed/$lib"
+}
+
+subproject() {
+  local folder=build/subproject
+  rm -rf "$folder/installed"
+  cmake -S tests/subproject -B "$folder" -G Ninja -DCMAKE_INSTALL_PREFIX="$PWD/$folder/installed" &&
+    cmake --build "$folder" && "$folder/consumer" "$folder/document.xml" &&
+    cmake --install "$folder" && [ "$(cd "$folder/installed" && find . -type f)" = ./bin/consumer ]
 }
 
 manual_page() { # <page>
@@ -283,6 +292,7 @@ part_windows-own() {
 part_abi() {
   echo "Microsoft's binary interface"
   check 'headers, names and slots' tools/abi.sh
+  check "sources, for Microsoft's target" tools/msvc.py
 }
 
 part_tidy() {

@@ -2,10 +2,6 @@
 // headers declare them.
 #pragma once
 
-#if !defined(NOMINMAX)
-#define NOMINMAX
-#endif
-
 #include <windows.h>
 // (windows.h comes first)
 #include <objidl.h>

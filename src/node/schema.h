@@ -344,6 +344,11 @@ struct MemberOf<FieldType ClassType::*> {
   using Field = FieldType;
 };
 
+template <auto Member>
+using ClassOf = typename MemberOf<decltype(Member)>::Class;
+template <auto Member>
+using TypeOfField = typename MemberOf<decltype(Member)>::Field;
+
 /// What the type of a field says about its row.
 template <class T>
 struct FieldTraits {
@@ -366,21 +371,23 @@ constexpr ValueType TypeOf() {
   if constexpr (std::same_as<Value, std::wstring>) return ValueType::kString;
 }
 
-template <auto Member>
-auto& FieldOf(IElement& node) {
-  using Class = typename MemberOf<decltype(Member)>::Class;
+// The functions below have the class and the type of the field as parameters that nobody states:
+// in the names that some compilers give to functions, a pointer to a member is no more than an
+// offset.
+
+template <auto Member, class Class = ClassOf<Member>, class Field = TypeOfField<Member>>
+Field& FieldOf(IElement& node) {
   return static_cast<Class&>(node).*Member;
 }
 
-template <auto Member>
+template <auto Member, class Class = ClassOf<Member>, class Field = TypeOfField<Member>>
 FieldRef LocateField(IElement& node) {
-  using Field = typename MemberOf<decltype(Member)>::Field;
   return FieldTraits<Field>::Locate(FieldOf<Member>(node));
 }
 
 template <auto Member>
 constexpr Attribute PlainRow(const Name& name) {
-  using Traits = FieldTraits<typename MemberOf<decltype(Member)>::Field>;
+  using Traits = FieldTraits<TypeOfField<Member>>;
   return {name, TypeOf<typename Traits::Value>(), Traits::kIsOptional, &LocateField<Member>};
 }
 
@@ -445,19 +452,19 @@ struct ChildTraits<ChildList<C, I>> {
   static void Clear(ChildList<C, I>& items) { items.RemoveAll(); }
 };
 
-template <auto Member>
+template <auto Member, class Class = ClassOf<Member>, class Field = TypeOfField<Member>>
 ChildRef LocateChild(IElement& node) {
-  return ChildTraits<typename MemberOf<decltype(Member)>::Field>::Locate(FieldOf<Member>(node));
+  return ChildTraits<Field>::Locate(FieldOf<Member>(node));
 }
 
-template <auto Member>
+template <auto Member, class Class = ClassOf<Member>, class Field = TypeOfField<Member>>
 IElement& MakeChild(IElement& node) {
-  return ChildTraits<typename MemberOf<decltype(Member)>::Field>::Make(FieldOf<Member>(node));
+  return ChildTraits<Field>::Make(FieldOf<Member>(node));
 }
 
-template <auto Member>
+template <auto Member, class Class = ClassOf<Member>, class Field = TypeOfField<Member>>
 void ClearChild(IElement& node) {
-  ChildTraits<typename MemberOf<decltype(Member)>::Field>::Clear(FieldOf<Member>(node));
+  ChildTraits<Field>::Clear(FieldOf<Member>(node));
 }
 
 }  // namespace internal
@@ -488,7 +495,7 @@ consteval Attribute Attr(Name name, EnumTexts texts) {
 /// The row of a child.
 template <auto Member>
 consteval Child Elem(Name name) {
-  using Traits = internal::ChildTraits<typename internal::MemberOf<decltype(Member)>::Field>;
+  using Traits = internal::ChildTraits<internal::TypeOfField<Member>>;
   using Element = typename Traits::Element;
   return {{name, &Element::kSchema.attribute_names},
           Traits::kOccurrence,
@@ -503,7 +510,7 @@ consteval Child Elem(Name name) {
 /// The value of an element that consists of text.
 template <auto Member>
 consteval Content TextOf() {
-  using Traits = internal::FieldTraits<typename internal::MemberOf<decltype(Member)>::Field>;
+  using Traits = internal::FieldTraits<internal::TypeOfField<Member>>;
   return {internal::TypeOf<typename Traits::Value>(), Traits::kIsOptional,
           &internal::LocateField<Member>};
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -41,7 +42,8 @@ class TempFile {
   static std::string MakeName() {
     static std::atomic<unsigned> made = 0;
     static const auto process = std::filesystem::file_time_type::clock::now().time_since_epoch();
-    return "tolva-test-" + std::to_string(process.count()) + "-" + std::to_string(++made);
+    return "tolva-test-" + std::to_string(static_cast<std::int64_t>(process.count())) + "-" +
+           std::to_string(++made);
   }
 
   const std::filesystem::path path_;

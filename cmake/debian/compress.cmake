@@ -1,0 +1,6 @@
+# Compresses the manual pages of what is about to be packed.
+file(GLOB_RECURSE pages ${CPACK_TEMPORARY_DIRECTORY}/*.1)
+list(FILTER pages INCLUDE REGEX "/man/man1/")
+foreach(page IN LISTS pages)
+  execute_process(COMMAND gzip -9nf ${page} COMMAND_ERROR_IS_FATAL ANY)
+endforeach()
