@@ -20,6 +20,8 @@ void AddTool(CLI::App& tool, Session& session) {
   AddExplain(tool, session);
   AddSchema(tool, session);
   AddNew(tool, session);
+  AddGet(tool, session);
+  AddSet(tool, session);
   AddFmt(tool, session);
   AddConvert(tool, session);
   AddCompletion(tool, session);

@@ -196,13 +196,12 @@ TEST_P(DiffOf, MakesTheNewDocumentFromTheOld) {
   for (unsigned seed = 0; seed < 200; ++seed) {
     SCOPED_TRACE(seed);
     const auto from = document.make();
-    const auto to = document.make();
     RandomContent(seed % 10).Fill(*document.root().schema, *from);
     const Json old_json = JsonOf(document, *from);
     Json new_json = old_json;
     if (seed % 8 != 0) Editor(seed).Edit(document.root(), new_json[root]);
     if (seed % 8 == 1) new_json = Shuffled(new_json, seed);
-    FromJson(document, nlohmann::ordered_json::parse(new_json.dump()), *to);
+    const auto to = FromJson(new_json.dump(), "new", &document).root;
     new_json = JsonOf(document, *to);
     equal += new_json == old_json ? 1 : 0;
     for (const ListOrder order : {ListOrder::kCounts, ListOrder::kIsIgnored}) {
@@ -277,10 +276,8 @@ TEST(Diff, TellsNoMoreThanWasDone) {
     const unsigned edits = seed % 50;
     for (unsigned i = 0; i < edits; ++i) messages.EditOnce(has_unique_names);
     const Json to = messages.ToJson();
-    const auto old_node = document.make();
-    const auto new_node = document.make();
-    FromJson(document, nlohmann::ordered_json::parse(from.dump()), *old_node);
-    FromJson(document, nlohmann::ordered_json::parse(to.dump()), *new_node);
+    const auto old_node = FromJson(from.dump(), "old", &document).root;
+    const auto new_node = FromJson(to.dump(), "new", &document).root;
     const auto comparison = CompareNodes(document, *old_node, *new_node, ListOrder::kCounts);
     const Json changes =
         Json::parse(DiffJson(*comparison, {"old", "new"}, Secrets::kShown))["changes"];
