@@ -4,7 +4,7 @@
 #include <tuple>
 #include <unordered_map>
 
-#include "cli/diff_align.h"
+#include "cli/align.h"
 
 namespace tolva::cli {
 namespace {

@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "cli/diff_align.h"
+#include "cli/align.h"
 #include "cli/diff_formats.h"
 #include "cli/interner.h"
 #include "cli/markup.h"

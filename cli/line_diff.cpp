@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdlib>
+#include <cstdint>
+#include <unordered_map>
 #include <utility>
 #include <vector>
+
+#include "cli/align.h"
 
 namespace tolva::cli {
 namespace {
@@ -23,120 +26,32 @@ Lines LinesOf(std::string_view text) {
   return lines;
 }
 
-/// Marks the lines that are removed and added, by Myers' algorithm in linear space: the middle of a
-/// shortest path through the grid of both texts is found from its two ends, and then the paths to
-/// the middle and from it on.
-class LineMarker {
+/// Which lines are removed and added.
+class LineMarks {
  public:
-  LineMarker(const Lines& before, const Lines& after)
-      : removed(before.size()), added(after.size()), before_(before), after_(after) {
-    Mark(0, Size(before), 0, Size(after));
+  LineMarks(const Lines& before, const Lines& after)
+      : removed(before.size(), true), added(after.size(), true) {
+    for (const auto& [old_line, new_line] : Align(NumbersOf(before), NumbersOf(after))) {
+      removed[old_line] = false;
+      added[new_line] = false;
+    }
   }
 
   std::vector<bool> removed;
   std::vector<bool> added;
 
  private:
-  using Index = std::ptrdiff_t;
-
-  /// After so many steps from either end, the furthest point that has been reached will do.
-  static constexpr Index kMostSteps = 256;
-
-  static Index Size(const Lines& lines) { return static_cast<Index>(lines.size()); }
-  static std::size_t At(Index index) { return static_cast<std::size_t>(index); }
-
-  /// A part of both texts.
-  struct Box {
-    Index left;
-    Index right;
-    Index top;
-    Index bottom;
-  };
-
-  struct Point {
-    Index x;
-    Index y;
-  };
-
-  /// How far paths have come from one end of a box, on each diagonal x - y.
-  struct Front {
-    bool is_backward;  ///< from the end; x and y count from there
-    std::vector<Index> furthest = {};
-
-    Index& At(Index diagonal) { return furthest[LineMarker::At(diagonal + kMostSteps + 1)]; }
-  };
-
-  static constexpr Index kNone = -1;
-
-  bool IsSame(Index before, Index after) const { return before_[At(before)] == after_[At(after)]; }
-
-  void Mark(Index left, Index right, Index top, Index bottom) {
-    for (;;) {
-      while (left < right && top < bottom && IsSame(left, top)) ++left, ++top;
-      while (left < right && top < bottom && IsSame(right - 1, bottom - 1)) --right, --bottom;
-      if (left == right || top == bottom) break;
-      const Point middle = FindMiddle({left, right, top, bottom});
-      Mark(left, middle.x, top, middle.y);
-      left = middle.x;
-      top = middle.y;
+  /// Lines that are the same have the same number.
+  std::vector<std::uint32_t> NumbersOf(const Lines& lines) {
+    std::vector<std::uint32_t> numbers;
+    for (const std::string_view line : lines) {
+      const auto next = static_cast<std::uint32_t>(numbers_.size());
+      numbers.push_back(numbers_.try_emplace(line, next).first->second);
     }
-    std::fill(removed.begin() + left, removed.begin() + right, true);
-    std::fill(added.begin() + top, added.begin() + bottom, true);
+    return numbers;
   }
 
-  /// A point on a shortest path, or, if that is long, on a short one. The texts in the box differ
-  /// in their first and last lines, so it is none of the path's ends.
-  Point FindMiddle(const Box& box) {
-    for (Front* const front : {&forward_, &backward_}) {
-      front->furthest.assign(At(2 * kMostSteps + 3), kNone);
-    }
-    const Index delta = (box.right - box.left) - (box.bottom - box.top);
-    for (Index steps = 0; steps <= kMostSteps; ++steps) {
-      for (Front* const front : {&forward_, &backward_}) {
-        Front& other = front->is_backward ? forward_ : backward_;
-        // The last of the steps was the other front's if the path has an even number of them.
-        const bool may_meet = (delta % 2 == 0) == front->is_backward;
-        for (Index k = -steps; k <= steps; k += 2) {
-          const Index x = Advance(*front, k, steps, box);
-          const bool is_reachable = x != kNone && may_meet && std::abs(delta - k) <= kMostSteps;
-          const Index met = is_reachable ? other.At(delta - k) : kNone;
-          if (met == kNone || x + met < box.right - box.left) continue;
-          return front->is_backward ? Point{box.right - x, box.bottom - (x - k)}
-                                    : Point{box.left + x, box.top + (x - k)};
-        }
-      }
-    }
-    Point furthest = {box.left, box.top};
-    for (Index k = -kMostSteps; k <= kMostSteps; k += 2) {
-      const Index x = forward_.At(k);
-      if (x == kNone || 2 * x - k <= furthest.x - box.left + furthest.y - box.top) continue;
-      furthest = {box.left + x, box.top + (x - k)};
-    }
-    return furthest;
-  }
-
-  /// Takes a step to a diagonal, and goes along it as far as lines are the same.
-  Index Advance(Front& front, Index k, Index steps, const Box& box) const {
-    const Index width = box.right - box.left;
-    const Index height = box.bottom - box.top;
-    const Index before = front.At(k - 1);
-    const Index above = front.At(k + 1);
-    Index x = steps == 0 ? 0 : front.At(k);
-    if (before != kNone && before < width) x = std::max(x, before + 1);
-    if (above != kNone && above - k <= height) x = std::max(x, above);
-    const auto is_same = [&](Index at) {
-      return front.is_backward ? IsSame(box.right - 1 - at, box.bottom - 1 - (at - k))
-                               : IsSame(box.left + at, box.top + (at - k));
-    };
-    while (x != kNone && x < width && x - k < height && is_same(x)) ++x;
-    front.At(k) = x;
-    return x;
-  }
-
-  const Lines& before_;
-  const Lines& after_;
-  Front forward_ = {false};
-  Front backward_ = {true};
+  std::unordered_map<std::string_view, std::uint32_t> numbers_;
 };
 
 class HunkWriter {
@@ -215,7 +130,7 @@ class HunkWriter {
 
   const Lines& before_;
   const Lines& after_;
-  const LineMarker marks_;
+  const LineMarks marks_;
   const Style& style_;
   std::string text_;
   std::size_t left_ = 0;

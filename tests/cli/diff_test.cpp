@@ -6,7 +6,7 @@
 #include <regex>
 #include <set>
 
-#include "cli/diff_align.h"
+#include "cli/align.h"
 #include "cli/diff_formats.h"
 #include "cli/places.h"
 #include "cli/run.h"

@@ -1,4 +1,4 @@
-#include "cli/diff_align.h"
+#include "cli/align.h"
 
 #include <algorithm>
 #include <cstddef>
