@@ -56,6 +56,13 @@ std::string TextOf(std::string_view bytes, const ByteForm& form) {
   return text;
 }
 
+std::string ReferenceTo(char32_t c) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  std::string digits;
+  for (; c != 0; c >>= 4) digits.insert(digits.begin(), kDigits[c & 15]);
+  return "&#x" + digits + ";";
+}
+
 std::string FormEncoder::Encode(std::string_view part) {
   std::string bytes;
   std::string declared;
@@ -96,7 +103,7 @@ void FormEncoder::Append(char32_t c, std::string& bytes) const {
   if (is_utf || c < limit) {
     AppendUnits(c, bytes);
   } else {
-    bytes += "&#" + std::to_string(static_cast<std::uint32_t>(c)) + ";";
+    bytes += ReferenceTo(c);
   }
 }
 

@@ -24,6 +24,9 @@ ByteForm FormOf(std::string_view bytes);
 /// byte that is not UTF-8.
 std::string TextOf(std::string_view bytes, const ByteForm& form);
 
+/// The reference to a character: "&#x20AC;".
+std::string ReferenceTo(char32_t c);
+
 /// Puts what the library writes into another form, part by part. Characters that the encoding lacks
 /// become references.
 class FormEncoder {

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "cli/byte_form.h"
 #include "cli/new.h"
 #include "cli/session.h"
 #include "cli/text.h"
@@ -42,13 +43,6 @@ void Judge(const Value& value, const std::string& name, const std::string& text)
   if (text.empty() || stop != end || error != std::errc() || number > value.greatest) {
     throw Trouble(what + "no number from 0 to " + std::to_string(value.greatest) + " in digits");
   }
-}
-
-std::string ReferenceTo(char32_t c) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string digits;
-  for (; c != 0; c >>= 4) digits.insert(digits.begin(), kDigits[c & 15]);
-  return "&#x" + digits + ";";
 }
 
 // ---- layout ------------------------------------------------------------------------------------
