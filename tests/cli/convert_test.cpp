@@ -5,11 +5,10 @@
 #include <nlohmann/json.hpp>
 #include <regex>
 
-#include "cli/load.h"
+#include "cli/layout.h"
 #include "cli/run.h"
 #include "cli/text.h"
 #include "support/files.h"
-#include "tables/random_content.h"
 
 namespace tolva::test {
 namespace {
@@ -25,12 +24,6 @@ Outcome Convert(const std::string& to, std::string_view bytes,
   const std::size_t at = outcome.err.find(cli::NameOf(file.path()));
   if (at != std::string::npos) outcome.err.erase(at, cli::NameOf(file.path()).size());
   return outcome;
-}
-
-std::string RandomDocument(const Document& document, unsigned seed) {
-  const auto node = document.make();
-  RandomContent(seed).Fill(*document.root().schema, *node);
-  return WrittenForm(document, *node);
 }
 
 /// ":line:column: ", as the tool has it, of what is at the offset.

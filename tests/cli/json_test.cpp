@@ -15,20 +15,6 @@ namespace {
 using namespace cli;
 using Json = nlohmann::ordered_json;
 
-TEST(JsonForm, HoldsWhatNodesHold) {
-  for (const Document& document : Documents()) {
-    for (unsigned seed = 0; seed < 20; ++seed) {
-      SCOPED_TRACE(std::string(document.name) + " " + std::to_string(seed));
-      const auto node = document.make();
-      RandomContent(seed).Fill(*document.root().schema, *node);
-      const Json json = ToJson(document, *node);
-      const FromJsonResult again = FromJson(json.dump(), "x", nullptr);
-      EXPECT_EQ(again.document, &document);
-      EXPECT_TRUE(AreEqual(*document.root().schema, *node, *again.root)) << json.dump(2);
-    }
-  }
-}
-
 TEST(JsonForm, IsAsDocumented) {
   const Document& document = *FindDocument("analysis-details");
   const auto node = document.make();

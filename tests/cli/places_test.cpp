@@ -37,18 +37,6 @@ TEST(Paths, NameStepsAndWhichItemIsMeant) {
   }
 }
 
-TEST(Places, AreFound) {
-  const Place mode = FindPlace("policy/LocationArray/Location[Name=\"Office/1\"]/Name");
-  EXPECT_EQ(mode.path, "LocationArray/Location/Name");
-  ASSERT_NE(mode.attribute, nullptr);
-  EXPECT_EQ(mode.element->name, "Location");
-  EXPECT_EQ(FindPlace("EndPointMessage/").element->name, "EndPointMessage");
-  const Place deep = FindPlace(
-      "message-catalogue/EndpointLocalMsg/EndPointMessage/EndpointLocalMsg/EndPointMessage/"
-      "Message");
-  EXPECT_EQ(deep.element->name, "Message");
-}
-
 TEST(Places, ThatAreNotThereHaveNeighbours) {
   EXPECT_EQ(FaultOf("Polcy/Log"), "there is no document 'Polcy'; did you mean 'policy'?");
   EXPECT_EQ(FaultOf("MaxLogSise"),

@@ -1,0 +1,138 @@
+// Documents with random content, as the library writes them and in other layouts and encodings.
+#pragma once
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "cli/byte_form.h"
+#include "cli/load.h"
+#include "tables/random_content.h"
+
+namespace tolva::test {
+
+inline std::string RandomDocument(const cli::Document& document, unsigned seed) {
+  const auto node = document.make();
+  RandomContent(seed).Fill(*document.root().schema, *node);
+  return WrittenForm(document, *node);
+}
+
+/// Each encoding, with or without a byte order mark, and each line end.
+inline cli::ByteForm FormOfSeed(unsigned seed) {
+  const auto starting = [](const char* start) {
+    return platform::own_xml::DetectEncoding({start, 2});
+  };
+  const auto declared = [](const char* declaration) {
+    return &platform::own_xml::DeclaredEncoding(declaration);
+  };
+  cli::ByteForm forms[] = {{},
+                           {.has_mark = true},
+                           {.encoding = starting("\xFF\xFE")},
+                           {.encoding = starting("\xFE\xFF"), .has_mark = true},
+                           {.encoding = declared("encoding='ISO-8859-1'")},
+                           {.encoding = declared("encoding='US-ASCII'")}};
+  constexpr std::string_view kLineEnds[] = {"\n", "\r\n", "\r"};
+  cli::ByteForm& form = forms[seed % std::size(forms)];
+  form.line_end = kLineEnds[seed / std::size(forms) % std::size(kLineEnds)];
+  return form;
+}
+
+/// Changes how a document is written, but not what the library reads.
+class Layout {
+ public:
+  enum class Kind : bool {
+    kComments,  ///< with comments and instructions; values and tags as they were
+    kSpelling,  ///< references, sections, attributes in any order, empty elements with two tags
+  };
+
+  Layout(Kind kind, unsigned seed) : respells_(kind == Kind::kSpelling), random_(seed) {}
+
+  /// `text` is in the form that the library writes.
+  std::string Change(std::string_view text) {
+    std::string result(Take(text, text.find('\n') + 1));
+    while (!text.empty()) {
+      if (text[0] == '<') {
+        result += Tag(Take(text, text.find('>') + 1));
+        continue;
+      }
+      const std::string_view between = Take(text, std::min(text.find('<'), text.size()));
+      const bool is_layout = between.find_first_not_of(" \n") == std::string_view::npos;
+      result += is_layout ? Space(between) : respells_ ? Text(between) : std::string(between);
+    }
+    return result;
+  }
+
+ private:
+  bool Perhaps() { return random_() % 4 == 0; }
+
+  static std::string_view Take(std::string_view& text, std::size_t size) {
+    const std::string_view taken = text.substr(0, size);
+    text.remove_prefix(taken.size());
+    return taken;
+  }
+
+  std::string Space(std::string_view space) {
+    const std::string same(space);
+    static const std::string kSpaces[] = {"", " ", "\n", "\n\n", "\t", "\n    ", " \n"};
+    if (respells_) return kSpaces[random_() % std::size(kSpaces)];
+    const std::string others[] = {"", "  <!-- a <\n b & \"c\" -->" + same,
+                                  same + "<!-- d -->" + same, "\n\n\t", " <?target value?>\n"};
+    const std::size_t choice = random_() % 8;
+    return choice < std::size(others) ? others[choice] : same;
+  }
+
+  std::string Tag(std::string_view tag) {
+    const bool is_empty = tag.ends_with("/>");
+    std::string_view rest = tag.substr(0, tag.size() - (is_empty ? 2 : 1));
+    std::string result(Take(rest, std::min(rest.find(' '), rest.size())));
+    const std::string name = result.substr(1);
+    std::vector<std::string> attributes;
+    while (!rest.empty()) {
+      const std::string_view attribute = Take(rest, rest.find('=') + 2).substr(1);
+      attributes.push_back(
+          Attribute(attribute.substr(0, attribute.size() - 2), Take(rest, rest.find('"'))));
+      Take(rest, 1);
+    }
+    if (respells_ && Perhaps()) std::ranges::shuffle(attributes, random_);
+    for (const std::string& attribute : attributes) {
+      result += (Perhaps() ? "\n  " : " ") + attribute;
+    }
+    if (Perhaps()) result += Perhaps() ? "\n" : " ";
+    if (!is_empty) return result + ">";
+    return respells_ && Perhaps() ? result + "></" + name + ">" : result + "/>";
+  }
+
+  std::string Attribute(std::string_view name, std::string_view value) {
+    const std::string text = respells_ ? Text(value, false) : std::string(value);
+    const bool is_single =
+        Perhaps() && text.find_first_of(respells_ ? "'" : "'&") == std::string::npos;
+    const char quote = is_single ? '\'' : '"';
+    return std::string(name) + (Perhaps() ? " = " : "=") + quote + text + quote;
+  }
+
+  /// Some characters as references, or a text as a section.
+  std::string Text(std::string_view text, bool may_be_section = true) {
+    const bool is_plain = std::ranges::all_of(
+        text, [](char c) { return c != '&' && static_cast<unsigned char>(c) < 0x80; });
+    if (may_be_section && is_plain && Perhaps()) {
+      return "<![CDATA[" + std::string(text) + "]]>";
+    }
+    std::string result;
+    bool is_reference = false;
+    for (const char c : text) {
+      is_reference = c == '&' || (is_reference && c != ';');
+      const bool may_be_one = !is_reference && c > ' ' && c != ';';
+      const std::string number = std::to_string(static_cast<int>(c));
+      result += may_be_one && Perhaps() ? "&#" + number + ";" : std::string(1, c);
+    }
+    return result;
+  }
+
+  const bool respells_;
+  std::mt19937 random_;
+};
+
+}  // namespace tolva::test
