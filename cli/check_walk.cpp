@@ -176,7 +176,10 @@ class Walk final : public InputObserver {
 
   XmlNodeType Take(ReadResult result) {
     is_known_tag_ = false;
-    if (result == ReadResult::kNode) return parser_.type();
+    if (result == ReadResult::kNode) {
+      if (WantsLosses()) TellLostNode();
+      return parser_.type();
+    }
     const bool is_first = !std::exchange(has_ended_, true);
     if (result == ReadResult::kFault && is_first) TellFault();
     return XmlNodeType_None;
@@ -198,6 +201,23 @@ class Walk final : public InputObserver {
     const bool is_at_end = is_at_limit && input.end() == Input::End::kEndOfStream;
     Add(words.code, is_at_end ? positions_.OfLastCharacter() : positions_.At(parser_.fault_at()),
         std::move(words.message));
+  }
+
+  void TellLostNode() {
+    switch (parser_.type()) {
+      case XmlNodeType_Comment:
+        return Lose(PositionOfNode(), "this comment");
+      case XmlNodeType_ProcessingInstruction:
+        return Lose(PositionOfNode(), "this processing instruction");
+      default:
+        return;
+    }
+  }
+
+  bool WantsLosses() const { return options_.losses != nullptr; }
+
+  void Lose(const Position& position, std::string what) const {
+    options_.losses->AddLoss(position, std::move(what));
   }
 
   /// Whether the fault is a document type declaration for another root.
@@ -256,13 +276,17 @@ class Walk final : public InputObserver {
   void ReadElement(const Element& element, bool is_repeated, std::uint64_t number) {
     const bool is_empty = parser_.is_empty_element();
     frames_.push_back({&element, parser_.name().text.data() - 1, {}, is_repeated, number});
+    if (WantsLosses() && parser_.name().prefix != 0) {
+      const std::string_view name = parser_.name().text;
+      Lose(positions_.At(name.data()), "the prefix of " + Quoted(name));
+    }
     ReadAttributes(element);
     if (!element.text.has_value()) {
       ReadChildren(element, is_empty);
     } else if (!is_empty) {
       ReadText(element);
-    } else if (element.is_text_required) {
-      TellMissingText(element);
+    } else {
+      TellNoText(element);
     }
     frames_.pop_back();
   }
@@ -398,6 +422,9 @@ class Walk final : public InputObserver {
   void TellUnknownAttribute(const Element& element, const QName& name) {
     const std::string_view prefix = name.PrefixText();
     const bool is_about_xml = name.text == "xmlns" || prefix == "xmlns" || prefix == "xsi";
+    if (is_about_xml && WantsLosses()) {
+      Lose(positions_.At(name.text.data()), "the attribute " + Quoted(name.text));
+    }
     if (is_about_xml || !Wants(Code::kUnknownAttribute)) return;
     std::string message =
         "attribute " + Quoted(name.text) + " of '" + element.name + "' is not known and ignored";
@@ -487,6 +514,15 @@ class Walk final : public InputObserver {
 
   // ---- texts -----------------------------------------------------------------------------------
 
+  /// The element is empty, or does not begin with a text.
+  void TellNoText(const Element& element) {
+    if (element.is_text_required) {
+      TellMissingText(element);
+    } else if (WantsLosses() && element.IsLostWithoutText()) {
+      Lose(PositionOf(frames_.back()), "the empty element '" + element.name + "'");
+    }
+  }
+
   void TellMissingText(const Element& element) {
     if (!Wants(Code::kMissingContent)) return;
     Add(Code::kMissingContent, PositionOf(frames_.back()), "'" + element.name + "' needs a text");
@@ -511,7 +547,7 @@ class Walk final : public InputObserver {
         ReadValue(element, ValueKind::kLiteral);
         break;
       default:
-        if (element.is_text_required) TellMissingText(element);
+        TellNoText(element);
     }
     if (first != XmlNodeType_EndElement) FinishText(element, first, depth);
   }
@@ -524,8 +560,14 @@ class Walk final : public InputObserver {
       ReadNumber(element, *element.text, {}, at, text);
       return;
     }
-    const bool reads_back = !text.empty() || !element.is_text_required;
-    if (reads_back || !Wants(Code::kNotReadBack)) return;
+    if (!text.empty() || element.text->may_be_empty) return;
+    if (!element.is_text_required) {
+      if (WantsLosses()) {
+        Lose(PositionOf(frames_.back()), "the empty text of '" + element.name + "'");
+      }
+      return;
+    }
+    if (!Wants(Code::kNotReadBack)) return;
     Add(Code::kNotReadBack, PositionOf(frames_.back()),
         "the text of '" + element.name +
             "' is empty: written by the library, the document could not be read again");
@@ -569,6 +611,9 @@ class Walk final : public InputObserver {
       const bool is_blank =
           type == XmlNodeType_Whitespace ||
           (is_text && parser_.value().find_first_not_of(kSpaces) == std::string_view::npos);
+      if (WantsLosses() && has_value && is_text && is_blank && !parser_.value().empty()) {
+        Lose(PositionOfNode(), "this space");
+      }
       if (is_told || type == XmlNodeType_Whitespace) continue;
       if (!broken) broken = PositionOfNode();
       if (!is_text || is_blank) continue;

@@ -9,9 +9,25 @@ namespace tolva::cli {
 
 using namespace platform;  // see platform.h
 
+/// Receives what a document loses when the library reads it and writes it again, beyond the
+/// warnings: comments, processing instructions, namespaces.
+class LossSink {
+ public:
+  LossSink() = default;
+  LossSink(const LossSink&) = delete;
+  LossSink& operator=(const LossSink&) = delete;
+
+  /// `what` is fit for a terminal: "this comment".
+  virtual void AddLoss(const Position& position, std::string what) = 0;
+
+ protected:
+  virtual ~LossSink() = default;
+};
+
 struct WalkOptions {
   const Document* expected = nullptr;  ///< what the document has to be; null: any of the documents
   bool skips_foreign = false;          ///< a document with another root is left alone
+  LossSink* losses = nullptr;          ///< null: they are of no interest
 };
 
 struct WalkOutcome {

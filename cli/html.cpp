@@ -12,12 +12,6 @@
 namespace tolva::cli {
 namespace {
 
-std::string Tag(std::string_view name, std::string_view attributes, std::string_view content) {
-  std::string tag = "<" + std::string(name);
-  if (!attributes.empty()) tag += " " + std::string(attributes);
-  return tag + ">" + std::string(content) + "</" + std::string(name) + ">";
-}
-
 std::string Link(const std::string& anchor, std::string_view content,
                  std::string_view attributes = "") {
   return Tag("a",
@@ -26,19 +20,6 @@ std::string Link(const std::string& anchor, std::string_view content,
 }
 
 std::string Code(std::string_view text) { return Tag("code", "", Escaped(text)); }
-
-/// A name or path that may be broken after a slash, and where a word begins within a name.
-std::string Breakable(std::string_view text) {
-  std::string broken;
-  char last = 'A';
-  for (const char c : text) {
-    const bool is_word = c >= 'A' && c <= 'Z' && last >= 'a' && last <= 'z';
-    if (is_word || last == '/') broken += "<wbr>";
-    broken += Escaped({&c, 1});
-    last = c;
-  }
-  return broken;
-}
 
 std::string BreakableCode(std::string_view text) { return Tag("code", "", Breakable(text)); }
 
@@ -207,17 +188,6 @@ class DocumentPage {
   std::string text_;
 };
 
-constexpr std::string_view kHead =
-    "<!DOCTYPE html>\n"
-    "<html lang=\"en\">\n"
-    "<head>\n"
-    "<meta charset=\"utf-8\">\n"
-    "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src "
-    "'unsafe-inline'; script-src 'unsafe-inline'\">\n"
-    "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
-    "<meta name=\"color-scheme\" content=\"light dark\">\n"
-    "<meta name=\"generator\" content=\"tolva " TOLVA_VERSION "\">\n";
-
 constexpr std::string_view kTop =
     "<a class=\"skip\" href=\"#content\">Skip to the content</a>\n"
     "<header>\n"
@@ -255,15 +225,14 @@ std::string HtmlOf(DocumentList documents) {
         "\n";
     sections += page.Section();
   }
-  return std::string(kHead) + Tag("title", "", Escaped(title)) + "\n<style>\n" +
-         std::string(kPageStyle) + "</style>\n</head>\n<body>\n" + std::string(kTop) +
+  return PageStart(title, kPageStyle) + std::string(kTop) +
          "<div class=\"layout\">\n<nav aria-label=\"Documents\">\n" + navigation +
          "</nav>\n<main id=\"content\" tabindex=\"-1\">\n" + Tag("h1", "", Escaped(title)) +
          "\n<p class=\"lead\">Attributes and children are listed in the order in which they are "
          "written. Children are read in any order. A number that is greater than stated is read as "
          "another one.</p>\n" +
-         Tag("ul", "class=\"index\"", "\n" + index) + "\n" + sections +
-         "</main>\n</div>\n<script>\n" + std::string(kPageScript) + "</script>\n</body>\n</html>\n";
+         Tag("ul", "class=\"index\"", "\n" + index) + "\n" + sections + "</main>\n</div>\n" +
+         PageEnd(kPageScript);
 }
 
 }  // namespace tolva::cli

@@ -8,8 +8,13 @@
 // 64-bit number a string of its digits.
 #pragma once
 
+#include <memory>
 #include <nlohmann/json_fwd.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
 
+#include "cli/fields.h"
 #include "cli/tables.h"
 
 namespace tolva::cli {
@@ -17,9 +22,25 @@ namespace tolva::cli {
 /// The JSON form of a root node, as the library has read it.
 nlohmann::ordered_json ToJson(const Document& document, const node::INode& root);
 
-/// Fills a root node, which loses what it held. A member "$schema" beside the root element is
-/// ignored. Throws Trouble, and says where, if the JSON is not such a document. The node is then
-/// filled in part.
-void FromJson(const Document& document, const nlohmann::ordered_json& json, node::INode& root);
+/// The JSON form of a value that is there, as text (fields.h).
+nlohmann::ordered_json ValueToJson(const Value& value, const std::string& text);
+
+/// The JSON form of an element. Secrets that are hidden are null.
+enum class Secrets : bool { kShown, kHidden };
+nlohmann::ordered_json ElementToJson(const Element& element, const ElementView& view,
+                                     Secrets secrets);
+
+/// A document that has been read from JSON.
+struct FromJsonResult {
+  const Document* document;
+  std::unique_ptr<node::INode> root;
+  std::vector<std::string> losses;  ///< "policy.json:3:5: ...": what the library will not write
+};
+
+/// Reads the JSON form of a document, in UTF-8. `name` is what messages call the text; `expected`
+/// is what it has to be, null for any of the documents. A member "$schema" beside the root element
+/// is ignored. Throws Trouble, with the line and column of the value or member, if the text is no
+/// JSON or no such document. Memory is that of the nodes, whatever the text contains.
+FromJsonResult FromJson(std::string_view text, const std::string& name, const Document* expected);
 
 }  // namespace tolva::cli

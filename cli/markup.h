@@ -31,4 +31,16 @@ inline std::string Escaped(std::string_view text) {
   return escaped;
 }
 
+/// `<name attributes>content</name>`.
+std::string Tag(std::string_view name, std::string_view attributes, std::string_view content);
+
+/// A name or path that may be broken after a slash, and where a word begins within a name.
+std::string Breakable(std::string_view text);
+
+/// The start of a page that needs nothing else, up to and with the start tag of its body.
+std::string PageStart(std::string_view title, std::string_view style);
+
+/// The end of the page.
+std::string PageEnd(std::string_view script);
+
 }  // namespace tolva::cli

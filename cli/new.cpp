@@ -26,6 +26,12 @@ class DocumentWriter {
     return std::move(text_);
   }
 
+  std::string Write(const Child& child) {
+    WriteElement(*child.element, child.name, &child, is_full_);
+    text_.pop_back();  // the line feed
+    return std::move(text_);
+  }
+
  private:
   /// `is_full`: with everything that is optional.
   void WriteElement(const Element& element, const std::string& name, const Child* child,
@@ -151,6 +157,10 @@ struct Options {
 
 std::string NewDocument(const Document& document, NewContent content) {
   return DocumentWriter(content).Write(document);
+}
+
+std::string NewElement(const Child& child) {
+  return DocumentWriter(NewContent::kRequired).Write(child);
 }
 
 void AddNew(CLI::App& tool, Session& session) {

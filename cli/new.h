@@ -16,4 +16,7 @@ enum class NewContent : bool {
 /// text, numbers 0, or what their absence stands for.
 std::string NewDocument(const Document& document, NewContent content);
 
+/// An element of a new document with what is required, in the same form.
+std::string NewElement(const Child& child);
+
 }  // namespace tolva::cli

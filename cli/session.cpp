@@ -149,7 +149,7 @@ void AddDestination(CLI::App& verb, Destination& destination) {
 }
 
 void Deliver(Session& session, const Destination& destination, std::string_view bytes) {
-  if (destination.file.empty() || destination.file == "-") {
+  if (!destination.IsFile()) {
     session.out.Write(bytes);
     return;
   }

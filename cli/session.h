@@ -43,6 +43,11 @@ class Style {
   std::string Faint(std::string_view text) const { return In("2", text); }
   std::string Error(std::string_view text) const { return In("1;31", text); }
 
+  std::string Added(std::string_view text) const { return In("32", text); }
+  std::string Removed(std::string_view text) const { return In("31", text); }
+  std::string Changed(std::string_view text) const { return In("33", text); }
+  std::string Moved(std::string_view text) const { return In("36", text); }
+
  private:
   std::string In(std::string_view code, std::string_view text) const;
 
@@ -72,6 +77,8 @@ void AddCommonOptions(CLI::App& verb, Session& session, Formats formats);
 struct Destination {
   std::string file;  ///< empty or "-": standard output
   bool is_forced = false;
+
+  bool IsFile() const { return !file.empty() && file != "-"; }
 };
 void AddDestination(CLI::App& verb, Destination& destination);
 

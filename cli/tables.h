@@ -1,5 +1,5 @@
 // What the library's tables say of the documents, in UTF-8. Nothing else of the tool looks into the
-// rows of the tables, except to locate fields in nodes (json.cpp).
+// rows of the tables, except to locate fields in nodes (fields.cpp, json.cpp).
 #pragma once
 
 #include <cstdint>
@@ -65,6 +65,11 @@ struct Element {
 
   const Attribute* FindAttribute(std::string_view attribute) const;
   const Child* FindChild(std::string_view child) const;
+
+  /// Whether the library does not write the element if it has no text.
+  bool IsLostWithoutText() const {
+    return schema->content.is_optional && !schema->content.is_always_written;
+  }
 };
 
 struct Document {

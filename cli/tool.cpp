@@ -10,13 +10,20 @@ void AddTool(CLI::App& tool, Session& session) {
   tool.set_version_flag("--version", "", "prints the version.");
   tool.footer(
       "tolva check policy.xml          what is wrong with a policy\n"
+      "tolva diff old.xml new.xml      what differs between two documents\n"
       "tolva explain policy            what the policy holds\n"
       "tolva new policy --full         a policy to start from\n"
+      "tolva fmt --check policy.xml    whether it has the form that the library writes\n"
       "tolva schema html -o tolva.html a page about all documents");
   AddCheck(tool, session);
+  AddDiff(tool, session);
   AddExplain(tool, session);
   AddSchema(tool, session);
   AddNew(tool, session);
+  AddGet(tool, session);
+  AddSet(tool, session);
+  AddFmt(tool, session);
+  AddConvert(tool, session);
   AddCompletion(tool, session);
 }
 

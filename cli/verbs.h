@@ -10,9 +10,14 @@ namespace tolva::cli {
 void AddTool(CLI::App& tool, Session& session);
 
 void AddCheck(CLI::App& tool, Session& session);
+void AddDiff(CLI::App& tool, Session& session);
 void AddExplain(CLI::App& tool, Session& session);
 void AddSchema(CLI::App& tool, Session& session);
 void AddNew(CLI::App& tool, Session& session);
+void AddGet(CLI::App& tool, Session& session);
+void AddSet(CLI::App& tool, Session& session);
+void AddFmt(CLI::App& tool, Session& session);
+void AddConvert(CLI::App& tool, Session& session);
 void AddCompletion(CLI::App& tool, Session& session);
 
 }  // namespace tolva::cli

@@ -7,7 +7,7 @@
 set -eu
 cd "$(dirname "$0")/.."
 
-all=(reader cursor nodes writer differential check)
+all=(reader cursor nodes writer differential check verbs)
 findings=build/fuzz/findings/
 mkdir -p "$findings"
 limits=(-timeout=20 -rss_limit_mb=2048 -malloc_limit_mb=1024 -artifact_prefix="$findings")

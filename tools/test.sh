@@ -163,6 +163,8 @@ part_linux() {
   check 'linux-release: manual page' manual_page "$made/tolva.1"
   check 'linux-release: completion' tests/cli/completion.sh "$made/tolva"
   check 'linux-release: HTML page' tests/cli/page.py "$made/tolva"
+  check 'linux-release: page of differences' tests/cli/diff_page.py "$made/tolva" \
+    examples/documents/policy.xml
   check 'linux-release: schemas' tests/cli/schemas.py "$made/tolva" \
     build/linux-release/tests/tolva_samples examples/documents
   local lib

@@ -7,10 +7,10 @@
 #include <set>
 
 #include "cli/check_walk.h"
+#include "cli/encoded.h"
 #include "cli/new.h"
 #include "cli/run.h"
 #include "cli/text.h"
-#include "platform/utf.h"
 #include "support/nodes.h"
 #include "support/streams.h"
 #include "tables/example.h"
@@ -167,35 +167,6 @@ INSTANTIATE_TEST_SUITE_P(All, CheckedExample,
                          testing::Range<std::size_t>(0, cli::Documents().size()), &NameOf);
 
 // ---- places ------------------------------------------------------------------------------------
-
-std::u32string CodePoints(std::string_view utf8) {
-  std::u32string text;
-  const std::string terminated(utf8);
-  for (const char* at = terminated.c_str(); *at != '\0';) text += TakeCodePoint(at);
-  return text;
-}
-
-std::string Encoded(std::u32string_view text, std::string_view encoding) {
-  std::string bytes;
-  for (const char32_t c : text) {
-    if (encoding == "UTF-8") {
-      std::array<char, 4> room = {};
-      bytes.append(room.data(), EncodeUtf8(c, room.data()));
-    } else if (encoding == "ISO-8859-1") {
-      bytes += static_cast<char>(c);
-    } else {
-      const auto add = [&](char32_t unit) {
-        const char high = static_cast<char>(unit >> 8);
-        const char low = static_cast<char>(unit & 0xFF);
-        bytes += encoding == "UTF-16LE" ? low : high;
-        bytes += encoding == "UTF-16LE" ? high : low;
-      };
-      if (c > 0xFFFF) add(0xD800 + ((c - 0x10000) >> 10));
-      add(c > 0xFFFF ? 0xDC00 + (c & 0x3FF) : c);
-    }
-  }
-  return bytes;
-}
 
 struct Place {
   Code code;

@@ -18,7 +18,7 @@ TEST(Tool, SaysHowItIsUsed) {
   const Outcome help = RunTool({"--help"});
   EXPECT_EQ(help.status, 0);
   EXPECT_EQ(help.err, "");
-  for (const char* const verb : {"check", "explain", "schema", "new", "completion"}) {
+  for (const char* const verb : {"check", "diff", "explain", "schema", "new", "completion"}) {
     EXPECT_NE(help.out.find("\n  " + std::string(verb) + " "), std::string::npos) << verb;
     const Outcome own = RunTool({verb, "--help"});
     EXPECT_EQ(own.status, 0);

@@ -77,7 +77,7 @@ class Samples {
 
   bool IsAccepted(const Json& json) const {
     try {
-      FromJson(document_, json, *document_.make());
+      FromJson(json.dump(), "sample", &document_);
       return true;
     } catch (const Trouble&) {
       return false;

@@ -1,0 +1,85 @@
+// convert: documents from XML to JSON and back.
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <utility>
+
+#include "cli/json.h"
+#include "cli/load.h"
+#include "cli/losses.h"
+#include "cli/places.h"
+#include "cli/session.h"
+#include "cli/text.h"
+#include "cli/verbs.h"
+
+namespace tolva::cli {
+namespace {
+
+struct Options {
+  std::string form;
+  std::string file = "-";
+  std::string stdin_name = "standard input";
+  std::string type;
+  bool drops = false;
+  Destination destination;
+};
+
+std::string JsonOf(std::string bytes, const std::string& name, const Document* expected,
+                   bool drops) {
+  const Losses losses = FindLosses(*StreamOf(bytes).Get(), name, {.expected = expected});
+  if (!drops) RefuseLosses(losses, name);
+  const Loaded loaded = LoadBytes(std::move(bytes), name, losses.document);
+  return JsonText(ToJson(*loaded.document, *loaded.root));
+}
+
+std::string XmlOf(const std::string& text, const std::string& name, const Document* expected,
+                  bool drops) {
+  FromJsonResult read = FromJson(text, name, expected);
+  if (!drops) RefuseLosses({read.document, read.losses.size(), std::move(read.losses)}, name);
+  return StableForm(*read.document, *read.root, name);
+}
+
+int Convert(Session& session, const Options& options) {
+  const Document* const expected = options.type.empty() ? nullptr : &DocumentOf(options.type);
+  const bool is_standard_input = options.file == "-";
+  const Input input = {.name = is_standard_input ? options.stdin_name : options.file,
+                       .is_standard_input = is_standard_input};
+  std::string bytes = ReadBytes(input);
+  Deliver(session, options.destination,
+          options.form == "json" ? JsonOf(std::move(bytes), input.name, expected, options.drops)
+                                 : XmlOf(bytes, input.name, expected, options.drops));
+  return kFine;
+}
+
+}  // namespace
+
+void AddConvert(CLI::App& tool, Session& session) {
+  CLI::App& verb = *tool.add_subcommand(
+      "convert",
+      "Converts a document from XML to JSON, or back.\n\n"
+      "The JSON is that which 'tolva schema json' describes. The XML is what the library writes. "
+      "What the other form cannot hold, such as a comment, is not dropped without --drop: the "
+      "document is refused, with the places.");
+  const auto options = std::make_shared<Options>();
+  verb.add_option("file", options->file, "the document; '-', or none, is standard input.")
+      ->type_name("FILE");
+  verb.add_option("--to", options->form, "the form to convert to.")->type_name("FORM")->required();
+  AllowOnly(verb, "--to", {"json", "xml"});
+  verb.add_option("--type", options->type, "the document that it has to be.")
+      ->type_name("DOCUMENT");
+  verb.add_option("--stdin-name", options->stdin_name, "what messages call standard input.")
+      ->type_name("NAME");
+  AddDropOption(verb, options->drops);
+  AddDestination(verb, options->destination);
+  AddCommonOptions(verb, session, Formats::kTextOnly);
+  verb.footer(
+      "tolva convert --to json policy.xml -o policy.json\n"
+      "tolva convert --to xml policy.json -o policy.xml --force\n"
+      "tolva convert --to json message-catalogue.xml | jq '.EndPointMessage.Message[].Content'");
+  verb.callback([&session, options] {
+    session.action = [&session, options] { return Convert(session, *options); };
+  });
+}
+
+}  // namespace tolva::cli

@@ -1,0 +1,113 @@
+// diff: what differs between two documents.
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <string>
+
+#include "cli/diff_formats.h"
+#include "cli/load.h"
+#include "cli/text.h"
+#include "cli/verbs.h"
+
+namespace tolva::cli {
+namespace {
+
+struct Options {
+  std::string from;
+  std::string to;
+  std::string stdin_name = "standard input";
+  std::string format = "text";
+  bool ignores_order = false;
+  bool shows_secrets = false;
+  Destination destination;
+};
+
+Input InputOf(const std::string& name, const Options& options) {
+  if (name == "-") return {.name = options.stdin_name, .is_standard_input = true};
+  return {.name = name};
+}
+
+/// Keeps what the document holds, and frees all else that was needed to read it.
+std::unique_ptr<const Tree> TreeOf(const Loaded& loaded, Pool& pool) {
+  return std::make_unique<const Tree>(*loaded.document, *loaded.root, pool);
+}
+
+std::unique_ptr<Comparison> CompareFiles(const Input& from, const Input& to, ListOrder order) {
+  std::unique_ptr<Comparison> comparison;
+  {
+    const Loaded loaded = LoadDocument(from);
+    comparison = std::make_unique<Comparison>(*loaded.document, order);
+    comparison->from = TreeOf(loaded, comparison->pool);
+  }
+  const Loaded loaded = LoadDocument(to);
+  if (loaded.document != &comparison->document) {
+    throw Trouble("documents of different kinds cannot be compared: '" + Printable(from.name) +
+                  "' is '" + std::string(comparison->document.name) + "', '" + Printable(to.name) +
+                  "' is '" + std::string(loaded.document->name) + "'");
+  }
+  comparison->to = TreeOf(loaded, comparison->pool);
+  return comparison;
+}
+
+int PrintDifferences(Session& session, const Options& options) {
+  if (options.from == "-" && options.to == "-") {
+    throw Trouble("standard input can only be one of the documents");
+  }
+  const DocumentPair names = {InputOf(options.from, options).name,
+                              InputOf(options.to, options).name};
+  const ListOrder order = options.ignores_order ? ListOrder::kIsIgnored : ListOrder::kCounts;
+  const std::unique_ptr<Comparison> comparison =
+      CompareFiles(InputOf(options.from, options), InputOf(options.to, options), order);
+  Compare(*comparison);
+  const Secrets secrets = options.shows_secrets ? Secrets::kShown : Secrets::kHidden;
+  std::string result;
+  if (options.format == "json") {
+    result = DiffJson(*comparison, names, secrets);
+  } else if (options.format == "html") {
+    result = DiffHtml(*comparison, names, secrets);
+  } else {
+    const Style style =
+        options.destination.IsFile() ? Style(session.color == "always") : session.OutStyle();
+    result = DiffText(*comparison, secrets, style, session.TextWidth());
+  }
+  Deliver(session, options.destination, result);
+  return comparison->AreEqual() ? kFine : kFindings;
+}
+
+}  // namespace
+
+void AddDiff(CLI::App& tool, Session& session) {
+  CLI::App& verb = *tool.add_subcommand(
+      "diff",
+      "Tells what differs between two documents.\n\n"
+      "What counts is what the library reads: order of attributes, layout, comments and encoding "
+      "do "
+      "not. Items of lists are matched by what names them, or else by likeness. The exit status is "
+      "0 if the documents are equal, 1 if they differ, and 2 if one of them cannot be read. "
+      "Secrets "
+      "are not shown.");
+  const auto options = std::make_shared<Options>();
+  verb.add_option("old", options->from, "the old document; '-' is standard input.")
+      ->type_name("OLD")
+      ->required();
+  verb.add_option("new", options->to, "the new document, likewise.")->type_name("NEW")->required();
+  verb.add_flag("--ignore-order", options->ignores_order,
+                "the order of the items of lists does not count.");
+  verb.add_flag("--show-secrets", options->shows_secrets,
+                "shows key material and password hashes, too.");
+  verb.add_option("--stdin-name", options->stdin_name, "what results call standard input.")
+      ->type_name("NAME");
+  verb.add_option("--format", options->format, "the form of the result; html is a page.")
+      ->type_name("FORMAT");
+  AllowOnly(verb, "--format", {"text", "json", "html"});
+  AddDestination(verb, options->destination);
+  AddCommonOptions(verb, session, Formats::kTextOnly);
+  verb.footer(
+      "tolva diff old.xml new.xml\n"
+      "tolva diff --format html -o review.html old.xml new.xml\n"
+      "git show main:policy.xml | tolva diff - policy.xml");
+  verb.callback([&session, options] {
+    session.action = [&session, options] { return PrintDifferences(session, *options); };
+  });
+}
+
+}  // namespace tolva::cli

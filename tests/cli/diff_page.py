@@ -1,0 +1,99 @@
+#!/usr/bin/python3
+"""Opens the page that `tolva diff` makes in a headless Chromium and uses it:
+  diff_page.py <tolva> <example policy> [folder for screenshots]
+"""
+
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+from browser import Browser
+from page import Page
+
+ESCAPE = '\ue00c'
+
+SHOWN = "[...document.querySelectorAll('tr[data-kind]')].filter((row) => row.checkVisibility())"
+
+
+def edited(policy):
+    for old, new in (
+            ('Desc="Wired', 'Desc="Wireless'),
+            ('CloseActionOnAnalysisFailed="1"', 'CloseActionOnAnalysisFailed="0"'),
+            ('<DeviceRule Action="BLOCK" VendorID="090C"/>', ''),
+            ('<Printer Name="Kasa', '<Printer Name="&lt;b&gt;&#x202E;"/><Printer Name="Kasa'),
+            ('AdminPasswordHash="', 'AdminPasswordHash="SECRET'),
+    ):
+        assert old in policy
+        policy = policy.replace(old, new, 1)
+    start = policy.index('<Location Name="Elsewhere"')
+    end = policy.index('</Location>', start) + len('</Location>')
+    moved, policy = policy[start:end], policy[:start] + policy[end:]
+    return policy.replace('<LocationArray>', '<LocationArray>' + moved, 1)
+
+
+def use(browser, page):
+    shown = browser.run(f"return {SHOWN}.map((row) => row.dataset.kind).sort().join()")
+    if shown != 'added,changed,changed,changed,moved,removed':
+        raise AssertionError(shown)
+    page.expect('the counts are at the top',
+                "return [...document.querySelectorAll('.kind')].map((one) => one.textContent).join() ==="
+                " '~3 changed,+1 added,−1 removed,⇅1 moved'")
+    page.expect('what differs within a value is marked',
+                "return document.querySelector('del').textContent === 'Wired' &&"
+                " document.querySelector('ins').textContent === 'Wireless'")
+    page.expect('text is no markup, nor turned around',
+                "return document.querySelector('.added b').textContent === '<b>\\\\xE2\\\\x80\\\\xAE'")
+    page.expect('secrets are not there', "return !document.documentElement.outerHTML.includes('SECRET')")
+    page.expect('what is the same is folded', "return !document.querySelector('.same[open]')")
+    browser.click('.card .same > summary')
+    page.expect('it unfolds', "return document.querySelector('.card .same .content').checkVisibility()")
+
+    browser.click('.kind.changed')
+    page.expect('a kind is hidden', f"return {SHOWN}.length === 3")
+    browser.click('.kind.changed')
+    browser.type('/removablemedia')
+    page.expect('a path is found', f"return {SHOWN}.length === 1 && {SHOWN}[0].dataset.kind === 'removed'")
+    page.expect('sections without differences are gone',
+                "return [...document.querySelectorAll('section')].filter((one) => one.checkVisibility()).length === 1")
+    page.expect('it is told', "return document.getElementById('status').textContent.startsWith('1 of 6')")
+    browser.type('zzz')
+    page.expect('nothing is found', "return document.getElementById('nothing').checkVisibility()")
+    browser.type(ESCAPE)
+    page.expect('the filter is gone', f"return {SHOWN}.length === 6")
+
+    browser.type('nn')
+    page.expect('keys go to the next difference', f"return document.activeElement === {SHOWN}[1]")
+    browser.type('pp')
+    page.expect('and around', f"return document.activeElement === {SHOWN}[5]")
+    browser.click('#next')
+    page.expect('so does a button', f"return document.activeElement === {SHOWN}[0]")
+    page.expect('nothing is loaded', "return performance.getEntriesByType('resource').length === 0")
+
+
+def main():
+    tolva, example, *folder = sys.argv[1:]
+    with tempfile.TemporaryDirectory() as temporary:
+        new = pathlib.Path(temporary) / 'new.xml'
+        new.write_text(edited(pathlib.Path(example).read_text(encoding='utf-8')), encoding='utf-8')
+        file = pathlib.Path(temporary) / 'page.html'
+        made = subprocess.run([tolva, 'diff', '--format', 'html', '-o', file, example, new], check=False)
+        if made.returncode != 1:
+            raise AssertionError(made.returncode)
+        for name, width, dark in (('wide', 1400, False), ('narrow', 500, False), ('dark', 1000, True)):
+            with Browser(width, 1000, dark) as browser:
+                page = Page(browser, file.as_uri())
+                if name == 'wide':
+                    use(browser, page)
+                page.expect('it is no wider than the window',
+                            'return document.documentElement.scrollWidth <= innerWidth')
+                problems = browser.problems()
+                if problems:
+                    raise AssertionError(problems)
+                if folder:
+                    browser.screenshot(pathlib.Path(folder[0]) / f'{name}.png')
+    return 0
+
+
+if __name__ == '__main__':
+    sys.exit(main())

@@ -1,0 +1,510 @@
+#include <gtest/gtest.h>
+
+#include <map>
+#include <nlohmann/json.hpp>
+#include <random>
+#include <regex>
+#include <set>
+
+#include "cli/align.h"
+#include "cli/diff_formats.h"
+#include "cli/places.h"
+#include "cli/run.h"
+#include "cli/text.h"
+#include "support/files.h"
+#include "tables/random_content.h"
+
+namespace tolva::test {
+namespace {
+
+using namespace cli;
+using Json = nlohmann::json;
+
+/// Without the order of lists.
+Json Sorted(Json json) {
+  if (!json.is_structured()) return json;
+  for (Json& one : json) one = Sorted(one);
+  if (json.is_array()) std::sort(json.begin(), json.end());
+  return json;
+}
+
+Json JsonOf(const Document& document, node::INode& root) {
+  return Json::parse(ToJson(document, root).dump());
+}
+
+Json Shuffled(Json json, unsigned seed) {
+  if (!json.is_structured()) return json;
+  for (Json& one : json) one = Shuffled(one, seed);
+  if (json.is_array()) std::shuffle(json.begin(), json.end(), std::mt19937(seed));
+  return json;
+}
+
+/// Changes a document in JSON here and there.
+class Editor {
+ public:
+  explicit Editor(unsigned seed) : random_(seed) {}
+
+  void Edit(const Element& element, Json& json) {
+    if (element.text.has_value()) {
+      if (Happens(8)) json = NewValue(*element.text);
+      return;
+    }
+    for (const Attribute& attribute : element.attributes) {
+      const bool may_go =
+          attribute.occurrence == Occurrence::kOptional && !attribute.when_absent.has_value();
+      if (!Happens(12)) continue;
+      json[attribute.name] = NewValue(attribute.value);
+      if (may_go && Happens(2)) json.erase(attribute.name);
+    }
+    for (const Child& child : element.children) {
+      if (!json.contains(child.name)) continue;
+      Json& value = json[child.name];
+      if (child.occurrence != Occurrence::kRepeated) {
+        Edit(*child.element, value);
+        if (child.occurrence == Occurrence::kOptional && !child.is_always_written && Happens(12)) {
+          json.erase(child.name);
+        }
+        continue;
+      }
+      for (Json& one : value) Edit(*child.element, one);
+      while (!value.empty() && Happens(3)) {
+        Json item = value.at(random_() % value.size());
+        Edit(*child.element, item);
+        value.insert(value.begin() + Below(value.size() + 1), item);
+      }
+      while (!value.empty() && Happens(4)) value.erase(random_() % value.size());
+      if (Happens(4)) std::shuffle(value.begin(), value.end(), random_);
+      if (value.empty()) json.erase(child.name);
+    }
+  }
+
+ private:
+  bool Happens(unsigned one_of) { return random_() % one_of == 0; }
+  std::ptrdiff_t Below(std::size_t limit) { return static_cast<std::ptrdiff_t>(random_() % limit); }
+
+  Json NewValue(const cli::Value& value) {
+    if (value.type == cli::Value::Type::kEnum) return value.texts[random_() % value.texts.size()];
+    if (value.type == cli::Value::Type::kText) return "t" + std::to_string(Below(9));
+    return value.IsLong() ? Json(std::to_string(Below(9))) : Json(Below(9));
+  }
+
+  std::mt19937 random_;
+};
+
+/// What a path names: exactly one thing.
+std::string Find(const Json& root, const std::vector<Step>& path) {
+  Json::json_pointer at;
+  for (const Step& step : path) {
+    at /= step.name;
+    if (step.position != 0) at /= step.position - 1;
+    if (step.attribute.empty()) continue;
+    std::vector<std::size_t> found;
+    const Json& items = root.at(at);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+      const Json value = items[i].value(step.attribute, Json());
+      const std::string text = value.is_string() ? value.get<std::string>() : value.dump();
+      if (text == step.value) found.push_back(i);
+    }
+    EXPECT_EQ(found.size(), 1U) << at << " " << step.value;
+    at /= found.at(0);
+  }
+  return at.to_string();
+}
+
+struct ListEdit {
+  std::set<std::size_t> gone;  ///< from where they were
+  std::map<std::size_t, Json> placed;
+};
+
+Json Edited(const Json& items, const ListEdit& edit) {
+  Json result = Json::array();
+  std::size_t next = 0;
+  const std::size_t size = items.size() + edit.placed.size() - edit.gone.size();
+  while (result.size() < size) {
+    const auto placed = edit.placed.find(result.size() + 1);
+    while (edit.gone.contains(next + 1)) ++next;
+    result.push_back(placed != edit.placed.end() ? placed->second : items.at(next++));
+  }
+  return result;
+}
+
+/// Makes the new document from the old one and the changes.
+Json Applied(Json json, const Json& changes, const Json& to) {
+  using Pointer = Json::json_pointer;
+  const Json from = json;
+  std::map<std::pair<std::ptrdiff_t, std::string>, ListEdit> edits;  // the deepest lists first
+  std::vector<std::pair<ListEdit*, const Json*>> moves;
+  for (const Json& change : changes) {
+    const std::string kind = change["kind"];
+    const std::string path = change["path"];
+    std::vector<Step> steps = ParsePath(path);
+    if (change.contains("new")) {
+      EXPECT_EQ(to.at(Pointer(Find(to, ParsePath(change.value("newPath", path))))), change["new"]);
+    }
+    if (change.contains("old")) {
+      EXPECT_EQ(from.at(Pointer(Find(from, steps))), change["old"]);
+    }
+    if (!change.contains("from") && !change.contains("to")) {
+      const Pointer at(Find(from, steps));
+      if (kind == "removed") {
+        json[at.parent_pointer()].erase(at.back());
+      } else {
+        json[at] = change["new"];
+      }
+      continue;
+    }
+    steps.back().position = 0;
+    steps.back().attribute.clear();
+    const std::string list = Find(from, steps);
+    ListEdit& edit = edits[{-std::ranges::count(list, '/'), list}];
+    if (kind != "added") edit.gone.insert(change["from"].get<std::size_t>());
+    if (kind == "added") edit.placed[change["to"]] = change["new"];
+    if (kind == "moved") moves.emplace_back(&edit, &change);
+  }
+  for (auto& [place, edit] : edits) {
+    const Pointer list(place.second);
+    Json items = json.contains(list) ? json.at(list) : Json::array();
+    for (const auto& [moved, change] : moves) {
+      if (moved != &edit) continue;
+      edit.placed[(*change)["to"]] = items.at((*change)["from"].get<std::size_t>() - 1);
+    }
+    items = Edited(items, edit);
+    if (items.empty()) {
+      json[list.parent_pointer()].erase(list.back());
+    } else {
+      json[list] = items;
+    }
+  }
+  return json;
+}
+
+std::unique_ptr<Comparison> CompareNodes(const Document& document, node::INode& from,
+                                         node::INode& to, ListOrder order) {
+  auto comparison = std::make_unique<Comparison>(document, order);
+  comparison->from = std::make_unique<const Tree>(document, from, comparison->pool);
+  comparison->to = std::make_unique<const Tree>(document, to, comparison->pool);
+  Compare(*comparison);
+  return comparison;
+}
+
+class DiffOf : public testing::TestWithParam<std::string_view> {};
+
+TEST_P(DiffOf, MakesTheNewDocumentFromTheOld) {
+  const Document& document = *FindDocument(GetParam());
+  const std::string& root = document.root().name;
+  int equal = 0;
+  for (unsigned seed = 0; seed < 200; ++seed) {
+    SCOPED_TRACE(seed);
+    const auto from = document.make();
+    RandomContent(seed % 10).Fill(*document.root().schema, *from);
+    const Json old_json = JsonOf(document, *from);
+    Json new_json = old_json;
+    if (seed % 8 != 0) Editor(seed).Edit(document.root(), new_json[root]);
+    if (seed % 8 == 1) new_json = Shuffled(new_json, seed);
+    const auto to = FromJson(new_json.dump(), "new", &document).root;
+    new_json = JsonOf(document, *to);
+    equal += new_json == old_json ? 1 : 0;
+    for (const ListOrder order : {ListOrder::kCounts, ListOrder::kIsIgnored}) {
+      const auto told = [&](const Json& json) {
+        return order == ListOrder::kCounts ? json : Sorted(json);
+      };
+      const auto comparison = CompareNodes(document, *from, *to, order);
+      const bool are_equal = told(old_json) == told(new_json);
+      EXPECT_EQ(comparison->AreEqual(), are_equal);
+      const Json diff = Json::parse(DiffJson(*comparison, {"old", "new"}, Secrets::kShown));
+      EXPECT_EQ(diff["equal"], are_equal);
+      EXPECT_EQ(diff["changes"].empty(), are_equal);
+      const Json result = Applied(old_json[root], diff["changes"], new_json[root]);
+      EXPECT_EQ(told(result), told(new_json[root])) << diff["changes"].dump(1);
+      const std::string text = DiffText(*comparison, Secrets::kShown, Style(false), 80);
+      EXPECT_EQ(text.empty(), are_equal);
+    }
+    if (HasFailure()) break;
+  }
+  EXPECT_GT(equal, 20);
+}
+
+INSTANTIATE_TEST_SUITE_P(AllDocuments, DiffOf, testing::ValuesIn([] {
+                           std::vector<std::string_view> names;
+                           for (const Document& one : Documents()) names.push_back(one.name);
+                           return names;
+                         }()));
+
+/// Lists of messages, named by their IDs.
+class Messages {
+ public:
+  explicit Messages(unsigned seed) : random_(seed) {
+    while (items_.size() < 60) items_.push_back(New(items_.size()));
+  }
+
+  Json ToJson() const { return {{"EndPointMessage", {{"SchemaVersion", 1}, {"Message", items_}}}}; }
+
+  void EditOnce(bool has_unique_names) {
+    const std::size_t at = random_() % items_.size();
+    Json item = items_[at];
+    switch (random_() % 4) {
+      case 0:
+        items_[at]["Description"] = "other " + std::to_string(random_());
+        return;
+      case 1:
+        item = New(has_unique_names ? random_() : random_() % 60);
+        break;
+      default:
+        items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(at));
+        if (random_() % 2 == 0) return;
+    }
+    items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(random_() % items_.size()), item);
+  }
+
+ private:
+  Json New(std::size_t id) {
+    const std::string text = std::to_string(random_() % 4);
+    return {{"ID", id & 0x7FFFFFFF}, {"Content", text}, {"Description", text}};
+  }
+
+  std::mt19937 random_;
+  std::vector<Json> items_;
+};
+
+TEST(Diff, TellsNoMoreThanWasDone) {
+  const Document& document = *FindDocument("message-catalogue");
+  for (unsigned seed = 0; seed < 300; ++seed) {
+    SCOPED_TRACE(seed);
+    Messages messages(seed);
+    const Json from = messages.ToJson();
+    const bool has_unique_names = seed % 2 == 0;
+    const unsigned edits = seed % 50;
+    for (unsigned i = 0; i < edits; ++i) messages.EditOnce(has_unique_names);
+    const Json to = messages.ToJson();
+    const auto old_node = FromJson(from.dump(), "old", &document).root;
+    const auto new_node = FromJson(to.dump(), "new", &document).root;
+    const auto comparison = CompareNodes(document, *old_node, *new_node, ListOrder::kCounts);
+    const Json changes =
+        Json::parse(DiffJson(*comparison, {"old", "new"}, Secrets::kShown))["changes"];
+    const std::string& root = document.root().name;
+    ASSERT_EQ(Applied(from[root], changes, to[root]), to[root]) << changes.dump(1);
+    if (has_unique_names) {
+      ASSERT_LE(changes.size(), edits) << changes.dump(1);
+    }
+  }
+}
+
+// ---- the tool ----------------------------------------------------------------------------------
+
+std::string ExampleOf(const std::string& document) {
+  return TempFile::ReadFile(std::filesystem::path(TOLVA_DOCUMENTS) / (document + ".xml"));
+}
+
+Outcome Diff(const std::string& from, const std::string& to,
+             const std::vector<std::string>& options = {}) {
+  const TempFile old_file(from);
+  const TempFile new_file(to);
+  std::vector<std::string> arguments = {"diff", old_file.path().string(), new_file.path().string()};
+  arguments.insert(arguments.end(), options.begin(), options.end());
+  return RunTool(arguments);
+}
+
+std::string Replaced(std::string text, const std::string& what, const std::string& by) {
+  const std::size_t at = text.find(what);
+  EXPECT_NE(at, std::string::npos) << what;
+  return text.replace(at, what.size(), by);
+}
+
+/// The lines that tell of changes.
+std::string Told(const std::string& from, const std::string& to,
+                 const std::vector<std::string>& options = {}) {
+  const std::string text = Diff(from, to, options).out;
+  return text.substr(0, text.find_last_of('\n', text.size() - 2) + 1);
+}
+
+/// A catalogue with messages "ID:Description", and localised ones.
+std::string Catalogue(const std::vector<std::string>& messages, const std::string& localised = "") {
+  std::string text = "<EndPointMessage SchemaVersion='1'>";
+  for (const std::string& message : messages) {
+    const std::size_t colon = message.find(':');
+    text += "<Message ID='" + message.substr(0, colon) + "'><Content>c</Content><Description>" +
+            message.substr(colon + 1) + "</Description></Message>";
+  }
+  return text + localised + "</EndPointMessage>";
+}
+
+TEST(Diff, TellsOneEditAsOneChange) {
+  const std::string policy = ExampleOf("policy");
+  const std::string media =
+      "LocationArray/Location[Name=\"Office\"]/ILPProtection/ILPRemovableMedia/";
+  const std::string rule = "<DeviceRule Action=\"BLOCK\" VendorID=\"090C\"/>";
+  EXPECT_EQ(Told(policy, Replaced(policy, " Sid=\"11\"", " Sid=\"12\"")),
+            "~ " + media + "Sid: 11 -> 12\n");
+  EXPECT_EQ(Told(policy, Replaced(policy, rule, "")),
+            "- " + media + "DeviceRule[VendorID=\"090C\"]:\n    Action=\"BLOCK\"\n");
+  EXPECT_EQ(Told(Replaced(policy, rule, ""), policy),
+            "+ " + media + "DeviceRule[VendorID=\"090C\"]:\n    Action=\"BLOCK\"\n");
+  EXPECT_EQ(Told(policy, Replaced(policy, " SerialNumber=\"4C530001261215105\"", "")),
+            "- " + media +
+                "DeviceRule[DeviceName=\"Company stick\"]/SerialNumber: "
+                "\"4C530001261215105\"\n");
+
+  const std::string four = Catalogue({"1:a", "2:b", "3:c", "4:d"});
+  EXPECT_EQ(Told(four, Catalogue({"2:b", "3:c", "4:d", "1:a"})),
+            "> Message[ID=\"1\"]: from place 1 to 4\n");
+  EXPECT_EQ(Told(four, Catalogue({"2:b", "3:c", "4:d", "1:a"}), {"--ignore-order"}), "");
+  EXPECT_EQ(Told(four, Catalogue({"1:a", "2:b", "9:c", "4:d"})),
+            "~ Message[ID=\"3\"]/ID: 3 -> 9\n");  // the same, under another name
+  EXPECT_EQ(Told(four, Catalogue({"2:b", "3:c", "4:d", "9:a"})),
+            "- Message[ID=\"1\"]: 2 elements in it\n"
+            "+ Message[ID=\"9\"]: 2 elements in it\n");
+  EXPECT_EQ(Told(four, Catalogue({"4:e", "1:a", "2:b", "3:c"})),
+            "> Message[ID=\"4\"]: from place 4 to 1\n"
+            "~ Message[ID=\"4\"]/Description: \"d\" -> \"e\"\n");
+}
+
+TEST(Diff, MatchesItemsThatShareANameOrHaveNone) {
+  const std::string twice = Catalogue({"1:a", "1:a", "1:b", "1:a", "2:a"});
+  EXPECT_EQ(Told(twice, Catalogue({"1:a", "1:a", "1:x", "1:a", "2:a"})),
+            "~ Message[3]/Description: \"b\" -> \"x\"\n");
+  EXPECT_EQ(Told(twice, Catalogue({"1:n", "1:a", "1:a", "1:b", "1:a", "2:a"})),
+            "+ Message[1]: ID=\"1\", 2 elements in it\n");
+  const auto localised = [](const std::vector<std::string>& catalogues) {
+    std::string text = "<EndpointLocalMsg>";
+    for (const std::string& one : catalogues) text += one;
+    return Catalogue({}, text + "</EndpointLocalMsg>");
+  };
+  const std::string list = "EndpointLocalMsg[1]/EndPointMessage";
+  const std::string a = Catalogue({"1:a", "2:a", "3:a"});
+  const std::string b = Catalogue({"4:b"});
+  const std::string c = Catalogue({"5:c", "6:c"});
+  EXPECT_EQ(Told(localised({a, b, c}), localised({a, Catalogue({"7:n"}), c})),
+            "- " + list + "[2]/Message[ID=\"4\"]: 2 elements in it\n" +  //
+                "+ " + list + "[2]/Message[ID=\"7\"]: 2 elements in it\n");
+  EXPECT_EQ(Told(localised({a, b, c}), localised({b, c, Catalogue({"1:a", "2:x", "3:a"})})),
+            "> " + list + "[1]: from place 1 to 3\n~ " + list +
+                "[1]/Message[ID=\"2\"]/Description: \"a\" -> \"x\"\n");
+}
+
+/// The document with its attributes in reverse order and in lines of their own, in UTF-16.
+std::string InOtherForm(const std::string& document) {
+  static const std::regex tag(R"(<(\w+)((?: [\w:]+="[^"]*")+)(/?)>)");
+  static const std::regex attribute(R"( [\w:]+="[^"]*")");
+  std::string text;
+  std::size_t copied = 0;
+  for (std::sregex_iterator one(document.begin(), document.end(), tag), end; one != end; ++one) {
+    text += document.substr(copied, static_cast<std::size_t>(one->position()) - copied);
+    copied = static_cast<std::size_t>(one->position() + one->length());
+    const std::string attributes = (*one)[2];
+    std::string reversed;
+    for (std::sregex_iterator each(attributes.begin(), attributes.end(), attribute);
+         each != std::sregex_iterator(); ++each) {
+      reversed = "\r\n" + each->str() + reversed;
+    }
+    text += "<!-- -->\t<" + (*one)[1].str() + reversed + (*one)[3].str() + ">";
+  }
+  text += document.substr(copied);
+  text.erase(0, text.find("?>") + 2);
+  std::string wide = "\xFF\xFE";
+  for (const wchar_t c : ToWide(text)) {
+    wide += {static_cast<char>(c & 0xFF), static_cast<char>(c >> 8)};
+  }
+  return wide;
+}
+
+TEST(Diff, DoesNotSeeLayoutOrEncoding) {
+  for (const Document& document : Documents()) {
+    const std::string text = ExampleOf(std::string(document.name));
+    const Outcome outcome = Diff(text, InOtherForm(text));
+    EXPECT_EQ(outcome.status, 0) << document.name;
+    EXPECT_EQ(outcome.out + outcome.err, "") << document.name;
+  }
+}
+
+TEST(Diff, KeepsSecrets) {
+  const auto with_key = [](const std::string& key, const std::string& old_keys) {
+    const std::string policy = ExampleOf("policy");
+    const std::size_t start = policy.find("<Encryption>");
+    const std::size_t end = policy.find("</Encryption>");
+    return policy.substr(0, start) + "<Encryption><PrimaryKey KeyID=\"1\" Key=\"" + key +
+           "\" FileHeader=\"SECRET-0\"/>" + old_keys + policy.substr(end);
+  };
+  const std::string from = with_key("SECRET-1", "<OldKey KeyID='1' Key='SECRET-2'/>");
+  const std::string to =
+      with_key("SECRET-3", "<OldKey KeyID='2' Key='SECRET-4'/><OldKey KeyID='3' Key='SECRET-5'/>");
+  for (const char* const format : {"text", "json", "html"}) {
+    const Outcome hidden = Diff(from, to, {"--format", format});
+    EXPECT_EQ(hidden.status, 1);
+    EXPECT_EQ(hidden.out.find("SECRET"), std::string::npos) << hidden.out;
+    const std::string shown = Diff(from, to, {"--format", format, "--show-secrets"}).out;
+    for (const char* const secret : {"1", "2", "3", "4", "5"}) {
+      EXPECT_NE(shown.find(secret), std::string::npos) << format;
+    }
+  }
+  EXPECT_NE(Told(from, to).find("~ Encryption/PrimaryKey/Key: (a secret, changed)\n"),
+            std::string::npos);
+}
+
+TEST(Diff, ShowsLongValuesAroundTheDifference) {
+  const std::string left(300, 'l');
+  const std::string right(300, 'r');
+  const std::string told = Told(Catalogue({"1:" + left + "old\xC3\xA4" + right}),
+                                Catalogue({"1:" + left + "old\xC3\xB6&#x202E;" + right}));
+  EXPECT_EQ(told,
+            "~ Message[ID=\"1\"]/Description:\n"
+            "    - \"…lllllllllllllold\xC3\xA4rrrrrrrrrrrrrrrr…\"\n"
+            "    + \"…lllllllllllllold\xC3\xB6\\xE2\\x80\\xAErrrrrrrrrrrrrrrr…\"\n");
+}
+
+TEST(Diff, SaysWhatCannotBeCompared) {
+  const std::string policy = ExampleOf("policy");
+  const Outcome other = Diff(policy, ExampleOf("ng"));
+  EXPECT_EQ(other.status, 2);
+  EXPECT_NE(other.err.find("documents of different kinds cannot be compared: "), std::string::npos);
+  const Outcome broken = Diff(policy, policy.substr(0, 1000));
+  EXPECT_EQ(broken.status, 2);
+  EXPECT_EQ(broken.out, "");
+  EXPECT_NE(broken.err.find("breaks off"), std::string::npos) << broken.err;
+  EXPECT_EQ(RunTool({"diff", "-", "-"}).err,
+            "tolva: standard input can only be one of the documents\n");
+}
+
+// ---- sequences ---------------------------------------------------------------------------------
+
+std::vector<std::uint32_t> RandomSequence(std::mt19937& random, std::size_t size, unsigned kinds) {
+  std::vector<std::uint32_t> sequence(size);
+  for (std::uint32_t& one : sequence) one = static_cast<std::uint32_t>(random() % kinds);
+  return sequence;
+}
+
+std::size_t LengthOfLongestCommon(const std::vector<std::uint32_t>& left,
+                                  const std::vector<std::uint32_t>& right) {
+  std::vector<std::size_t> row(right.size() + 1);
+  for (const std::uint32_t one : left) {
+    std::size_t diagonal = 0;
+    for (std::size_t i = 0; i < right.size(); ++i) {
+      const std::size_t next = one == right[i] ? diagonal + 1 : std::max(row[i], row[i + 1]);
+      diagonal = row[i + 1];
+      row[i + 1] = next;
+    }
+  }
+  return row.back();
+}
+
+TEST(Align, FindsALongestCommonSubsequence) {
+  std::mt19937 random(7);
+  for (unsigned i = 0; i < 3000; ++i) {
+    // Long ones with many differences need more than one search.
+    const std::size_t size = i % 100 == 0 ? 2000 : 20;
+    const unsigned kinds = 1 + i % 7 * (size == 20 ? 1U : 300U);
+    const auto left = RandomSequence(random, random() % size, kinds);
+    const auto right = RandomSequence(random, random() % size, kinds);
+    const auto pairs = Align(left, right);
+    for (std::size_t k = 0; k < pairs.size(); ++k) {
+      ASSERT_EQ(left.at(pairs[k].first), right.at(pairs[k].second));
+      if (k == 0) continue;
+      ASSERT_LT(pairs[k - 1].first, pairs[k].first);
+      ASSERT_LT(pairs[k - 1].second, pairs[k].second);
+    }
+    const std::size_t longest = LengthOfLongestCommon(left, right);
+    ASSERT_GE(pairs.size(), size == 20 ? longest : longest / 2) << size;
+  }
+}
+
+}  // namespace
+}  // namespace tolva::test

@@ -1,0 +1,361 @@
+// The verb `fmt`: its form is the library's, whatever the layout and the encoding, and nothing is
+// lost.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <random>
+
+#include "cli/byte_form.h"
+#include "cli/json.h"
+#include "cli/line_diff.h"
+#include "cli/load.h"
+#include "cli/run.h"
+#include "cli/text.h"
+#include "support/files.h"
+#include "tables/random_content.h"
+
+namespace tolva::test {
+namespace {
+
+using namespace cli;
+
+/// Changes how a document is written, but not what the library reads.
+class Layout {
+ public:
+  explicit Layout(unsigned seed) : random_(seed) {}
+
+  /// `text` is in the form that the library writes.
+  std::string Change(std::string_view text) {
+    std::string result;
+    const std::size_t declaration = text.find('\n') + 1;
+    result += text.substr(0, declaration);
+    text.remove_prefix(declaration);
+    while (!text.empty()) {
+      if (text[0] == '<') {
+        const std::size_t end = text.find('>') + 1;
+        result += Tag(text.substr(0, end));
+        text.remove_prefix(end);
+      } else {
+        const std::size_t end = std::min(text.find('<'), text.size());
+        const std::string_view between = text.substr(0, end);
+        const bool is_layout = between.find_first_not_of(" \n") == std::string_view::npos;
+        result += is_layout ? Space() : Text(between);
+        text.remove_prefix(end);
+      }
+    }
+    return result;
+  }
+
+ private:
+  bool Perhaps() { return random_() % 4 == 0; }
+
+  std::string Space() {
+    static const std::string kSpaces[] = {"", " ", "\n", "\n\n", "\t", "\n    ", " \n"};
+    return kSpaces[random_() % std::size(kSpaces)];
+  }
+
+  std::string Tag(std::string_view tag) {
+    const bool is_empty = tag.ends_with("/>");
+    const std::string_view inside = tag.substr(1, tag.size() - (is_empty ? 3 : 2));
+    const std::size_t name_end = std::min(inside.find(' '), inside.size());
+    const std::string name(inside.substr(0, name_end));
+    std::vector<std::string> attributes;
+    for (std::size_t at = name_end; at < inside.size();) {
+      const std::size_t equals = inside.find('=', at);
+      const std::size_t end = inside.find('"', equals + 2);
+      attributes.push_back(Attribute(inside.substr(at + 1, equals - at - 1),
+                                     inside.substr(equals + 2, end - equals - 2)));
+      at = end + 1;
+    }
+    if (Perhaps()) std::ranges::shuffle(attributes, random_);
+    std::string result = "<" + name;
+    for (const std::string& attribute : attributes) {
+      result += (Perhaps() ? "\n  " : " ") + attribute;
+    }
+    if (Perhaps()) result += Space();
+    if (!is_empty) return result + ">";
+    return Perhaps() ? result + "></" + name + ">" : result + "/>";
+  }
+
+  std::string Attribute(std::string_view name, std::string_view value) {
+    std::string text = Text(value, false);
+    const bool is_single = Perhaps() && text.find('\'') == std::string::npos;
+    const char quote = is_single ? '\'' : '"';
+    return std::string(name) + (Perhaps() ? " = " : "=") + quote + text + quote;
+  }
+
+  /// Some characters as references, or a text as a section.
+  std::string Text(std::string_view text, bool may_be_section = true) {
+    const bool is_plain = std::ranges::all_of(
+        text, [](char c) { return c != '&' && static_cast<unsigned char>(c) < 0x80; });
+    if (may_be_section && is_plain && Perhaps()) {
+      return "<![CDATA[" + std::string(text) + "]]>";
+    }
+    std::string result;
+    bool is_reference = false;
+    for (const char c : text) {
+      is_reference = c == '&' || (is_reference && c != ';');
+      const bool may_be_one = !is_reference && c > ' ' && c != ';';
+      const std::string number = std::to_string(static_cast<int>(c));
+      result += may_be_one && Perhaps() ? "&#" + number + ";" : std::string(1, c);
+    }
+    return result;
+  }
+
+  std::mt19937 random_;
+};
+
+Outcome Fmt(std::vector<std::string> options, const TempFile& file) {
+  options.insert(options.begin(), "fmt");
+  options.push_back(cli::NameOf(file.path()));
+  return RunTool(options);
+}
+
+TEST(Fmt, GivesOneFormWhateverTheLayout) {
+  const auto encoding = [](const char* start) { return own_xml::DetectEncoding({start, 2}); };
+  const ByteForm forms[] = {
+      {},
+      {.has_mark = true, .line_end = "\r\n"},
+      {.encoding = encoding("\xFF\xFE"), .line_end = "\r"},
+      {.encoding = encoding("\xFE\xFF"), .has_mark = true},
+      {.encoding = &own_xml::DeclaredEncoding("encoding='ISO-8859-1'"), .line_end = "\r\n"},
+      {.encoding = &own_xml::DeclaredEncoding("encoding='US-ASCII'")},
+  };
+  for (const Document& document : Documents()) {
+    for (unsigned seed = 0; seed < 12; ++seed) {
+      const ByteForm& form = forms[seed % std::size(forms)];
+      SCOPED_TRACE(std::string(document.name) + " " + std::to_string(seed));
+      const auto node = document.make();
+      RandomContent(seed).Fill(*document.root().schema, *node);
+      const std::string written = WrittenForm(document, *node);
+      const std::string expected = FormEncoder(form).Encode(written);
+      const TempFile own(expected);
+      ASSERT_EQ(Fmt({}, own).out, expected);
+      ASSERT_EQ(Fmt({"--check"}, own).status, 0);
+      ASSERT_EQ(Fmt({"--diff"}, own).out, "");
+
+      const std::string changed = FormEncoder(form).Encode(Layout(seed).Change(written));
+      const Loaded loaded = LoadBytes(changed, "x");
+      EXPECT_EQ(ToJson(document, *loaded.root), ToJson(document, *node));
+      const TempFile file(changed);
+      ASSERT_EQ(Fmt({}, file).out, expected) << changed;
+      const bool differs = changed != expected;
+      EXPECT_EQ(Fmt({"--check"}, file).status, differs ? 1 : 0);
+      EXPECT_EQ(Fmt({"--diff"}, file).status, differs ? 1 : 0);
+      EXPECT_EQ(Fmt({"-i"}, file).status, 0);
+      EXPECT_EQ(file.Read(), expected);
+    }
+  }
+}
+
+/// `--check` compares as a stream, and `fmt` writes: they agree on every small change.
+TEST(Fmt, ChecksWhatItWrites) {
+  std::mt19937 random(1);
+  unsigned same = 0;
+  for (const Document& document : Documents()) {
+    const auto node = document.make();
+    RandomContent(3).Fill(*document.root().schema, *node);
+    const std::string written = WrittenForm(document, *node);
+    for (int i = 0; i < 300; ++i) {
+      std::string text = written;
+      const std::size_t at = random() % text.size();
+      const std::size_t from = random() % text.size();
+      text.replace(at, random() % 3, text, from, random() % (i % 2 == 0 ? 3 : 60));
+      const TempFile file(text);
+      const Outcome formatted = Fmt({"--drop"}, file);
+      const Outcome checked = Fmt({"--check", "--drop"}, file);
+      ASSERT_EQ(checked.status, formatted.status == 2 ? 2 : formatted.out == text ? 0 : 1) << text;
+      EXPECT_EQ(checked.err, formatted.err);
+      if (formatted.status != 0) continue;
+      ++same;
+      ASSERT_EQ(Fmt({}, TempFile(formatted.out)).out, formatted.out) << text;
+    }
+  }
+  EXPECT_GT(same, 300U);
+}
+
+const std::string kDomain = "<DefaultDomain Name='x' Enabled='1'/>";
+
+TEST(Fmt, RefusesToLoseAnything) {
+  const auto root = [](const std::string& inside, const std::string& attributes = "") {
+    return "<ActiveDirectory" + attributes + ">\n" + inside + "</ActiveDirectory>";
+  };
+  const auto message = [](const std::string& inside) {
+    return "<EndPointMessage SchemaVersion='1'><Message ID='1'>\n" + inside +
+           "</Message></EndPointMessage>";
+  };
+  const auto violation = [](const std::string& inside) {
+    return "<analysisDetails transactionID='x' version=''><violations maxMatches='1'><violation>\n"
+           "<name>n</name>" +
+           inside +
+           "<numOfMatches>1</numOfMatches><detectedValues/></violation></violations>"
+           "<additionalData><destinations/><extractedContents/></additionalData>"
+           "</analysisDetails>";
+  };
+  const std::pair<std::string, const char*> losses[] = {
+      {"|<!-- é -->\n" + root(kDomain), "this comment would be lost"},
+      {root("é" + kDomain).insert(18, "|"), "text in 'ActiveDirectory' is ignored"},
+      {root(kDomain + "|<!-- é -->"), "this comment would be lost"},
+      {root(kDomain) + "\n<!---->", "this comment would be lost"},
+      {root(kDomain + "\n |<?p é?>"), "this processing instruction would be lost"},
+      {root(kDomain, " |xmlns='é'"), "the attribute 'xmlns' would be lost"},
+      {root(kDomain, " |xmlns:xsi='x' xsi:y='z'"), "the attribute 'xmlns:xsi' would be lost"},
+      {root(kDomain, " |xml:lang='é'"), "attribute 'xml:lang' of 'ActiveDirectory'"},
+      {root("<|xml:DefaultDomain Name='x' Enabled='1'/>"), "the prefix of 'xml:DefaultDomain'"},
+      {root("<DefaultDomain Name='é' |name='' Enabled='1'/>"), "did you mean 'Name'?"},
+      {root(kDomain + "|<Unknown><a/></Unknown>"), "element 'Unknown' of 'ActiveDirectory'"},
+      {root(kDomain + "\n|" + kDomain), "has another 'DefaultDomain'"},
+      {root("<DefaultDomain Name='é' Enabled='|4294967297'/>"), "is read as 2147483647"},
+      {message("<Content>é|<!-- x -->y</Content><Description>d</Description>"),
+       "is read only up to here"},
+      {message("<Content>é|<![CDATA[ ]]></Content><Description>d</Description>"), "this space"},
+      {message("|<Content><![CDATA[]]></Content><Description>d</Description>"),
+       "the empty text of"},
+      {violation("|<policyID/>"), "the empty element 'policyID' would be lost"},
+      {violation("|<policyID><![CDATA[]]></policyID>"), "the empty text of"},
+      {violation("<severity>é|<b/></severity>"), "element 'b'"},
+  };
+  for (const auto& [marked, what] : losses) {
+    std::string text = marked;
+    std::size_t mark = text.find('|');
+    if (mark == std::string::npos) mark = text.rfind("<!");
+    if (text[mark] == '|') text.erase(mark, 1);
+    const std::string before = text.substr(0, mark);
+    const std::string line = before.substr(before.rfind('\n') + 1);
+    const TempFile file(text);
+    const std::string place = cli::NameOf(file.path()) + ":" +
+                              std::to_string(std::ranges::count(before, '\n') + 1) + ":" +
+                              std::to_string(Columns(line) + 1) + ": ";
+    SCOPED_TRACE(marked);
+    for (const char* const verb : {"fmt", "convert"}) {
+      std::vector<std::string> arguments = {verb, cli::NameOf(file.path())};
+      if (arguments[0] == "convert") arguments.insert(arguments.end(), {"--to", "json"});
+      const Outcome refused = RunTool(arguments);
+      EXPECT_EQ(refused.status, 2);
+      EXPECT_EQ(refused.out, "");
+      const std::size_t at = refused.err.find(place);
+      ASSERT_NE(at, std::string::npos) << refused.err << place;
+      EXPECT_NE(refused.err.find(what, at), std::string::npos) << refused.err;
+    }
+    EXPECT_EQ(Fmt({"--check"}, file).status, 2);
+    EXPECT_EQ(Fmt({"--check", "--drop"}, file).status, 1);
+    EXPECT_EQ(Fmt({"-i"}, file).status, 2);
+    EXPECT_EQ(file.Read(), text);
+    EXPECT_EQ(Fmt({"-i", "--drop"}, file).status, 0);
+    EXPECT_EQ(Fmt({"--check"}, file).status, 0);
+  }
+}
+
+TEST(Fmt, KnowsSeveralFilesAndWhatCannotBe) {
+  const TempFile folder;
+  std::filesystem::create_directories(folder.path());
+  const auto name = [&](const char* file) { return cli::NameOf(folder.path() / file); };
+  const std::string good = RunTool({"new", "ci"}).out;
+  std::ofstream(folder.path() / "a.xml", std::ios::binary) << good;
+  std::ofstream(folder.path() / "b.xml", std::ios::binary) << good << "\n";
+  std::ofstream(folder.path() / "c.xml", std::ios::binary) << "<html><!-- x --></html>";
+  const Outcome checked = RunTool({"fmt", "--check", "-r", cli::NameOf(folder.path())});
+  EXPECT_EQ(checked.out, name("b.xml") + "\n");
+  EXPECT_EQ(checked.status, 1);
+  const Outcome worst = RunTool({"fmt", "-i", name("c.xml"), name("b.xml"), name("none.xml")});
+  EXPECT_EQ(worst.status, 2);
+  EXPECT_EQ(std::ranges::count(worst.err, '\n'), 2);
+  EXPECT_EQ(TempFile::ReadFile(folder.path() / "b.xml"), good);
+  EXPECT_EQ(RunTool({"fmt", name("a.xml"), name("b.xml")}).status, 2);
+  EXPECT_EQ(RunTool({"fmt", "-i", "--check", name("a.xml")}).status, 2);
+  EXPECT_EQ(RunTool({"fmt", "--type", "ng", name("a.xml")}).status, 2);
+  // What FindLosses does not accept: a text that would not be read back, even with --drop.
+  const TempFile empty(
+      "<EndPointMessage SchemaVersion='1'><Message ID='1'><Content/>"
+      "<Description><![CDATA[]]></Description></Message></EndPointMessage>");
+  EXPECT_EQ(Fmt({"--drop"}, empty).status, 2);
+  EXPECT_EQ(Fmt({"--drop", "--check"}, empty).status, 2);
+}
+
+TEST(Fmt, ShowsNoSecretsInADiff) {
+  const TempFile file(RunTool({"new", "policy", "--full"}).out + "\n");
+  std::string text = file.Read();
+  text.replace(text.find(" Key=\"Key\""), 10, "  Key='hush&#33;'");
+  file.Write(text);
+  const Outcome masked = Fmt({"--diff", "--drop"}, file);
+  EXPECT_EQ(masked.status, 1);
+  EXPECT_NE(masked.out.find("Key='***'"), std::string::npos);
+  EXPECT_EQ(masked.out.find("hush"), std::string::npos);
+  EXPECT_NE(Fmt({"--diff", "--drop", "--show-secrets"}, file).out.find("hush!"), std::string::npos);
+}
+
+/// Does what a unified diff says.
+std::string Patched(const std::string& before, std::string_view diff) {
+  std::vector<std::string> lines;
+  for (std::size_t at = 0; at < before.size();) {
+    const std::size_t end = std::min(before.find('\n', at), before.size() - 1) + 1;
+    lines.push_back(before.substr(at, end - at));
+    at = end;
+  }
+  std::string after;
+  std::size_t done = 0;
+  while (!diff.empty()) {
+    std::string line(diff.substr(0, diff.find('\n') + 1));
+    diff.remove_prefix(line.size());
+    if (line.starts_with("---") || line.starts_with("+++")) continue;
+    if (diff.starts_with("\\ ")) {
+      line.pop_back();
+      diff.remove_prefix(diff.find('\n') + 1);
+    }
+    if (line.starts_with("@@ -")) {
+      const std::size_t from = std::stoul(line.substr(4));
+      const bool is_empty = line.substr(line.find(','), 3) == ",0 ";
+      while (done < from - (is_empty ? 0 : 1)) after += lines[done++];
+      continue;
+    }
+    if (line[0] != '+') {
+      EXPECT_EQ(lines.at(done++), line.substr(1));
+    }
+    if (line[0] != '-') after += line.substr(1);
+  }
+  while (done < lines.size()) after += lines[done++];
+  return after;
+}
+
+TEST(LineDiff, LeadsFromOneTextToTheOtherInFewSteps) {
+  std::mt19937 random(1);
+  for (int i = 0; i < 3000; ++i) {
+    const unsigned kinds = 1 + random() % 8;
+    const auto make = [&] {
+      std::string text;
+      for (auto count = random() % 40; count != 0; --count) {
+        text.append(1, static_cast<char>('a' + random() % kinds)) += '\n';
+      }
+      if (!text.empty() && random() % 4 == 0) text.pop_back();
+      return text;
+    };
+    const std::string before = make();
+    const std::string after = make();
+    const std::string diff = UnifiedDiff(before, after, "a", "b", Style(false));
+    ASSERT_EQ(Patched(before, diff), after) << before << "\n--\n" << after << "\n--\n" << diff;
+    if (before == after || !before.ends_with('\n') || !after.ends_with('\n')) continue;
+    // The longest common part, in the simple way.
+    std::vector<std::size_t> row(after.size() / 2 + 1);
+    for (std::size_t x = 0; x < before.size(); x += 2) {
+      std::size_t corner = 0;
+      for (std::size_t y = 0; y + 1 < row.size(); ++y) {
+        const std::size_t longer =
+            before[x] == after[2 * y] ? corner + 1 : std::max(row[y], row[y + 1]);
+        corner = std::exchange(row[y + 1], longer);
+      }
+    }
+    const auto marks = std::ranges::count(diff, '+') + std::ranges::count(diff, '-');
+    const auto hunks = 2 * (std::ranges::count(diff, '@') / 4);
+    const auto least = (before.size() + after.size()) / 2 - 2 * row.back();
+    ASSERT_EQ(static_cast<std::size_t>(marks - hunks - 6), least) << diff;
+  }
+  std::string much;
+  for (int i = 0; i < 200000; ++i) much += std::to_string(i) + "\n";
+  std::string other = "x\n" + much;
+  for (std::size_t at = 0; (at = other.find("7\n", at)) != std::string::npos;) other[at] = '_';
+  EXPECT_EQ(Patched(much, UnifiedDiff(much, other, "a", "b", Style(false))), other);
+}
+
+}  // namespace
+}  // namespace tolva::test
