@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "cli/check_faults.h"
+#include "cli/fields.h"
 #include "cli/text.h"
-#include "node/numbers.h"
 #include "platform/xml/decode.h"
 #include "platform/xml/parser.h"
 
@@ -489,7 +489,7 @@ class Walk final : public InputObserver {
       return;
     }
     const std::string written(Digits(text.substr(0, count)));
-    const std::string read = NumberAsRead(element, value, text.substr(0, count));
+    const std::string read = *NumberAsRead(element, value, text);
     const bool is_read_as_written = count == text.size() && count != 0 && written == read;
     if (is_read_as_written || !Wants(Code::kNumberRange)) return;
     Add(Code::kNumberRange, positions_.At(at), what + " is read as " + read, attribute);
@@ -500,16 +500,6 @@ class Walk final : public InputObserver {
     const std::size_t start = text.find_first_not_of('0');
     if (start != std::string_view::npos) return text.substr(start);
     return text.empty() ? text : text.substr(0, 1);
-  }
-
-  static std::string NumberAsRead(const Element& element, const Value& value,
-                                  std::string_view digits) {
-    if (value.IsLong()) {
-      std::uint64_t number = 0;
-      node::ParseLongNumber(digits, &number);
-      return std::to_string(number);
-    }
-    return std::to_string(node::ParseLeadingDigits(digits, element.schema->dialect.numbers));
   }
 
   // ---- texts -----------------------------------------------------------------------------------

@@ -1,6 +1,9 @@
 #include "cli/fields.h"
 
+#include <algorithm>
+
 #include "cli/text.h"
+#include "node/numbers.h"
 
 namespace tolva::cli {
 namespace {
@@ -41,6 +44,19 @@ void NodeView::ForEach(const Child& child,
     // Located, not changed.
     visit(NodeView(*child.element, const_cast<node::IElement&>(found.items->Item(i))));
   }
+}
+
+std::optional<std::string> NumberAsRead(const Element& element, const Value& value,
+                                        std::string_view text) {
+  const std::size_t end = std::min(text.find_first_not_of("0123456789"), text.size());
+  if (end != text.size() && !value.takes_leading_digits) return std::nullopt;
+  const std::string_view digits = text.substr(0, end);
+  if (!value.IsLong()) {
+    return std::to_string(node::ParseLeadingDigits(digits, element.schema->dialect.numbers));
+  }
+  std::uint64_t number = 0;
+  node::ParseLongNumber(digits, &number);
+  return std::to_string(number);
 }
 
 }  // namespace tolva::cli

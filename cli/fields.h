@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "cli/tables.h"
 
@@ -44,5 +45,10 @@ class NodeView final : public ElementView {
   const Element& element_;
   node::IElement& node_;
 };
+
+/// The digits of the number that the library reads from the text of a value in that element;
+/// nothing if it refuses the text.
+std::optional<std::string> NumberAsRead(const Element& element, const Value& value,
+                                        std::string_view text);
 
 }  // namespace tolva::cli

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cli/fields.h"
 #include "cli/session.h"
 #include "cli/text.h"
 #include "cli/wording.h"
@@ -72,6 +73,18 @@ std::string NearestItem(const SourceElement& parent, const Target::ElementStep& 
   return "; did you mean '" + Spelled(meant) + "'?";
 }
 
+/// Whether it is the element that a step names: texts have to be the same, numbers equal.
+bool IsNamed(SourceElement& element, const Element& table, const Step& step) {
+  const std::optional<std::string> text = ValueIn(element, table, step.attribute);
+  if (!text.has_value() || *text == step.value) return text.has_value();
+  const Attribute* const attribute = table.FindAttribute(step.attribute);
+  const Element& owner = attribute != nullptr ? table : *table.FindChild(step.attribute)->element;
+  const Value& value = attribute != nullptr ? attribute->value : *owner.text;
+  if (value.type != Value::Type::kNumber) return false;
+  const std::optional<std::string> number = NumberAsRead(owner, value, *text);
+  return number.has_value() && number == NumberAsRead(owner, value, step.value);
+}
+
 /// The document's name in a message.
 std::string Named(const Source& source) { return "'" + Printable(source.name()) + "'"; }
 
@@ -140,11 +153,10 @@ std::vector<Numbered> MatchesOf(const SourceElement& parent, const Target::Eleme
   for (std::size_t number = 1; number <= elements.size(); ++number) {
     SourceElement& element = *elements[number - 1];
     const bool counts = is_repeated || number == elements.size();
-    const bool is_wanted =
-        wanted.position != 0 ? number == wanted.position
-        : !wanted.attribute.empty()
-            ? counts && ValueIn(element, *step.child->element, wanted.attribute) == wanted.value
-            : counts;
+    const bool is_wanted = wanted.position != 0 ? number == wanted.position
+                           : !wanted.attribute.empty()
+                               ? counts && IsNamed(element, *step.child->element, wanted)
+                               : counts;
     if (is_wanted) matches.push_back({&element, number, counts});
   }
   return matches;

@@ -220,7 +220,10 @@ std::string Encoded(std::string_view text, const Encoding& encoding) {
 
 // ---- elements ----------------------------------------------------------------------------------
 
-std::string_view SourceElement::LocalName() const { return name.substr(name.find(':') + 1); }
+std::string_view SourceElement::LocalName() const {
+  const std::size_t colon = name.find(':');
+  return colon == std::string_view::npos ? name : name.substr(colon + 1);
+}
 
 SourceAttribute* SourceElement::FindAttribute(std::string_view attribute) {
   const auto found = std::ranges::find(attributes, attribute, &SourceAttribute::name);

@@ -11,13 +11,17 @@ namespace {
 
 using namespace tolva;
 using namespace tolva::fuzz;
+using Json = nlohmann::ordered_json;
 using test::Outcome;
 
+/// The file is the argument after the verb.
 Outcome Run(const MemoryFile& file, std::vector<std::string> arguments) {
-  arguments.push_back(cli::ToUtf8(file.path()));
+  arguments.insert(arguments.begin() + 1, cli::ToUtf8(file.path()));
   Outcome outcome = test::RunTool(arguments);
   Expect(outcome.status >= 0 && outcome.status <= 2, "an exit status");
-  Expect((outcome.status == 2) == !outcome.err.empty(), "words about trouble, and no others");
+  const bool is_absence = arguments[0] == "get" && outcome.status == 1;
+  Expect((outcome.status == 2 || is_absence) == !outcome.err.empty(),
+         "words about trouble, and no others");
   std::string_view rest = outcome.err;
   while (!rest.empty()) {
     const std::string_view line = rest.substr(0, rest.find('\n'));
@@ -49,6 +53,117 @@ void ExpectStable(const std::string& document) {
   Expect(cli::FormEncoder(form).Encode(back) == document, "that it comes back");
 }
 
+// ---- get, set and diff -------------------------------------------------------------------------
+
+struct Leaf {
+  std::string path;
+  Json::json_pointer pointer;
+  Json value;
+};
+
+/// The values of a document in JSON, and the lists.
+struct Places {
+  void Collect(const Json& json, const std::string& path, const Json::json_pointer& pointer) {
+    if (!json.is_structured()) {
+      if (!json.is_null()) leaves.push_back({path, pointer, json});
+      return;
+    }
+    if (json.is_array()) lists.push_back(path);
+    std::size_t index = 0;
+    for (const auto& [key, value] : json.items()) {
+      const std::string step = json.is_array() ? "[" + std::to_string(index + 1) + "]"
+                               : path.empty()  ? key
+                                               : "/" + key;
+      Collect(value, path + step, json.is_array() ? pointer / index : pointer / key);
+      ++index;
+    }
+  }
+
+  std::vector<Leaf> leaves;
+  std::vector<std::string> lists;
+};
+
+Json JsonOf(std::string_view document) {
+  static const MemoryFile file;
+  file.Write(document);
+  return Json::parse(Result(file, {"convert", "--to", "json", "--drop"}));
+}
+
+/// The exit status of `diff`, which has to see the same in all its formats.
+int Diff(const MemoryFile& file, std::string_view document) {
+  static const MemoryFile other;
+  other.Write(document);
+  const std::string name = cli::ToUtf8(other.path());
+  const Outcome outcome = Run(file, {"diff", name, "--format", "json"});
+  Expect(outcome.status != 2, "that what is read can be compared");
+  const Json told = Json::parse(outcome.out);
+  Expect(told["equal"] == (outcome.status == 0) && told["changes"].empty() == told["equal"],
+         "changes where something differs");
+  Expect(Run(file, {"diff", name}).status == outcome.status, "the same in text");
+  return outcome.status;
+}
+
+/// The document after changes, or nothing if they are refused.
+std::string Set(std::string_view document, std::vector<std::string> changes) {
+  static const MemoryFile file;
+  file.Write(document);
+  changes.insert(changes.begin(), "set");
+  return Result(file, changes);
+}
+
+/// Sets a value to another one and back.
+void TryValue(const MemoryFile& file, std::string_view bytes, const Json& json, const Leaf& leaf) {
+  const bool is_number = leaf.value.is_number();
+  const std::string text = is_number ? leaf.value.dump() : leaf.value.get<std::string>();
+  const Outcome got = Run(file, {"get", leaf.path});
+  const bool is_there = got.status == 0;
+  if (is_there && got.out == text + "\n") {
+    Expect(Set(bytes, {leaf.path + "=" + text}) == bytes, "that what is there can be set");
+  } else {
+    Expect(!is_there || text.find_first_not_of("0123456789") == std::string::npos,
+           "the text that the library reads");
+  }
+  const Json found = Json::parse(Run(file, {"get", leaf.path, "--format", "json"}).out);
+  const Json& matches = found["results"][0]["matches"];
+  Expect(matches.empty() != is_there && (!is_there || matches[0]["value"] == leaf.value),
+         "the value that the library reads");
+
+  const std::string other = is_number ? (text == "1" ? "2" : "1") : text + "<" + text.substr(0, 3);
+  const std::string after = Set(bytes, {leaf.path + "=" + other});
+  if (after.empty()) {
+    Expect(!is_number, "that a number can be set");
+    return;
+  }
+  Json wanted = json;
+  wanted[leaf.pointer] = is_number ? Json::parse(other) : Json(other);
+  Expect(JsonOf(after) == wanted, "that this value changes and no other");
+  Expect(Diff(file, after) == 1, "a difference");
+  // How a value is written may change, but only once.
+  const std::string back = Set(after, {leaf.path + "=" + text});
+  if (back.empty()) return;
+  Expect(Diff(file, back) == 0, "the same document");
+  Expect(Set(back, {leaf.path + "=" + other, leaf.path + "=" + text}) == back, "the same bytes");
+}
+
+/// `bytes`: a document that the library reads.
+void TryChanges(const MemoryFile& file, std::string_view bytes) {
+  Expect(Diff(file, bytes) == 0, "that a document is equal to itself");
+  const Json json = JsonOf(bytes);
+  Places places;
+  places.Collect(json.front(), "", Json::json_pointer("/" + json.items().begin().key()));
+  const std::size_t choice = std::hash<std::string_view>()(bytes);
+  if (!places.leaves.empty()) {
+    TryValue(file, bytes, json, places.leaves[choice % places.leaves.size()]);
+  }
+  if (places.lists.empty()) return;
+  const std::string item = places.lists[choice % places.lists.size()] + "[1]";
+  const std::string added = Set(bytes, {"--add", item});
+  Expect(!added.empty() && Diff(file, added) == 1, "one item more");
+  Expect(Diff(file, Set(added, {"--remove", item})) == 0, "that it can be removed again");
+}
+
+// ---- fmt and convert ---------------------------------------------------------------------------
+
 void TryXml(const MemoryFile& file, std::string_view bytes) {
   const std::string formatted = Result(file, {"fmt"});
   const std::string dropped = Result(file, {"fmt", "--drop"});
@@ -65,12 +180,14 @@ void TryXml(const MemoryFile& file, std::string_view bytes) {
     return;
   }
   ExpectStable(dropped);
+  TryChanges(file, bytes);
   if (formatted.empty()) return;
   Expect(formatted == dropped, "that --drop changes nothing where nothing is lost");
   const std::string json = Result(file, {"convert", "--to", "json"});
   static const MemoryFile again;
   again.Write(formatted);
   Expect(Result(again, {"convert", "--to", "json"}) == json, "that the document means the same");
+  Expect(Diff(file, formatted) == 0, "that diff sees no difference");
 }
 
 void TryJson(const MemoryFile& file, std::string_view bytes) {

@@ -8,6 +8,7 @@
 
 #include "cli/align.h"
 #include "cli/diff_formats.h"
+#include "cli/load.h"
 #include "cli/places.h"
 #include "cli/run.h"
 #include "cli/text.h"
@@ -178,6 +179,122 @@ Json Applied(Json json, const Json& changes, const Json& to) {
   return json;
 }
 
+std::string AsText(const Json& json) {
+  return json.is_string() ? json.get<std::string>() : json.dump();
+}
+
+/// The arguments of `set` that make the new document from the old one and the changes. Values and
+/// elements that are no items come first, under the paths that `diff` tells. What changes paths
+/// follows: values that name items, and then lists, the deepest ones first.
+class Commands {
+ public:
+  Commands(const Document& document, const Json& from, const Json& to, const Json& changes)
+      : document_(document), from_(from), to_(to) {
+    std::vector<const Json*> names;
+    std::map<std::pair<std::ptrdiff_t, std::string>, ListEdit> lists;
+    for (const Json& change : changes) {
+      const std::string path = change["path"];
+      std::vector<Step> steps = ParsePath(path);
+      if (change["kind"] != "moved" && !change.contains("from") && !change.contains("to")) {
+        const Place place = PlaceAt(path);
+        if (place.attribute != nullptr && place.attribute->names_item) {
+          names.push_back(&change);
+        } else {
+          Change(change, path);
+        }
+        continue;
+      }
+      steps.back().position = 0;
+      steps.back().attribute.clear();
+      const std::string list = Find(from_, steps);
+      ListEdit& edit = lists[{-std::ranges::count(list, '/'), list}];
+      if (change.contains("from")) edit.gone.insert(change["from"].get<std::size_t>());
+      if (!change.contains("to")) continue;
+      const std::string at = Find(to_, ParsePath(change.value("newPath", path)));
+      edit.placed[change["to"]] = to_.at(Json::json_pointer(at));
+    }
+    for (const Json* const change : names)
+      Change(*change, PathOf(Find(from_, ParsePath((*change)["path"].get<std::string>()))));
+    for (const auto& [place, edit] : lists) {
+      const std::string list = PathOf(place.second);
+      const auto numbered = [&](std::size_t i) { return list + "[" + std::to_string(i) + "]"; };
+      for (auto i = edit.gone.rbegin(); i != edit.gone.rend(); ++i) Add("--remove", numbered(*i));
+      for (const auto& [number, item] : edit.placed) AddElement(numbered(number), item);
+    }
+  }
+
+  std::vector<std::string> arguments;
+
+ private:
+  /// /Location/0/Name: Location[1]/Name
+  static std::string PathOf(const std::string& pointer) {
+    std::string path;
+    for (std::size_t at = 1; at < pointer.size();) {
+      const std::size_t end = std::min(pointer.find('/', at), pointer.size());
+      const std::string step = pointer.substr(at, end - at);
+      const bool is_number = step[0] >= '0' && step[0] <= '9';
+      path += is_number ? "[" + std::to_string(std::stoul(step) + 1) + "]"
+                        : (path.empty() ? "" : "/") + step;
+      at = end + 1;
+    }
+    return path;
+  }
+
+  Place PlaceAt(const std::string& path) const {
+    return FindPlace(std::string(document_.name) + "/" + path);
+  }
+
+  void Add(const std::string& option, const std::string& path) {
+    arguments.insert(arguments.end(), {option, path});
+  }
+
+  /// Of a value, or an element that is no item.
+  void Change(const Json& change, const std::string& path) {
+    const bool is_element = change["what"] == "element";
+    if (is_element && change["kind"] == "added") {
+      AddElement(path, change["new"]);
+    } else if (change["kind"] == "removed" || change["new"].is_null()) {
+      Add(is_element ? "--remove" : "--unset", path);
+    } else {
+      arguments.push_back(path + "=" + AsText(change["new"]));
+    }
+  }
+
+  void AddElement(const std::string& path, const Json& json) {
+    Add("--add", path);
+    Fill(*PlaceAt(path).element, path, json);
+  }
+
+  void Fill(const Element& element, const std::string& path, const Json& json) {
+    if (element.text.has_value()) {
+      if (json.is_null()) return Add("--unset", path);
+      arguments.push_back(path + "=" + AsText(json));
+    }
+    for (const Attribute& attribute : element.attributes) {
+      if (!json.contains(attribute.name)) continue;
+      arguments.push_back(path + "/" + attribute.name + "=" + AsText(json[attribute.name]));
+    }
+    for (const Child& child : element.children) {
+      if (!json.contains(child.name)) continue;
+      const std::string name = path + "/" + child.name;
+      const Json& value = json[child.name];
+      if (child.occurrence == Occurrence::kRepeated) {
+        for (std::size_t i = 0; i < value.size(); ++i) {
+          AddElement(name + "[" + std::to_string(i + 1) + "]", value[i]);
+        }
+      } else if (child.occurrence == Occurrence::kRequired || child.is_always_written) {
+        Fill(*child.element, name, value);
+      } else {
+        AddElement(name, value);
+      }
+    }
+  }
+
+  const Document& document_;
+  const Json& from_;
+  const Json& to_;
+};
+
 std::unique_ptr<Comparison> CompareNodes(const Document& document, node::INode& from,
                                          node::INode& to, ListOrder order) {
   auto comparison = std::make_unique<Comparison>(document, order);
@@ -218,6 +335,15 @@ TEST_P(DiffOf, MakesTheNewDocumentFromTheOld) {
       EXPECT_EQ(told(result), told(new_json[root])) << diff["changes"].dump(1);
       const std::string text = DiffText(*comparison, Secrets::kShown, Style(false), 80);
       EXPECT_EQ(text.empty(), are_equal);
+      if (order == ListOrder::kIsIgnored || are_equal) continue;
+      const TempFile file(WrittenForm(document, *from));
+      std::vector<std::string> set =
+          Commands(document, old_json[root], new_json[root], diff["changes"]).arguments;
+      set.insert(set.begin(), {"set", file.path().string()});
+      const Outcome outcome = RunTool(set);
+      EXPECT_EQ(outcome.status, 0) << outcome.err;
+      EXPECT_EQ(JsonOf(document, *LoadBytes(outcome.out, "set").root), new_json)
+          << diff["changes"].dump(1);
     }
     if (HasFailure()) break;
   }

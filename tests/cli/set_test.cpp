@@ -362,6 +362,8 @@ TEST(Set, FollowsTheLayout) {
   EXPECT_EQ(Catalogue("<Message ID='1'><Content>a]=b</Content></Message>",
                       {"Message[Content=\"a]=b\"]/ID=2"}),
             "<Message ID='2'><Content>a]=b</Content></Message>");
+  EXPECT_EQ(Catalogue("<Message ID='007'/><Message ID='7x'/>", {"Message[ID=\"07\"]/ID=8"}),
+            "<Message ID='8'/><Message ID='7x'/>");
   EXPECT_EQ(Catalogue(start + first + end, {"--remove", "Message"}),
             "\r\n\t<!-- all -->\r\n\t" + end);
 }
