@@ -1,7 +1,7 @@
 # Everything that this repository can do, by name: `make help`.
 .DEFAULT_GOAL := help
 .PHONY: help demo demo-windows build tool quick test coverage mutants abi lists documents format
-.PHONY: tidy conformance fuzz bench clean
+.PHONY: tidy conformance fuzz bench packages clean
 
 # Where ccache is installed, what has been compiled once is not compiled again.
 export CMAKE_CXX_COMPILER_LAUNCHER ?= $(shell command -v ccache)
@@ -108,6 +108,11 @@ bench: ## Build and run the benchmarks, and plot them in docs/
 	@build/bench/bench/tolva_bench build/bench
 	@gnuplot bench/plots.gp
 	@bench/check.py build/bench/cli/tolva examples/documents
+
+packages: ## Packages for Debian and an archive for Windows, in build/packages, tried where nothing else is
+	@tools/packages.sh packages
+	@tools/make-packages.sh
+	@tools/test-packages.sh
 
 clean: ## Remove everything that was built
 	@rm -rf build

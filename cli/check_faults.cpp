@@ -116,7 +116,7 @@ std::string Words(HRESULT fault, const Parser& parser) {
     case WC_E_EQUAL:
       return "there has to be '=' after the attribute's name, not " + character();
     case WC_E_LESSTHAN:
-      return "'<' in a value is written '&lt;'";
+      return "'<' in a value is written '&lt;'; or the quote that ends the value is missing";
     case WC_E_HEXDIGIT:
     case WC_E_DIGIT:
       return "this reference needs a number";

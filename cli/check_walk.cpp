@@ -198,6 +198,7 @@ class Walk final : public InputObserver {
     }
     FaultWords words = WordsFor(parser_);
     if (!Wants(words.code)) return;
+    words.message += LineOfStartTag();
     const bool is_at_end = is_at_limit && input.end() == Input::End::kEndOfStream;
     Add(words.code, is_at_end ? positions_.OfLastCharacter() : positions_.At(parser_.fault_at()),
         std::move(words.message));
@@ -218,6 +219,15 @@ class Walk final : public InputObserver {
 
   void Lose(const Position& position, std::string what) const {
     options_.losses->AddLoss(position, std::move(what));
+  }
+
+  /// Where the innermost element starts, if the fault is about that; or nothing.
+  std::string LineOfStartTag() {
+    const bool is_mismatch = parser_.fault() == WC_E_ELEMENTMATCH;
+    const bool is_known = !frames_.empty() && frames_.size() == parser_.depth();
+    if (!is_known || (!is_mismatch && parser_.fault() != MX_E_INPUTEND)) return {};
+    const std::string line = std::to_string(PositionOf(frames_.back()).line);
+    return (is_mismatch ? " in line " : " since line ") + line;
   }
 
   /// Whether the fault is a document type declaration for another root.
@@ -355,8 +365,19 @@ class Walk final : public InputObserver {
     const std::string_view name = parser_.name().Local();
     Add(Code::kUnknownElement, PositionOfNode(),
         "element " + Quoted(name) + " of '" + parent.name + "' is not known and ignored" +
-            hints_->ForElement(parent, name),
+            HintForElement(parent, name),
         Excerpt(name));
+  }
+
+  /// An element that has its place further out probably stands here for want of an end tag.
+  std::string HintForElement(const Element& parent, std::string_view name) {
+    for (std::size_t i = frames_.size(); i-- > 1;) {
+      const Element& outer = *frames_[i - 1].element;
+      if (outer.FindChild(name) == nullptr || &outer == &parent) continue;
+      return "; it belongs in '" + outer.name + "': is the end tag of '" +
+             frames_[i].element->name + "' missing?";
+    }
+    return hints_->ForElement(parent, name);
   }
 
   void TellDuplicate(const Element& parent, const Child& child) {
@@ -479,7 +500,7 @@ class Walk final : public InputObserver {
     const auto count = static_cast<std::size_t>(end - start);
     if (count == text.size() && count != 0 && count <= kAlwaysInRange) return;
     const std::string what = attribute.empty()
-                                 ? "the text of '" + element.name + "'"
+                                 ? "'" + Excerpt(text) + "' in '" + element.name + "'"
                                  : std::string(attribute) + "=\"" + Excerpt(text) + "\"";
     if (count != text.size() && !value.takes_leading_digits) {
       if (!Wants(Code::kBadNumber)) return;

@@ -76,7 +76,7 @@ void AddConvert(CLI::App& tool, Session& session) {
   verb.footer(
       "tolva convert --to json policy.xml -o policy.json\n"
       "tolva convert --to xml policy.json -o policy.xml --force\n"
-      "tolva convert --to json message-catalogue.xml | jq '.EndPointMessage.Message[].Content'");
+      "tolva convert --to json message-catalogue.xml");
   verb.callback([&session, options] {
     session.action = [&session, options] { return Convert(session, *options); };
   });

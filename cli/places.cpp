@@ -48,7 +48,13 @@ class SelectorParser {
     step.attribute = rest_.substr(0, equals);
     rest_.remove_prefix(equals + 1);
     const char quote = rest_[0];
-    if (quote != '"' && quote != '\'') Fail();
+    if (quote != '"' && quote != '\'') {  // shells take quotes away
+      const std::size_t end = rest_.find_first_of("]\"'");
+      if (end == 0 || end == std::string_view::npos || rest_[end] != ']') Fail();
+      step.value = rest_.substr(0, end);
+      rest_.remove_prefix(end);
+      return;
+    }
     const std::size_t end = rest_.find(quote, 1);
     if (end == std::string_view::npos) Fail();
     step.value = rest_.substr(1, end - 1);

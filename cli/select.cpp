@@ -1,6 +1,7 @@
 #include "cli/select.h"
 
 #include <algorithm>
+#include <span>
 
 #include "cli/fields.h"
 #include "cli/session.h"
@@ -85,6 +86,24 @@ bool IsNamed(SourceElement& element, const Element& table, const Step& step) {
   return number.has_value() && number == NumberAsRead(owner, value, step.value);
 }
 
+/// All that the first steps of a path name.
+std::vector<Found> SelectElements(Source& source, const Target& target, std::size_t steps) {
+  std::vector<Found> found = {{.element = &source.root()}};
+  for (const Target::ElementStep& step : std::span(target.elements).first(steps)) {
+    std::vector<Found> next;
+    for (const Found& one : found) {
+      for (const Numbered& match : MatchesOf(*one.element, step)) {
+        next.push_back({.element = match.element,
+                        .numbers = one.numbers,
+                        .counts = one.counts && match.counts});
+        next.back().numbers.push_back(match.number);
+      }
+    }
+    found = std::move(next);
+  }
+  return found;
+}
+
 /// The document's name in a message.
 std::string Named(const Source& source) { return "'" + Printable(source.name()) + "'"; }
 
@@ -163,19 +182,7 @@ std::vector<Numbered> MatchesOf(const SourceElement& parent, const Target::Eleme
 }
 
 std::vector<Found> Select(Source& source, const Target& target) {
-  std::vector<Found> found = {{.element = &source.root()}};
-  for (const Target::ElementStep& step : target.elements) {
-    std::vector<Found> next;
-    for (const Found& one : found) {
-      for (const Numbered& match : MatchesOf(*one.element, step)) {
-        next.push_back({.element = match.element,
-                        .numbers = one.numbers,
-                        .counts = one.counts && match.counts});
-        next.back().numbers.push_back(match.number);
-      }
-    }
-    found = std::move(next);
-  }
+  std::vector<Found> found = SelectElements(source, target, target.elements.size());
   if (target.attribute == nullptr) return found;
   for (Found& one : found) one.attribute = one.element->FindAttribute(target.attribute->name);
   std::erase_if(found, [](const Found& one) { return one.attribute == nullptr; });
@@ -202,6 +209,8 @@ std::string AbsenceOf(Source& source, const Target& target) {
 
 SourceElement& SelectElement(Source& source, const Target& target, std::size_t steps,
                              IfAbsent if_absent) {
+  const std::vector<Found> found = SelectElements(source, target, steps);
+  if (found.size() == 1) return *found.front().element;
   SourceElement* element = &source.root();
   for (std::size_t i = 0; i < steps; ++i) {
     const Target::ElementStep& step = target.elements[i];

@@ -67,7 +67,9 @@ std::string FaultOf(const CLI::App& tool, const CLI::App& verb, const CLI::Parse
   if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
     for (const CLI::Option* const option : verb.get_options()) {
       if (option->get_required() && option->count() == 0) {
-        return "'tolva " + verb.get_name() + "' needs " + ViewOf(*option).value;
+        const OptionView view = ViewOf(*option);
+        const std::string name = view.IsPositional() ? "" : view.names.back() + " ";
+        return "'tolva " + verb.get_name() + "' needs " + name + view.value;
       }
     }
   }
@@ -96,6 +98,10 @@ int RunTool(const std::vector<std::string>& arguments, Session& session) {
   try {
     // The parser takes the last argument first.
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
+    if (!reversed.empty() && reversed.back() == "help") {
+      reversed.pop_back();
+      reversed.insert(reversed.begin(), "--help");
+    }
     tool.parse(reversed);
   } catch (const CLI::CallForHelp&) {
     session.out.Write(HelpOf(tool, VerbOf(tool), session.OutStyle(), session.TextWidth()));

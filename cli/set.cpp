@@ -176,7 +176,9 @@ void AddSet(CLI::App& tool, Session& session) {
       ->type_name("NAME");
   AddCommonOptions(verb, session, Formats::kTextOnly);
   verb.footer(
-      "tolva set -i policy.xml UserInterface/Mode=SILENT\n"
+      "tolva set -i policy.xml UserInterface/Mode=SILENT Log/MaxLogSize=1000000\n"
+      "tolva set -i policy.xml 'LocationArray/Location[Name=\"Lab\"]/Desc=No guests'\n"
+      "tolva set -i policy.xml --unset 'LocationArray/Location[1]/Desc'\n"
       "tolva set policy.xml --add 'LocationArray/Location[Name=\"Lab\"]' -o new.xml\n"
       "tolva set -i policy.xml --remove 'LocationArray/Location[2]'");
   verb.callback([&session, &verb, options] {

@@ -13,8 +13,8 @@ void AddTool(CLI::App& tool, Session& session) {
       "tolva diff old.xml new.xml      what differs between two documents\n"
       "tolva explain policy            what the policy holds\n"
       "tolva new policy --full         a policy to start from\n"
-      "tolva fmt --check policy.xml    whether it has the form that the library writes\n"
-      "tolva schema html -o tolva.html a page about all documents");
+      "tolva fmt --check policy.xml    whether it is as the library writes it\n"
+      "tolva schema html -o doc.html   a page about all documents");
   AddCheck(tool, session);
   AddDiff(tool, session);
   AddExplain(tool, session);

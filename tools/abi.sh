@@ -3,6 +3,7 @@
 #   abi.sh           names and tables of virtual functions as Microsoft's compiler makes them
 #   abi.sh linux     the symbols that build/linux-release/libtolva.so.1 exports
 #   abi.sh windows   the names that build/windows/tolva.dll exports
+#   abi.sh release   the types and functions of the last release, by abidiff (builds build/abi)
 #   abi.sh ... --update
 set -eu
 cd "$(dirname "$0")/.."
@@ -15,7 +16,7 @@ what=msvc
 for argument in "$@"; do
   case $argument in
     --update) update=yes ;;
-    linux | windows) what=$argument ;;
+    linux | windows | release) what=$argument ;;
     *) echo "abi.sh: unknown argument '$argument'" >&2; exit 2 ;;
   esac
 done
@@ -35,7 +36,31 @@ compare() {
   fi
 }
 
+# What abidiff needs: the library with debug information, from which it describes every type.
+describe() {
+  cmake -S . -B build/abi -G Ninja -DCMAKE_BUILD_TYPE=Debug -DTOLVA_CLI=OFF > /dev/null
+  cmake --build build/abi --target tolva > /dev/null
+}
+
 case $what in
+  release)
+    release=abi/tolva-1.0.0.abi.xz
+    describe
+    if [ "$update" = yes ]; then
+      abidw --headers-dir include --no-corpus-path --no-comp-dir-path --no-show-locs \
+        build/abi/libtolva.so.1 | xz -9 > "$release"
+      exit 0
+    fi
+    xz -dc "$release" > "$work/release.abi"
+    # 4: something has been added. 1 and 2: it did not work. 8: callers no longer fit.
+    status=0
+    abidiff "$work/release.abi" build/abi/libtolva.so.1 > "$work/differences" || status=$?
+    if [ $((status & 11)) != 0 ]; then
+      head -n 40 "$work/differences"
+      echo "abi.sh: callers of $release no longer fit (abidiff: $status)" >&2
+      exit 1
+    fi
+    ;;
   linux)
     # A symbol without its version does not count.
     nm -D --defined-only --format=posix build/linux-release/libtolva.so.1 |

@@ -294,6 +294,7 @@ part_windows-own() {
 part_abi() {
   echo "Microsoft's binary interface"
   check 'headers, names and slots' tools/abi.sh
+  check 'the last release, with abidiff' tools/abi.sh release
   check "sources, for Microsoft's target" tools/msvc.py
 }
 

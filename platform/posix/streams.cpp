@@ -171,7 +171,8 @@ HRESULT OpenText(const wchar_t* text, IStream** stream) noexcept try {
     text += length;
     left -= length;
   }
-  made->Add({"", 1});
+  constexpr char kEnd = '\0';
+  made->Add({&kEnd, 1});
   made->AddRef();
   *stream = made.Get();
   return S_OK;

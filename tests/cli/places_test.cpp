@@ -29,9 +29,10 @@ TEST(Paths, NameStepsAndWhichItemIsMeant) {
   EXPECT_EQ(steps[1].value, "x]/");
   EXPECT_EQ(steps[2].value, "\"");
   EXPECT_EQ(steps[3].name, "D");
+  EXPECT_EQ(ParsePath("A[N=x y]")[0].value, "x y");  // a shell took the quotes
   EXPECT_TRUE(ParsePath("").empty());
   for (const char* const wrong :
-       {"/A", "A//B", "[1]", "A[", "A[]", "A[0]", "A[1", "A[1]B", "A[N]", "A[N=]", "A[N=x]",
+       {"/A", "A//B", "[1]", "A[", "A[]", "A[0]", "A[1", "A[1]B", "A[N]", "A[N=]", "A[N=x\"]",
         "A[N=\"x]", "A[=\"x\"]", "A[99999999999999999999]", "A[1]]"}) {
     EXPECT_THROW(ParsePath(wrong), Trouble) << wrong;
   }

@@ -1,0 +1,10 @@
+# tolva_add_resource(<target> <file> <type> <description>): the version that Windows shows of a file.
+function(tolva_add_resource target resource_file resource_type resource_description)
+  if(NOT WIN32)
+    return()
+  endif()
+  enable_language(RC)
+  set(resource ${CMAKE_CURRENT_BINARY_DIR}/${resource_file}.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/tolva.rc.in ${resource} @ONLY)
+  target_sources(${target} PRIVATE ${resource})
+endfunction()
