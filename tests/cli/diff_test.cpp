@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <random>
@@ -112,7 +113,7 @@ std::string Find(const Json& root, const std::vector<Step>& path) {
 }
 
 struct ListEdit {
-  std::set<std::size_t> gone;  ///< from where they were
+  std::set<std::size_t, std::greater<>> gone;  ///< from where they were, the last one first
   std::map<std::size_t, Json> placed;
 };
 
@@ -156,12 +157,15 @@ class Commands {
       if (!change.contains("to")) continue;
       edit.placed[change["to"]] = to_.at(Json::json_pointer(Find(to_, new_steps)));
     }
-    for (const Json* const change : names)
+    for (const Json* const change : names) {
       Change(*change, PathOf(Find(from_, ParsePath((*change)["path"].get<std::string>()))));
+    }
     for (const auto& [place, edit] : lists) {
       const std::string list = PathOf(place.second);
       const auto numbered = [&](std::size_t i) { return list + "[" + std::to_string(i) + "]"; };
-      for (auto i = edit.gone.rbegin(); i != edit.gone.rend(); ++i) Add("--remove", numbered(*i));
+      for (const std::size_t number : edit.gone) {
+        Add("--remove", numbered(number));
+      }
       for (const auto& [number, item] : edit.placed) AddElement(numbered(number), item);
     }
   }
@@ -241,7 +245,7 @@ class Commands {
 /// Makes the new document from the old one and the changes.
 Json Applied(const Document& document, node::INode& from, const Json& changes, const Json& to) {
   const std::string& root = document.root().name;
-  const Json old = JsonOf(document, from)[root];
+  Json old = JsonOf(document, from)[root];
   const TempFile file(WrittenForm(document, from));
   std::vector<std::string> arguments = Commands(document, old, to[root], changes).arguments;
   if (arguments.empty()) return old;
