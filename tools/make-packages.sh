@@ -52,4 +52,5 @@ make_windows() {
 for one in $what; do
   "make_$one"
 done
-(cd "$out" && sha256sum ./*.deb ./*.zip 2> /dev/null) || true
+tools/make-sbom.py "$version" "$out"
+(cd "$out" && sha256sum ./*.deb ./*.zip ./*.json 2> /dev/null) || true

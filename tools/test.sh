@@ -2,7 +2,7 @@
 # Runs everything that can fail: each build with its tests, and the checks of the sources and of the
 # binary interface. Ends with one line of totals; fails when anything did.
 #   test.sh [part...]      only these parts: sources linux speed conformance sanitizers valgrind
-#                          fuzz windows windows-own abi tidy; or quick, what to run after each
+#                          fuzz windows windows-own abi packages tidy; or quick, what to run after each
 #                          change
 set -u
 cd "$(dirname "$0")/.." || exit
@@ -138,7 +138,7 @@ part_sources() {
   echo 'Sources'
   check 'formatting' tools/format.sh --check
   check 'shell scripts' shellcheck tools/*.sh tests/cli/*.sh tests/tables/*.sh .ci/run
-  check 'Python scripts' pyflakes3 tools/*.py tests/cli/*.py bench/*.py
+  check 'Python scripts' pyflakes3 tools/*.py tests/cli/*.py tests/packages/*.py bench/*.py
   check 'examples of the pages' tools/check-examples.sh
   check 'tables that must not compile' tools/must-fail.sh
   check 'factories that the headers declare' compare_factories
@@ -298,6 +298,14 @@ part_abi() {
   check "sources, for Microsoft's target" tools/msvc.py
 }
 
+# Trying them in a system of their own is for `make packages`.
+part_packages() {
+  echo 'Packages'
+  check 'packages: the same twice' tools/reproduce.sh
+  check 'packages: lists of contents' tools/make-sbom.py 1.0.0 "$results"
+  fetched cyclonedx "$results"
+}
+
 part_tidy() {
   echo 'clang-tidy'
   check 'linux-clang: configure' cmake --preset linux-clang || return
@@ -305,7 +313,7 @@ part_tidy() {
 }
 
 parts=("$@")
-[ ${#parts[@]} != 0 ] || parts=(sources linux speed conformance sanitizers valgrind fuzz windows windows-own abi tidy)
+[ ${#parts[@]} != 0 ] || parts=(sources linux speed conformance sanitizers valgrind fuzz windows windows-own abi packages tidy)
 for part in "${parts[@]}"; do
   if [ "$(type -t "part_$part")" = function ]; then
     "part_$part"

@@ -1,0 +1,19 @@
+#!/bin/sh
+# Makes the packages for Debian twice, from two folders and into two others, and compares them byte for
+# byte; with the argument "all", the archive for Windows too, which takes as long again.
+set -eu
+cd "$(dirname "$0")/.."
+what=debian
+[ "${1:-}" != all ] || what='debian windows'
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2> /dev/null || date +%s)
+export SOURCE_DATE_EPOCH CCACHE_DISABLE=1
+mkdir "$work/elsewhere"
+git ls-files -z | tar --null -T - -cf - | tar -xf - -C "$work/elsewhere"
+tools/make-packages.sh "$work/one" "$what"
+"$work/elsewhere/tools/make-packages.sh" "$work/another/folder" "$what"
+for package in "$work"/one/*.deb "$work"/one/*.zip "$work"/one/*.json; do
+  [ ! -e "$package" ] || cmp "$package" "$work/another/folder/$(basename "$package")"
+done
