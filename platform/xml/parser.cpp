@@ -177,7 +177,9 @@ Status ParseVersion(const char*& at) {
   const bool is_version_1 = version && version->size() > 2 && version->starts_with("1.") &&
                             std::all_of(version->begin() + 2, version->end(),
                                         [](char c) { return c >= '0' && c <= '9'; });
-  return is_version_1 ? kDone : WC_E_XMLDECL;
+  if (is_version_1) return kDone;
+  if (version) at = version->data();  // where the fault is
+  return WC_E_XMLDECL;
 }
 
 Status ParseStandalone(const char*& at) {
@@ -185,7 +187,9 @@ Status ParseStandalone(const char*& at) {
   const Status status = ReadPseudoAttribute(at, "standalone", standalone);
   if (!status.IsDone()) return status;
   const bool is_allowed = !standalone || *standalone == "yes" || *standalone == "no";
-  return is_allowed ? kDone : WC_E_XMLDECL;
+  if (is_allowed) return kDone;
+  at = standalone->data();
+  return WC_E_XMLDECL;
 }
 
 }  // namespace

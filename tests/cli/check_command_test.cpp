@@ -101,18 +101,23 @@ TEST_F(Checked, TellsOnceWhereADocumentEnds) {
   Add("deep.xml", deep);
   Add("open.xml", "<ActiveDirectory><a></b>");
   Add("code.xml", "<?xml version='1.0' encoding='EBCDIC'?><ActiveDirectory/>");
+  Add("version.xml", "<?xml version='1.0.0' ?><ActiveDirectory/>");
+  Add("alone.xml", "<?xml version='1.0' standalone='maybe' ?><ActiveDirectory/>");
   Add("bytes.xml", "<ActiveDirectory>\n<a b='\xFF'/>");
-  const Outcome outcome = Check({"--ignore", "unknown-element", In("deep.xml"), In("open.xml"),
-                                 In("code.xml"), In("bytes.xml")});
+  const Outcome outcome =
+      Check({"--ignore", "unknown-element", In("deep.xml"), In("open.xml"), In("code.xml"),
+             In("version.xml"), In("alone.xml"), In("bytes.xml")});
   EXPECT_EQ(
       outcome.out,
       "deep.xml:1:783: error: more than 256 elements are open [too-deep]\n"
       "open.xml:1:21: error: the end tag 'b' does not match the start tag 'a' [not-well-formed]\n"
       "code.xml:1:31: error: the encoding 'EBCDIC' is not supported; UTF-8, UTF-16, "
       "ISO-8859-1 and US-ASCII are [encoding]\n"
+      "version.xml:1:16: error: the XML declaration is malformed here [not-well-formed]\n"
+      "alone.xml:1:33: error: the XML declaration is malformed here [not-well-formed]\n"
       "bytes.xml:2:7: error: the bytes that follow here are no character of UTF-8 "
       "[encoding]\n"
-      "4 files: 4 errors, 0 warnings\n");
+      "6 files: 6 errors, 0 warnings\n");
 }
 
 TEST_F(Checked, TellsNoMoreThanIsWanted) {
