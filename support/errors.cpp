@@ -234,6 +234,18 @@ constexpr Words kSystemWords[] = {
     {4390, "the file is not a link"},
 };
 
+/// Whether each code has one phrase.
+template <std::size_t Count>
+constexpr bool AreDistinct(const Words (&words)[Count]) {
+  for (std::size_t i = 0; i < Count; ++i) {
+    for (std::size_t j = i + 1; j < Count; ++j) {
+      if (words[i].error == words[j].error) return false;
+    }
+  }
+  return true;
+}
+static_assert(AreDistinct(kWords) && AreDistinct(kSystemWords));
+
 template <std::size_t Count>
 const char* Find(const Words (&words)[Count], DWORD error) {
   const auto* const found = std::find_if(std::begin(words), std::end(words),

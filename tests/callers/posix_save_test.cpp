@@ -76,7 +76,9 @@ TEST_F(PosixSave, KeepsModeAndOwner) {
   ASSERT_TRUE(!is_root || chown(In("file").c_str(), kNobody, 1) == 0);
   ASSERT_EQ(chmod(In("file").c_str(), 04751), 0);
   const bool has_attributes = setxattr(In("file").c_str(), "user.tolva", "x", 1, 0) == 0;
+  setxattr(In("file").c_str(), "trusted.tolva", "x", 1, 0);  // which is not the user's
   EXPECT_TRUE(SaveBytes("newer", In("file")));
+  EXPECT_LT(getxattr(In("file").c_str(), "trusted.tolva", nullptr, 0), 0);
   const struct stat after = About("file");
   EXPECT_EQ(after.st_mode & 07777U, 04751U);
   EXPECT_TRUE(!is_root || (after.st_uid == kNobody && after.st_gid == 1));
@@ -179,6 +181,9 @@ TEST_F(PosixSave, SurvivesEveryFailingCall) {
         }
         const bool is_new = report || report.outcome == SaveOutcome::kNotFlushed;
         ASSERT_EQ(Content("file"), is_new ? whole : "old") << n;
+        const bool is_about_folder =
+            report.message.find("but its folder cannot be brought") != std::string::npos;
+        ASSERT_EQ(is_about_folder, report.outcome == SaveOutcome::kNotFlushed) << report.message;
         // A file that was only read may be closed as it likes.
         ASSERT_TRUE(!has_struck || !report || call == SystemCall::kClose) << n;
         ASSERT_TRUE(report || report.error == 1117) << n << ": " << report.message;

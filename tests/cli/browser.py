@@ -22,18 +22,16 @@ class Browser:
                      f'--window-size={width},{height}']
         if dark:
             arguments.append('--blink-settings=preferredColorScheme=0')
-        options = {
-  'goog:chromeOptions' : {'args' : arguments}, 'goog:loggingPrefs' : { 'browser' : 'ALL' }
-} session = self._call('POST', '/session', {'capabilities' : {'alwaysMatch' : options}})
-                self._url += '/session/' + session['sessionId']
+        options = {'goog:chromeOptions': {'args': arguments}, 'goog:loggingPrefs': {'browser': 'ALL'}}
+        session = self._call('POST', '/session', {'capabilities': {'alwaysMatch': options}})
+        self._url += '/session/' + session['sessionId']
 
-                             def
-                             __enter__(self)
-    : return self
+    def __enter__(self):
+        return self
 
-          def
-          __exit__(self, *_)
-    : try : self._call('DELETE', '')
+    def __exit__(self, *_):
+        try:
+            self._call('DELETE', '')
         finally:
             self._driver.terminate()
             self._driver.wait()
@@ -54,8 +52,7 @@ class Browser:
 
     def type(self, keys):
         """Sends keys to whatever has the focus."""
-        presses = [{
-    'type' : kind, 'value' : key} for key in keys for kind in ('keyDown', 'keyUp')]
+        presses = [{'type': kind, 'value': key} for key in keys for kind in ('keyDown', 'keyUp')]
         self._call('POST', '/actions', {'actions': [{'type': 'key', 'id': 'keyboard', 'actions': presses}]})
 
     def click(self, selector):

@@ -1,4 +1,4 @@
-#!/ usr / bin / python3
+#!/usr/bin/python3
 """Opens the page that `tolva diff` makes in a headless Chromium and uses it:
   diff_page.py <tolva> <example policy> [folder for screenshots]
 """
@@ -81,13 +81,19 @@ def main():
         if made.returncode != 1:
             raise AssertionError(made.returncode)
         for name, width, dark in (('wide', 1400, False), ('narrow', 500, False), ('dark', 1000, True)):
-            with Browser(width, 1000, dark)
-as browser
-    : page = Page(browser, file.as_uri()) if name == 'wide'
-    : use(browser, page) page.expect('it is no wider than the window',
-                                     'return document.documentElement.scrollWidth <= innerWidth')
-          problems =
-                 browser.problems() if problems : raise AssertionError(problems) if folder
-    : browser.screenshot(pathlib.Path(folder[0]) / f '{name}.png') return 0
+            with Browser(width, 1000, dark) as browser:
+                page = Page(browser, file.as_uri())
+                if name == 'wide':
+                    use(browser, page)
+                page.expect('it is no wider than the window',
+                            'return document.documentElement.scrollWidth <= innerWidth')
+                problems = browser.problems()
+                if problems:
+                    raise AssertionError(problems)
+                if folder:
+                    browser.screenshot(pathlib.Path(folder[0]) / f'{name}.png')
+    return 0
 
-      if __name__ == '__main__' : sys.exit(main())
+
+if __name__ == '__main__':
+    sys.exit(main())

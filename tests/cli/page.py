@@ -1,4 +1,4 @@
-#!/ usr / bin / python3
+#!/usr/bin/python3
 """Opens the HTML page of a tool in a headless Chromium and uses it:
   page.py <tolva> [folder for screenshots]
 """
@@ -16,8 +16,8 @@ ESCAPE = '\ue00c'
 
 IS_VISIBLE = '''
   const target = document.getElementById(arguments[0]);
-const box = target.getBoundingClientRect();
-return target.checkVisibility() && box.top >= 0 && box.top < innerHeight;'''
+  const box = target.getBoundingClientRect();
+  return target.checkVisibility() && box.top >= 0 && box.top < innerHeight;'''
 
 
 class Page:
@@ -34,12 +34,12 @@ class Page:
         self.expect('only the roots are unfolded',
                     "return [...document.querySelectorAll('.document')].every((one) => !one.open)"
                     " && !document.querySelector('.element:not(:first-of-type)[open]')")
-#A document, and an element in it, are unfolded and folded.
+        # A document, and an element in it, are unfolded and folded.
         browser.click('#policy > summary')
         browser.click('[id="policy/LocationArray"] > summary')
         self.expect('an element unfolds',
                     "return document.getElementById('policy/LocationArray/Location').checkVisibility()")
-#A child is a link to its element.
+        # A child is a link to its element.
         browser.click('[id="policy/LocationArray/Location"] th > a')
         self.expect('a link is followed', IS_VISIBLE, 'policy/Location')
         self.expect('what a link leads to is unfolded',
@@ -49,7 +49,7 @@ class Page:
         browser.click('[id="policy/Location"] > summary')
         self.expect('an element folds', "return !document.getElementById('policy/Location').open")
 
-#By keyboard alone : search, choose, go there.
+        # By keyboard alone: search, choose, go there.
         browser.type('/mode')
         self.expect('what is named so comes first',
                     "return document.querySelector('#results a').textContent.startsWith('Mode')")

@@ -1,4 +1,4 @@
-#!/ usr / bin / python3
+#!/usr/bin/python3
 """Validates what `tolva check --format sarif` prints against the schema of SARIF 2.1.0:
   sarif.py <schema> <tolva> [argument of tolva...] -- <document>...
 """

@@ -1,4 +1,4 @@
-#!/ usr / bin / python3
+#!/usr/bin/python3
 """Tries the tool's schemas on documents:
   schemas.py <tolva> <tolva_samples> <examples> [number of random documents]
 

@@ -47,7 +47,7 @@ const Context kContexts[] = {
      "<a>\n  <b",
      "</a>",
      {" a=\"", " b=\"", " y=\"", "13 characters", "\"", "/>", ">", "</b>", "\r\n\t", "<c", "&amp;",
-      "'"}},
+      "<"}},
     {"EndTag",
      "<a><b:c xmlns:b='a'",
      "</a>",
