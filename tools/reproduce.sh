@@ -11,7 +11,8 @@ trap 'rm -rf "$work"' EXIT
 SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2> /dev/null || date +%s)
 export SOURCE_DATE_EPOCH CCACHE_DISABLE=1
 mkdir "$work/elsewhere"
-git ls-files -z | tar --null -T - -cf - | tar -xf - -C "$work/elsewhere"
+sources() { git ls-files -z 2> /dev/null || find . -name build -prune -o -type f -print0; }
+sources | tar --null -T - -cf - | tar -xf - -C "$work/elsewhere"
 tools/make-packages.sh "$work/one" "$what"
 "$work/elsewhere/tools/make-packages.sh" "$work/another/folder" "$what"
 for package in "$work"/one/*.deb "$work"/one/*.zip "$work"/one/*.json; do
