@@ -4,6 +4,7 @@
 #include <array>
 
 #include "platform/utf.h"
+#include "platform/xml/input.h"
 
 namespace tolva::cli {
 namespace {
@@ -33,20 +34,17 @@ void ReplaceAll(std::string& text, std::string_view old, char replacement) {
 
 }  // namespace
 
-ByteForm FormOf(std::string_view bytes) {
-  constexpr std::size_t kFirstBytes = 4;
-  bytes = bytes.substr(0, kFormSize);
-  ByteForm form;
-  const Encoding* const shown = own_xml::DetectEncoding(bytes.substr(0, kFirstBytes));
-  const bool is_declared = bytes.starts_with("<?xml");
-  const std::string_view declaration = is_declared ? bytes.substr(0, bytes.find('>')) : "";
-  form.encoding = shown != nullptr ? shown : &own_xml::DeclaredEncoding(declaration);
-  const std::string_view mark = form.encoding->byte_order_mark;
-  form.has_mark = !mark.empty() && bytes.starts_with(mark);
-  const std::string text = Decode(bytes, form);
-  const std::size_t end = text.find_first_of("\r\n");
-  if (end == std::string::npos || text[end] == '\n') return form;
-  form.line_end = text.compare(end, 2, "\r\n") == 0 ? "\r\n" : "\r";
+ByteForm FormOf(ISequentialStream& stream) {
+  own_xml::Input input;
+  input.Open(&stream, false);
+  const char* at = input.limit();
+  do {
+    at = std::find_if(at, input.limit(), [](char c) { return c == '\r' || c == '\n'; });
+    // What follows a CR decides.
+    if (at != input.limit() && (*at == '\n' || at + 1 != input.limit())) break;
+  } while (input.More(at));
+  ByteForm form = {.encoding = &input.encoding(), .has_mark = input.byte_order_mark_size() != 0};
+  if (at != input.limit() && *at == '\r') form.line_end = at[1] == '\n' ? "\r\n" : "\r";
   return form;
 }
 

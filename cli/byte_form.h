@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/system.h"
 #include "platform/xml/encoding.h"
 
 namespace tolva::cli {
@@ -14,11 +15,8 @@ struct ByteForm {
   std::string_view line_end = "\n";  ///< the first one
 };
 
-/// More bytes of a document than these do not change its form.
-inline constexpr std::size_t kFormSize = std::size_t{1} << 16;
-
 /// The form of a document in an encoding that the library reads.
-ByteForm FormOf(std::string_view bytes);
+ByteForm FormOf(platform::ISequentialStream& stream);
 
 /// The text of such a document, in UTF-8 and with LF as line end. What is no character becomes a
 /// byte that is not UTF-8.

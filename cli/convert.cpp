@@ -36,7 +36,7 @@ std::string JsonOf(std::string bytes, const std::string& name, const Document* e
 std::string XmlOf(const std::string& text, const std::string& name, const Document* expected,
                   bool drops) {
   FromJsonResult read = FromJson(text, name, expected);
-  if (!drops) RefuseLosses({read.document, read.losses.size(), std::move(read.losses)}, name);
+  if (!drops) RefuseLosses({read.document, read.loss_count, std::move(read.losses)}, name);
   return StableForm(*read.document, *read.root, name);
 }
 

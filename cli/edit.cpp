@@ -254,6 +254,13 @@ void Editor::SetText(SourceElement& element, const Element& table, const std::st
   if (!replaces) Insert(content, 0, {});
   content.front().kind = text.kind;
   content.front().text = text.text;
+  if (!value.empty()) return;
+  // An empty text is nothing, and what follows it may count as the text then.
+  content.erase(content.begin());
+  const SourceContent* const next = element.FindText();
+  if (next == nullptr || ValueOf(*next).empty()) return;
+  throw Trouble("the text of '" + table.name +
+                "' cannot be empty here: the library would take what follows it for the text");
 }
 
 void Editor::Set(std::string_view path, const std::string& value) {

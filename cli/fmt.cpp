@@ -69,7 +69,9 @@ class Formatter {
  private:
   void FormatFile(const Input& input) {
     const WalkOptions walk = {.expected = expected_, .skips_foreign = input.is_from_folder};
-    const bool is_streamed = options_.checks && !options_.shows_diff && !input.is_standard_input;
+    std::error_code ignored;
+    const bool is_streamed = options_.checks && !options_.shows_diff && !input.is_standard_input &&
+                             std::filesystem::is_regular_file(PathOf(input.name), ignored);
     const std::string bytes = is_streamed ? std::string() : ReadBytes(input);
     const Reopen reopen = [&] { return is_streamed ? OpenInput(input) : StreamOf(bytes); };
     const Losses losses = FindLosses(*reopen().Get(), input.name, walk);
@@ -91,7 +93,7 @@ class Formatter {
   void FormatBytes(const Input& input, const std::string& before, const Document& document) {
     const Loaded loaded = LoadBytes(before, input.name, &document);
     const std::string written = StableForm(document, *loaded.root, input.name);
-    const ByteForm form = FormOf(before);
+    const ByteForm form = FormOf(*StreamOf(before).Get());
     const std::string after = FormEncoder(form).Encode(written);
     if (options_.shows_diff) {
       if (after == before) return;

@@ -220,18 +220,10 @@ class FormCheck {
   node::NumberText number_ = {};
 };
 
-ByteForm FormOfStream(ISequentialStream& stream) {
-  std::string front(kFormSize, '\0');
-  ULONG count = 0;
-  stream.Read(front.data(), static_cast<ULONG>(front.size()), &count);
-  front.resize(count);
-  return FormOf(front);
-}
-
 }  // namespace
 
 bool HasWrittenForm(const Document& document, const Reopen& reopen) {
-  const ByteForm form = FormOfStream(*reopen().Get());
+  const ByteForm form = FormOf(*reopen().Get());
   return FormCheck(reopen, form).Check(document);
 }
 

@@ -8,6 +8,7 @@
 // 64-bit number a string of its digits.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
@@ -34,7 +35,8 @@ nlohmann::ordered_json ElementToJson(const Element& element, const ElementView& 
 struct FromJsonResult {
   const Document* document;
   std::unique_ptr<node::INode> root;
-  std::vector<std::string> losses;  ///< "policy.json:3:5: ...": what the library will not write
+  std::uint64_t loss_count;         ///< what the library will not write
+  std::vector<std::string> losses;  ///< the first of it: "policy.json:3:5: ..."
 };
 
 /// Reads the JSON form of a document, in UTF-8. `name` is what messages call the text; `expected`

@@ -383,7 +383,7 @@ class Receiver {
   void ReadText(const Element& element, const Json& json, node::IElement& node) {
     const bool may_be_null = !element.is_text_required && !element.text->may_be_empty;
     if (json.is_null() && may_be_null) {
-      if (element.IsLostWithoutText()) {
+      if (element.IsLostWithoutText() && result_.loss_count++ < kMostLossesTold) {
         result_.losses.push_back(Words(token_, "is null, which the library does not write"));
       }
       return;

@@ -40,12 +40,10 @@ class Collector final : public FindingSink, public LossSink {
   std::string fault;  ///< the first; empty: none
 
  private:
-  static constexpr std::size_t kMostTold = 20;
-
   /// What is not read back is as bad as what is not read.
   static bool IsFault(Code code) { return InfoOf(code).is_error || code == Code::kNotReadBack; }
 
-  bool IsWanted() const { return losses_.first.size() < kMostTold; }
+  bool IsWanted() const { return losses_.first.size() < kMostLossesTold; }
 
   const std::string& name_;
   Losses& losses_;

@@ -26,6 +26,9 @@ struct Losses {
 /// its place, if the library does not read the document, or would not read what it has written.
 Losses FindLosses(ISequentialStream& stream, const std::string& name, const WalkOptions& options);
 
+/// So many losses are told.
+inline constexpr std::size_t kMostLossesTold = 20;
+
 /// Throws Trouble, with the places, if there are losses.
 void RefuseLosses(const Losses& losses, const std::string& name);
 

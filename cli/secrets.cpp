@@ -1,8 +1,10 @@
 #include "cli/secrets.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "cli/files.h"
+#include "cli/session.h"
 #include "platform/xml/parser.h"
 
 namespace tolva::cli {
@@ -18,12 +20,16 @@ class WindowStart final : public own_xml::InputObserver {
   std::size_t offset = 0;
 };
 
-bool IsSecret(const Document& document, std::string_view element, std::string_view attribute) {
-  return std::ranges::any_of(document.elements, [&](const auto& one) {
-    if (one->name != element) return false;
-    const Attribute* const found = one->FindAttribute(attribute);
-    return found != nullptr && found->is_secret;
-  });
+/// The names of all attributes that are secret in some element: in others they may be for want of
+/// knowledge, or of an end tag.
+std::vector<std::string_view> SecretNames(const Document& document) {
+  std::vector<std::string_view> names;
+  for (const auto& element : document.elements) {
+    for (const Attribute& attribute : element->attributes) {
+      if (attribute.is_secret) names.push_back(attribute.name);
+    }
+  }
+  return names;
 }
 
 }  // namespace
@@ -33,17 +39,27 @@ std::string WithoutSecrets(std::string_view text, const Document& document) {
   WindowStart window;
   parser.SetInput(StreamOf(text).Get(), true);
   parser.Observe(&window);
+  const std::vector<std::string_view> names = SecretNames(document);
   std::string shown;
   std::size_t done = 0;
-  while (parser.Read() == own_xml::ReadResult::kNode) {
+  const auto hide = [&](std::string_view piece) {
+    const auto at = window.offset + static_cast<std::size_t>(piece.data() - parser.input().start());
+    shown.append(text.substr(done, at - done)) += "***";
+    done = at + piece.size();
+  };
+  own_xml::ReadResult result = own_xml::ReadResult::kNode;
+  while ((result = parser.Read()) == own_xml::ReadResult::kNode) {
     for (const own_xml::Attribute& attribute : parser.attributes()) {
-      if (!IsSecret(document, parser.name().Local(), attribute.name.text)) continue;
-      const auto at =
-          window.offset + static_cast<std::size_t>(attribute.value.data() - parser.input().start());
-      shown.append(text.substr(done, at - done)) += "***";
-      done = at + attribute.value.size();
+      if (std::ranges::find(names, attribute.name.Local()) != names.end()) hide(attribute.value);
     }
+    // An element may be commented out.
+    const bool is_told = parser.type() != XmlNodeType_Comment ||
+                         std::ranges::none_of(names, [&](std::string_view name) {
+                           return parser.value().find(name) != std::string_view::npos;
+                         });
+    if (!is_told) hide(parser.value());
   }
+  if (result != own_xml::ReadResult::kEnd) throw Trouble("secrets cannot be told from the rest");
   return shown.append(text.substr(done));
 }
 

@@ -12,10 +12,10 @@ what=${2:-debian windows}
 : "${SOURCE_DATE_EPOCH:=$(git log -1 --format=%ct 2> /dev/null || date +%s)}"
 export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C
 version=$(sed -n 's/^project(tolva VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+umask 022
 mkdir -p "$out"
 
 make_debian() {
-  umask 022
   # The flags that Debian builds with, but for -g: the packages are stripped.
   hardened=$(dpkg-buildflags --get CPPFLAGS)
   hardened="$hardened $(dpkg-buildflags --get CXXFLAGS | sed 's/-g //; s/-O2 //')"

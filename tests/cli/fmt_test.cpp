@@ -175,10 +175,28 @@ TEST(Fmt, KnowsSeveralFilesAndWhatCannotBe) {
   EXPECT_EQ(Fmt({"--drop", "--check"}, empty).status, 2);
 }
 
+TEST(Fmt, SeesTheWholeDocumentForItsForm) {
+  const std::string element = "<ActiveDirectory><DefaultDomain Enabled='1' Name='\xC3\xBC'/>";
+  const auto formatted = [&](const std::string& prolog, const char* line_end) {
+    return Fmt({"--drop"}, TempFile(prolog + element + line_end + "</ActiveDirectory>")).out;
+  };
+  // No declaration, though it begins like one.
+  EXPECT_NE(formatted("<?xml-stylesheet encoding='ISO-8859-1'?>", "\n").find("\xC3\xBC"),
+            std::string::npos);
+  // The first line end is where a block of input ends.
+  for (std::size_t size = 65530; size != 65540; ++size) {
+    const std::string comment = "<!--" + std::string(size - element.size() - 7, 'x') + "-->";
+    const std::string text = formatted(comment, "\r\n");
+    ASSERT_EQ(std::ranges::count(text, '\r'), std::ranges::count(text, '\n')) << size;
+    ASSERT_NE(text.find("\r\n"), std::string::npos) << size;
+  }
+}
+
 TEST(Fmt, ShowsNoSecretsInADiff) {
   const TempFile file(RunTool({"new", "policy", "--full"}).out + "\n");
   std::string text = file.Read();
-  text.replace(text.find(" Key=\"Key\""), 10, "  Key='hush&#33;'");
+  text.replace(text.find(" Key=\"Key\""), 10, "  Key='hush&#33;' x:Key='hush' xmlns:x='x'");
+  text.replace(text.find("<!-- "), 5, "<!-- <Old Key='hush'/> ");
   file.Write(text);
   const Outcome masked = Fmt({"--diff", "--drop"}, file);
   EXPECT_EQ(masked.status, 1);

@@ -254,6 +254,13 @@ TEST(Set, FindsTheTextThatIsRead) {
                       {"Message/Description=]]>"}),
             "tolva: the text of 'Description' cannot hold this: a CDATA section, which cannot, "
             "begins it\n");
+  std::string details = RunTool({"new", "analysis-details", "--full"}).out;
+  details.insert(details.find("</customDisplayText>"), "<!--b-->");
+  const TempFile file(details);
+  EXPECT_EQ(
+      RunTool({"set", cli::NameOf(file.path()), "violations/violation/customDisplayText="}).err,
+      "tolva: the text of 'customDisplayText' cannot be empty here: the library would take what "
+      "follows it for the text\n");
   EXPECT_EQ(
       Catalogue("<Message ID='1'><Content> </Content></Message>", {"--unset", "Message/Content"}),
       "tolva: 'Message/Content' has no text\n");
