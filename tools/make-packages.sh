@@ -20,7 +20,8 @@ make_debian() {
   hardened=$(dpkg-buildflags --get CPPFLAGS)
   hardened="$hardened $(dpkg-buildflags --get CXXFLAGS | sed 's/-g //; s/-O2 //')"
   hardened="$hardened -ffile-prefix-map=$root=. -ffile-prefix-map=$out=."
-  cmake -S . -B "$out/debian" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
+  cmake -S . -B "$out/debian" -G Ninja -DTOLVA_PACKAGES=ON -DCMAKE_BUILD_TYPE=Release \
+    -DCMAKE_INSTALL_PREFIX=/usr \
     -DCMAKE_INSTALL_LIBDIR="lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)" \
     -DCMAKE_CXX_COMPILER=g++ -DCMAKE_CXX_FLAGS="$hardened" \
     -DCMAKE_SHARED_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS)" \
