@@ -7,7 +7,7 @@ build='g++ cmake ninja-build'
 tool='libcli11-dev nlohmann-json3-dev'
 tool_tests='libxml2-utils python3 python3-jsonschema mandoc chromium chromium-driver fish jq zsh'
 windows='g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64'
-test="$build $tool $tool_tests $windows googletest clang clang-format clang-tidy llvm libclang-rt-14-dev libc++-14-dev mingw-w64-common pkg-config shellcheck libexpat1-dev valgrind ccache python3 pyflakes3 abigail-tools xz-utils dpkg-dev"
+test="$build $tool $tool_tests $windows googletest clang clang-format clang-tidy llvm libclang-rt-14-dev libc++-14-dev mingw-w64-common pkg-config shellcheck libexpat1-dev valgrind ccache python3 pyflakes3 abigail-tools xz-utils dpkg-dev file"
 case ${1:-} in
   build) wanted=$build ;;
   tool) wanted="$build $tool" ;;
@@ -18,7 +18,7 @@ case ${1:-} in
     wanted=$test
     command -v npm > /dev/null || wanted="$wanted npm"
     ;;
-  packages) wanted="$build $tool $windows dpkg-dev lintian mmdebstrap zip unzip python3" ;;
+  packages) wanted="$build $tool $windows dpkg-dev file lintian mmdebstrap zip unzip python3" ;;
   bench)
     wanted="$build $tool libxml2-utils python3 dpkg-dev libbenchmark-dev librapidxml-dev libexpat1-dev libxml2-dev libxerces-c-dev xsdcxx gnuplot-nox"
     ;;
