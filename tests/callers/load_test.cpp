@@ -6,6 +6,7 @@
 #include <string>
 #include <thread>
 
+#include "support/capabilities.h"
 #include "support/files.h"
 
 namespace tolva::support {
@@ -67,6 +68,18 @@ TEST(Load, TellsWhatCame) {
               {LoadOutcome::kNotWellFormed, -101, 0xC00CEE26, "An attribute value holds a '<'."});
   const auto other = LoadFromString<IActiveDirectory>(L"<p:other xmlns:p='q'/>");
   EXPECT_EQ(other.report.root_element, "other");
+}
+
+TEST(Load, TellsDocumentsThatBreakOff) {
+  TOLVA_REQUIRE(ReaderEndsTruncatedInput);
+  const std::string domain = ToUtf8(kDomain);
+  for (std::size_t size = 1; size < domain.size(); ++size) {
+    const auto loaded = Load<IActiveDirectory>(TempFile(domain.substr(0, size)).path());
+    EXPECT_EQ(loaded.report.error, 0xC00CEE01) << size;
+    const bool is_read = domain.find("/>") + 2 <= size;
+    EXPECT_EQ(loaded.report.outcome, is_read ? LoadOutcome::kDamaged : LoadOutcome::kNotWellFormed)
+        << size;
+  }
 }
 
 TEST(Load, TellsFilesThatCannotBeRead) {

@@ -58,12 +58,20 @@ TEST(RootName, IsFoundAfterAnyProlog) {
   EXPECT_EQ(RootNameFromString(L"\xFEFF<?xml version='1.0' encoding='x'?><!--\xD800--><\u65E5/>"),
             "\xE6\x97\xA5");
   const std::string none[] = {"",
+                              " ",
+                              "<",
+                              "<a",
+                              "a",
                               "<!DOCTYPE a><a/>",
                               "<!-- -- --><a/>",
+                              "<!--",
                               "<?xml?><a/>",
                               " <?xml version='1.0'?><a/>",
                               "<?XML version='1.0'?><a/>",
+                              "<a:/>",
+                              "<:a/>",
                               "<a:b:c/>",
+                              "<1/>",
                               "<!-- \xFC --><a/>",
                               "<!-- \x01 --><a/>",
                               declared + "us-ascii\"?><!-- \xFC --><a/>",
@@ -71,7 +79,11 @@ TEST(RootName, IsFoundAfterAnyProlog) {
                               declared + "UTF-16\"?><a/>",
                               "\xEF\xBB\xBF" + declared + "ISO-8859-1\"?><a/>",
                               "\xFF\xFE<a/>",
-                              "<" + std::string(1001, 'n') + ">"};
+                              "<" + std::string(1001, 'n') + ">",
+                              "</a>",
+                              "<?p",
+                              "<?p?",
+                              "<a/"};
   for (const std::string& bytes : none) EXPECT_EQ(NameIn(bytes), "") << bytes;
   EXPECT_EQ(RootName("no-such-file.xml"), "");
   EXPECT_EQ(RootName(std::filesystem::temp_directory_path()), "");

@@ -410,6 +410,10 @@ TEST(Diff, TellsOneEditAsOneChange) {
   const std::string media =
       "LocationArray/Location[Name=\"Office\"]/ILPProtection/ILPRemovableMedia/";
   const std::string rule = "<DeviceRule Action=\"BLOCK\" VendorID=\"090C\"/>";
+  EXPECT_EQ(Told(policy, Replaced(policy, " Sid=\"11\"", " Sid=\"12\"")),
+            "~ " + media + "Sid: 11 -> 12\n");
+  EXPECT_EQ(Told(policy, Replaced(policy, rule, "")),
+            "- " + media + "DeviceRule[VendorID=\"090C\"]:\n    Action=\"BLOCK\"\n");
   EXPECT_EQ(Told(Replaced(policy, rule, ""), policy),
             "+ " + media + "DeviceRule[VendorID=\"090C\"]:\n    Action=\"BLOCK\"\n");
   EXPECT_EQ(Told(policy, Replaced(policy, " SerialNumber=\"4C530001261215105\"", "")),

@@ -5,7 +5,9 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/session.h"
+#include "support/files.h"
 #include "support/nodes.h"
+#include "tables/random_content.h"
 
 namespace tolva::test {
 namespace {

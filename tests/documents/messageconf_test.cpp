@@ -5,6 +5,9 @@
 #include <memory>
 #include <string>
 
+#include "support/capabilities.h"
+#include "support/nodes.h"
+
 namespace tolva::test {
 namespace {
 
@@ -23,6 +26,31 @@ std::size_t DepthOf(IEndPointMessage& root) {
     ++depth;
   }
   return depth;
+}
+
+TEST(MessageCatalogue, IsReadAsDeepAsTheReaderGoes) {
+  TOLVA_REQUIRE(ReaderEndsTruncatedInput);
+  const auto document = [](int levels) {
+    std::wstring text;
+    for (int i = 0; i < levels; ++i) {
+      text += i % 2 == 0 ? L"<EndPointMessage SchemaVersion='1'>" : L"<EndpointLocalMsg>";
+    }
+    for (int i = levels; i-- > 0;) {
+      text += i % 2 == 0 ? L"</EndPointMessage>" : L"</EndpointLocalMsg>";
+    }
+    return text;
+  };
+  const std::unique_ptr<IEndPointMessage> root(EndPointMessage_CreateNewInstance());
+  EXPECT_EQ(ReadText(*root, document(255)), 0);
+  EXPECT_EQ(DepthOf(*root), 128U);
+  const std::unique_ptr<IEndPointMessage> copy(EndPointMessage_CreateNewInstance());
+  copy->CopyFrom(*root);
+  EXPECT_EQ(WriteText(*copy), WriteText(*root));
+
+  tolvaSetLastError(0);
+  EXPECT_EQ(ReadText(*root, document(257)), 0);
+  EXPECT_EQ(tolvaGetLastError() & 0xFFFFF000U, 0xC00CE000U) << "the input broke off";
+  EXPECT_EQ(DepthOf(*root), 128U);
 }
 
 /// Accessors can make a deeper one than a reader takes.

@@ -100,9 +100,9 @@ std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
 }
 
 /// With one parser for all documents, as a manager has.
-Outcome Parse(StackStream& stream) {
+Outcome Parse(StackStream& stream, bool converted = false) {
   static Parser parser;
-  parser.SetInput(&stream, false);
+  parser.SetInput(&stream, converted);
   Outcome outcome;
   ReadResult result = ReadResult::kNode;
   Steps steps;
@@ -120,10 +120,10 @@ Outcome Parse(StackStream& stream) {
 
 constexpr std::size_t kBlocks[] = {1, 2, 3, 7, 64, 1U << 20};
 
-void ExpectOutcome(std::string_view document, const Outcome& expected) {
+void ExpectOutcome(std::string_view document, const Outcome& expected, bool converted = false) {
   for (const std::size_t block : kBlocks) {
     TextStream stream(document, block);
-    EXPECT_EQ(Parse(stream), expected)
+    EXPECT_EQ(Parse(stream, converted), expected)
         << "document: " << document.substr(0, 200) << "\nblock: " << block;
     EXPECT_EQ(stream.references, 1U);
   }
@@ -145,8 +145,11 @@ TEST(Parser, DeliversTheNodesOfADocument) {
        "text<!-- comment -->text2<?pi pibody ?>\r\n</a>",
        "!( comment1 )!( comment2 )?(pi1:pi1body )W( \\t \\n \\n)!( comment4 )<a>W(\\n\\t)<b/>"
        "T(text)!( comment )T(text2)?(pi:pibody )W(\\n)</a>"},
-      {"<a>&#x1f3;&#259;&gt;&lt;&amp;&quot;&apos;</a>", "<a>T(\xC7\xB3\xC4\x83><&\"')</a>"},
-      {"<a b=\"&lt;&gt;&amp;&apos;&quot;&#x10FFFF;\"/>", "<a b='<>&'\"\xF4\x8F\xBF\xBF'/>"},
+      {"<a/>", "<a/>"},
+      {"<a />\n", "<a/>W(\\n)"},
+      {"<a \r \t\n>x</a\n>", "<a>T(x)</a>"},
+      {"<a b = '1'\tc='2' />", "<a b='1' c='2'/>"},
+      {"<a><b><c/></b><b></b></a>", "<a><b><c/></b><b></b></a>"},
       {"<?xml version=\"1.0\" standalone=\"yes\"?><a/>", "D<a/>"},
       {"<?xml version='1.1' encoding = 'utf-8' standalone='no' ?>\n<a/>", "DW(\\n)<a/>"},
       {"<a>x<!---->y<?p?>z<?p ?></a>", "<a>T(x)!()T(y)?(p:)T(z)?(p:)</a>"},
@@ -155,6 +158,35 @@ TEST(Parser, DeliversTheNodesOfADocument) {
       {"<_.-1 _.-2=''/>", "<_.-1 _.-2=''/>"},
       {"<\xC3\xA9\xCC\x81 \xE4\xBA\xBA\xC2\xB7='\xF0\x9F\x98\x80'/>",
        "<\xC3\xA9\xCC\x81 \xE4\xBA\xBA\xC2\xB7='\xF0\x9F\x98\x80'/>"},
+  });
+}
+
+TEST(Parser, GivesTextItsValue) {
+  ExpectAll({
+      {"<a>\n \r\n \n\n text</a>", "<a>T(\\n \\n \\n\\n text)</a>"},
+      {"<a>\r \r\r\n \n\n text\r</a>", "<a>T(\\n \\n\\n \\n\\n text\\n)</a>"},
+      {"<a>&#x1f3;&#259;&gt;&lt;&amp;&quot;&apos;</a>", "<a>T(\xC7\xB3\xC4\x83><&\"')</a>"},
+      {"<a>&#32;</a>", "<a>T( )</a>"},
+      {"<a> &#13;\n</a>", "<a>T( \\r\\n)</a>"},
+      {"<a>] ]] ]>&gt; ]]&gt;</a>", "<a>T(] ]] ]>> ]]>)</a>"},
+      {"<a><![CDATA[ ]]data ]]><![CDATA[<![CDATA[ & ]]]]><![CDATA[]]></a>",
+       "<a>C( ]]data )C(<![CDATA[ & ]])C()</a>"},
+      {"<a><![CDATA[\r \r\r\n \n\n ]]></a>", "<a>C(\\n \\n\\n \\n\\n )</a>"},
+      {"<a><!--\r\n-->\r<?p \r\n?></a>", "<a>!(\\n)W(\\n)?(p:)</a>"},
+  });
+}
+
+TEST(Parser, GivesAttributesTheirValue) {
+  ExpectAll({
+      {"<a b=\"a''b\" c='a\"b' d=' ' e=\" v \"/>", "<a b='a''b' c='a\"b' d=' ' e=' v '/>"},
+      {"<a b=\"\r\n \r \n \t\n\r\"/>", "<a b='         '/>"},
+      {"<a b=\"\r\n\tval\n\"/>", "<a b='  val '/>"},
+      {"<a b=\"v&#32;&#x9;&#xA;&#xD;\"/>", "<a b='v \\t\\n\\r'/>"},
+      {"<a b=\"&lt;&gt;&amp;&apos;&quot;&#x10FFFF;\"/>", "<a b='<>&'\"\xF4\x8F\xBF\xBF'/>"},
+      {"<a b='a value of more than sixteen characters > \"plain\"'/>",
+       "<a b='a value of more than sixteen characters > \"plain\"'/>"},
+      {"<a b='a value of more than sixteen characters, &amp; more'/>",
+       "<a b='a value of more than sixteen characters, & more'/>"},
   });
 }
 
@@ -294,6 +326,14 @@ TEST(Parser, KeepsTheRulesOfNamespaces) {
       {"<a xmlns:p='http://www.w3.org/XML/1998/namespace'/>", "", NC_E_XMLURIRESERVED},
       {"<a xmlns='http://www.w3.org/2000/xmlns/'/>", "", NC_E_XMLNSURIRESERVED},
   });
+  // The parts of a name, in end tags as well.
+  ExpectOutcome("<p:a xmlns:p='u'><b><pq:c xmlns:pq='v'></pq:c></b></p:a>",
+                {"<p:a xmlns:p='u'><b><pq:c xmlns:pq='v'></pq:c></b></p:a>"});
+  // A prefix that is bound anew, and is what it was afterwards.
+  ExpectOutcome("<a xmlns:p='u' xmlns:q='v'><b xmlns:p='v'><c p:x='' q:x=''/></b></a>",
+                {"<a xmlns:p='u' xmlns:q='v'><b xmlns:p='v'>", WC_E_UNIQUEATTRIBUTE});
+  ExpectOutcome("<a xmlns:p='u' xmlns:q='v'><b xmlns:p='v'/><c p:x='' q:x=''/></a>",
+                {"<a xmlns:p='u' xmlns:q='v'><b xmlns:p='v'/><c p:x='' q:x=''/></a>"});
 }
 
 TEST(Parser, RefusesWhatIsNoCharacter) {
@@ -320,6 +360,19 @@ TEST(Parser, RefusesWhatIsNoCharacter) {
       {"<?xml version='1.0'?>\n\0"sv, "DW(\\n)", WC_E_SYNTAX},
       {"\xFF", "", WC_E_SYNTAX},
   });
+}
+
+TEST(Parser, ForgetsADocumentThatBrokeOff) {
+  TextStream first("<a xmlns:p='u'><b><c x='");
+  TextStream second("<p:b/>");
+  Parser parser;
+  parser.SetInput(&first, false);
+  Steps steps;
+  while (steps.Take() && parser.Read() == ReadResult::kNode) {
+  }
+  parser.SetInput(&second, false);
+  EXPECT_EQ(parser.Read(), ReadResult::kFault);
+  EXPECT_EQ(parser.fault(), NC_E_UNDECLAREDPREFIX);
 }
 
 // ---- encodings ---------------------------------------------------------------------------------
@@ -364,6 +417,13 @@ TEST(Parser, ReadsItsEncodings) {
   ExpectOutcome("\xEF\xBB\xBF" + ascii, {"", MX_E_ENCODINGSWITCH});
 }
 
+TEST(Parser, IgnoresTheDeclaredEncodingOfConvertedText) {
+  const std::string text = "<?xml version='1.0' encoding='UTF-16'?><a b='\xC3\xA9'/>";
+  ExpectOutcome(text, {"D<a b='\xC3\xA9'/>"}, true);
+  ExpectOutcome("<?xml version='1.0' encoding='ISO-8859-1'?><a b='\xC3\xA9'/>",
+                {"D<a b='\xC3\xA9'/>"}, true);
+}
+
 // ---- limits ------------------------------------------------------------------------------------
 
 std::string Repeat(std::string_view piece, std::size_t count) {
@@ -379,6 +439,25 @@ TEST(Parser, Allows256OpenElements) {
   ExpectOutcome(nest(257), {Repeat("<a>", 256), SC_E_MAXELEMENTDEPTH});
   ExpectOutcome(Repeat("<a>", 255) + Repeat("<a>x</a>", 300),
                 {Repeat("<a>", 255) + Repeat("<a>T(x)</a>", 300), MX_E_INPUTEND});
+}
+
+TEST(Parser, EndsOnEveryPrefixOfADocument) {
+  const std::string_view document =
+      "<?xml version='1.0' encoding='UTF-8'?>\n<!-- c --><r:a xmlns:r='u' b='&lt;&#x41;'>"
+      "text\r\n &amp; <![CDATA[ ]] ]]><?p d?><b c=\"\xC3\xA9\"/>\xE2\x82\xAC</r:a><!-- e -->\n";
+  TextStream whole(document);
+  const Outcome all = Parse(whole);
+  EXPECT_EQ(all.fault, S_OK);
+  for (std::size_t size = 0; size < document.size(); ++size) {
+    for (const std::size_t block : {std::size_t{1}, document.size()}) {
+      TextStream stream(document.substr(0, size), block);
+      const Outcome outcome = Parse(stream);
+      // A text may have been cut; all other nodes are those of the whole document.
+      const std::size_t last = outcome.nodes.rfind("T(");
+      const std::size_t same = std::min(last, outcome.nodes.size());
+      EXPECT_EQ(outcome.nodes.substr(0, same), all.nodes.substr(0, same)) << size;
+    }
+  }
 }
 
 // A token that is cut off is scanned anew each time there is more: that must not be often.
@@ -445,6 +524,17 @@ TEST(Parser, TakesHostileSizesInItsStride) {
   EXPECT_EQ(count_nodes(comment), 2U);
   RepeatingStream blanks("<?xml version='1.0'", " ", kPieces, "?><a/>");
   EXPECT_EQ(count_nodes(blanks), 2U);
+}
+
+TEST(Parser, ReadsAValueOf64MiB) {
+  constexpr std::size_t kSize = std::size_t{64} << 20;
+  RepeatingStream stream("<a b='", std::string(4096, 'v'), kSize / 4096, "'/>");
+  Parser parser;
+  parser.SetInput(&stream, false);
+  ASSERT_EQ(parser.Read(), ReadResult::kNode);
+  ASSERT_EQ(parser.attributes().size(), 1U);
+  EXPECT_EQ(parser.attributes()[0].value.size(), kSize);
+  EXPECT_EQ(parser.Read(), ReadResult::kEnd);
 }
 
 #if !defined(_WIN32)

@@ -86,6 +86,47 @@ TEST_F(Reader, FindsAttributesByName) {
   EXPECT_EQ(Attribute(1), kNoValue);
 }
 
+TEST_F(Reader, GivesNamesAndValues) {
+  Open(
+      "<p:\xC3\xA9 xmlns:p='u' \xC3\xA9='\xF0\x9F\x98\x80'>a long run of text &amp; "
+      "\xE2\x82\xAC<?target some\r\ndata?><![CDATA[a\rb]]><!-- c --> \r </p:\xC3\xA9>");
+  MoveTo(XmlNodeType_Element);
+  EXPECT_EQ(LocalName(), L"\u00E9");
+  EXPECT_EQ(Value(), L"");
+  MoveTo(XmlNodeType_Text);
+  EXPECT_EQ(LocalName(), L"");
+  EXPECT_EQ(Value(), L"a long run of text & \u20AC");
+  MoveTo(XmlNodeType_ProcessingInstruction);
+  EXPECT_EQ(LocalName(), L"target");
+  EXPECT_EQ(Value(), L"some\ndata");
+  MoveTo(XmlNodeType_CDATA);
+  EXPECT_EQ(Value(), L"a\nb");
+  MoveTo(XmlNodeType_Comment);
+  EXPECT_EQ(Value(), L" c ");
+  MoveTo(XmlNodeType_Whitespace);
+  EXPECT_EQ(Value(), L" \n ");
+  MoveTo(XmlNodeType_EndElement);
+  EXPECT_EQ(LocalName(), L"\u00E9");
+}
+
+TEST_F(Reader, StartsAfreshOnANewInput) {
+  const TextStream& first = Open("<a><b></c>");
+  MoveTo(XmlNodeType_Element);
+  MoveTo(XmlNodeType_Element);
+  XmlNodeType type = XmlNodeType_None;
+  EXPECT_EQ(reader_.Read(&type), WC_E_ELEMENTMATCH);
+  EXPECT_EQ(type, XmlNodeType_None);
+  EXPECT_EQ(LocalName(), L"");
+  const TextStream& second = Open("<d/>");
+  EXPECT_EQ(first.references, 1U);
+  MoveTo(XmlNodeType_Element);
+  EXPECT_EQ(LocalName(), L"d");
+  EXPECT_EQ(reader_.Read(&type), S_FALSE);
+  EXPECT_EQ(reader_.SetInput(nullptr), S_OK);
+  EXPECT_EQ(second.references, 1U);
+  EXPECT_TRUE(FAILED(reader_.Read(&type)));
+}
+
 #if !defined(_WIN32)
 TEST_F(Reader, SurvivesARunOutOfMemory) {
   // A text and a start tag that are larger than a block, and values that have to be decoded.

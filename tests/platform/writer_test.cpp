@@ -27,6 +27,33 @@ std::string Written(const Calls& calls) {
   return sink.text.substr(std::min(kDeclaration.size(), sink.text.size()));
 }
 
+TEST(Writer, LaysADocumentOut) {
+  const auto written = Written([](XmlWriter& writer) {
+    EXPECT_EQ(writer.WriteStartElement(L"a"), S_OK);
+    EXPECT_EQ(writer.WriteStartElement(L"b"), S_OK);
+    EXPECT_EQ(writer.WriteAttribute(L"x", L"1"), S_OK);
+    EXPECT_EQ(writer.WritePlainAttribute(L"y", "2"), S_OK);
+    EXPECT_EQ(writer.WriteAttribute(L"z", L""), S_OK);
+    EXPECT_EQ(writer.WriteEnd(), S_OK);
+    EXPECT_EQ(writer.WriteLineFeed(), S_OK);
+    EXPECT_EQ(writer.WriteStartElement(L"c"), S_OK);
+    EXPECT_EQ(writer.WriteFullEnd(), S_OK);
+    EXPECT_EQ(writer.WriteElement(L"d", L"text"), S_OK);
+    EXPECT_EQ(writer.WriteElement(L"e", L""), S_OK);
+    EXPECT_EQ(writer.WritePlainElement(L"e", "12"), S_OK);
+    EXPECT_EQ(writer.WriteEmptyElement(L"e"), S_OK);
+    EXPECT_EQ(writer.WriteStartElement(L"ANameOfTheGreatestLengthThatATableCanHave123"), S_OK);
+    EXPECT_EQ(writer.WriteAttribute(L"ANameOfTheGreatestLengthThatATableCanHave123", L""), S_OK);
+    EXPECT_EQ(writer.WriteStartElement(L"f"), S_OK);
+    EXPECT_EQ(writer.WriteEndDocument(), S_OK);
+  });
+  EXPECT_EQ(written,
+            "<a>\n  <b x=\"1\" y=\"2\" z=\"\"/>\n  <c></c>\n  <d>text</d>\n  <e></e>\n"
+            "  <e>12</e>\n  <e/>\n  <ANameOfTheGreatestLengthThatATableCanHave123 "
+            "ANameOfTheGreatestLengthThatATableCanHave123=\"\">\n    <f/>\n"
+            "  </ANameOfTheGreatestLengthThatATableCanHave123>\n</a>\n");
+}
+
 TEST(Writer, EscapesSoThatAllCanBeReadBack) {
   struct Case {
     const wchar_t* value;
@@ -194,6 +221,23 @@ TEST(Writer, StaysRefusingAfterACallThatIsNotAllowed) {
   EXPECT_EQ(writer.WriteLineFeed(), S_OK);
   EXPECT_EQ(writer.WriteStartDocument(), WR_E_INVALIDACTION);
   EXPECT_EQ(writer.SetOutput(nullptr), S_OK);
+}
+
+TEST(Writer, EndsTheDocumentWhenItsOutputIsTakenAway) {
+  SinkStream first;
+  SinkStream second;
+  {
+    XmlWriter writer;
+    ASSERT_EQ(writer.SetOutput(&first), S_OK);
+    EXPECT_EQ(writer.WriteStartElement(L"a"), S_OK);
+    EXPECT_EQ(writer.WriteStartElement(L"b"), S_OK);
+    ASSERT_EQ(writer.SetOutput(&second), S_OK);
+    EXPECT_EQ(first.references, 1U);
+    EXPECT_EQ(writer.WriteStartElement(L"c"), S_OK);
+  }
+  EXPECT_EQ(second.references, 1U);
+  EXPECT_EQ(first.text, "<a>\n  <b/>\n</a>\n");
+  EXPECT_EQ(second.text, "<c/>\n");
 }
 
 TEST(Writer, KeepsWhatTheStreamRefuses) {

@@ -92,6 +92,13 @@ TEST_F(ManagerReader, RefusesAFileThatAnotherHoldsOpen) {
   CloseHandle(held);
   EXPECT_EQ(reader_.OpenFile(file.Wide().c_str()), 0);
 }
+#else
+TEST_F(ManagerReader, DoesNotWaitForPipesAndDevices) {
+  const TempFile pipe;
+  ASSERT_EQ(std::system(("mkfifo " + pipe.path().string()).c_str()), 0);
+  EXPECT_EQ(reader_.OpenFile(pipe.Wide().c_str()), -101);
+  EXPECT_EQ(reader_.OpenFile(L"/dev/zero"), -101);
+}
 #endif
 
 TEST_F(ManagerReader, StopsOnTheRoot) {

@@ -286,6 +286,26 @@ TEST_F(ManagerWriter, RemembersThatMemoryRanOut) {
   EXPECT_EQ(tolvaGetLastError(), 0x8007000EU);
   EXPECT_TRUE(Holds("<a/>"));
 }
+
+TEST_F(ManagerWriter, ReportsAFullDisk) {
+  ASSERT_EQ(writer_.OpenFile(L"/dev/full"), 0);
+  ASSERT_EQ(writer_.StartElement(L"a"), 0);
+  for (int again = 0; again < 2; ++again) {
+    tolvaSetLastError(0);
+    EXPECT_EQ(writer_.Close(), -101);
+    EXPECT_EQ(tolvaGetLastError(), 0x80070070U);
+  }
+  Open();  // the writer can be used for another file
+  ASSERT_EQ(writer_.StartElement(L"b"), 0);
+  EXPECT_EQ(writer_.Close(), 0);
+  EXPECT_TRUE(Holds("<b/>"));
+}
+
+TEST_F(ManagerWriter, DoesNotWriteToPipes) {
+  const TempFile pipe;
+  ASSERT_EQ(std::system(("mkfifo " + pipe.path().string()).c_str()), 0);
+  EXPECT_EQ(writer_.OpenFile(pipe.Wide().c_str()), -101);
+}
 #endif
 
 /// The characters that XML allows, but for most of the planes beyond the first.
