@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/system.h"
+#include "cli/files.h"
 #include "platform/xml/encoding.h"
 
 namespace tolva::cli {
@@ -16,7 +16,7 @@ struct ByteForm {
 };
 
 /// The form of a document in an encoding that the library reads.
-ByteForm FormOf(platform::ISequentialStream& stream);
+ByteForm FormOf(ISequentialStream& stream);
 
 /// The text of such a document, in UTF-8 and with LF as line end. What is no character becomes a
 /// byte that is not UTF-8.

@@ -49,7 +49,7 @@ void ExpectStable(const std::string& document) {
   Expect(!json.empty(), "that it can be converted");
   file.Write(json);
   const std::string back = Result(file, {"convert", "--to", "xml"});
-  const cli::ByteForm form = cli::FormOf(document);
+  const cli::ByteForm form = cli::FormOf(*cli::StreamOf(document).Get());
   Expect(cli::FormEncoder(form).Encode(back) == document, "that it comes back");
 }
 
