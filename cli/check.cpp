@@ -30,7 +30,7 @@ constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
 
 struct Options {
   InputOptions inputs;
-  std::string type;
+  ExpectedType type;
   std::string format = "text";
   std::vector<std::string> ignored;
   std::uint64_t most = kNoLimit;
@@ -256,6 +256,7 @@ class Check {
   Check(Session& session, const Options& options)
       : session_(session),
         options_(options),
+        expected_(options.type.document()),
         format_(MakeCheckFormat(options.format, session.OutStyle(), options.is_strict)),
         printer_(session, *format_, options.most, options.is_quiet) {
     for (const CodeInfo& info : Codes()) {
@@ -263,7 +264,6 @@ class Check {
         ignored_.insert(info.code);
       }
     }
-    if (!options.type.empty()) expected_ = &DocumentOf(options.type);
   }
 
   int Run() {
@@ -343,10 +343,10 @@ class Check {
 
   Session& session_;
   const Options& options_;
+  const Document* const expected_;
   const std::unique_ptr<CheckFormat> format_;
   Printer printer_;
   std::set<Code> ignored_;
-  const Document* expected_ = nullptr;
   Progress* progress_ = nullptr;
   std::vector<Input> files_;
   std::atomic<std::size_t> next_ = 0;
@@ -365,8 +365,7 @@ void AddCheck(CLI::App& tool, Session& session) {
       "documents of the agent are skipped.");
   const auto options = std::make_shared<Options>();
   AddInputs(verb, options->inputs);
-  verb.add_option("--type", options->type, "the document that each file has to be.")
-      ->type_name("DOCUMENT");
+  options->type.AddTo(verb);
   verb.add_flag("--strict", options->is_strict,
                 "warnings count as errors for the exit status, and nothing is skipped.");
   std::vector<std::string> codes;

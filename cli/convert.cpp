@@ -20,7 +20,7 @@ struct Options {
   std::string form;
   std::string file = "-";
   std::string stdin_name = "standard input";
-  std::string type;
+  ExpectedType type;
   bool drops = false;
   Destination destination;
 };
@@ -41,14 +41,16 @@ std::string XmlOf(const std::string& text, const std::string& name, const Docume
 }
 
 int Convert(Session& session, const Options& options) {
-  const Document* const expected = options.type.empty() ? nullptr : &DocumentOf(options.type);
-  const bool is_standard_input = options.file == "-";
-  const Input input = {.name = is_standard_input ? options.stdin_name : options.file,
-                       .is_standard_input = is_standard_input};
+  const Document* const expected = options.type.document();
+  const Input input = InputOf(options.file, options.stdin_name);
   std::string bytes = ReadBytes(input);
-  Deliver(session, options.destination,
-          options.form == "json" ? JsonOf(std::move(bytes), input.name, expected, options.drops)
-                                 : XmlOf(bytes, input.name, expected, options.drops));
+  if (options.form == "json") {
+    Deliver(session, options.destination,
+            JsonOf(std::move(bytes), input.name, expected, options.drops));
+  } else {
+    DeliverDocument(session, options.destination,
+                    XmlOf(bytes, input.name, expected, options.drops));
+  }
   return kFine;
 }
 
@@ -66,10 +68,8 @@ void AddConvert(CLI::App& tool, Session& session) {
       ->type_name("FILE");
   verb.add_option("--to", options->form, "the form to convert to.")->type_name("FORM")->required();
   AllowOnly(verb, "--to", {"json", "xml"});
-  verb.add_option("--type", options->type, "the document that it has to be.")
-      ->type_name("DOCUMENT");
-  verb.add_option("--stdin-name", options->stdin_name, "what messages call standard input.")
-      ->type_name("NAME");
+  options->type.AddTo(verb);
+  AddStdinName(verb, options->stdin_name);
   AddDropOption(verb, options->drops);
   AddDestination(verb, options->destination);
   AddCommonOptions(verb, session, Formats::kTextOnly);

@@ -21,11 +21,6 @@ struct Options {
   Destination destination;
 };
 
-Input InputOf(const std::string& name, const Options& options) {
-  if (name == "-") return {.name = options.stdin_name, .is_standard_input = true};
-  return {.name = name};
-}
-
 /// Keeps what the document holds, and frees all else that was needed to read it.
 std::unique_ptr<const Tree> TreeOf(const Loaded& loaded, Pool& pool) {
   return std::make_unique<const Tree>(*loaded.document, *loaded.root, pool);
@@ -49,15 +44,15 @@ std::unique_ptr<Comparison> CompareFiles(const Input& from, const Input& to, Lis
 }
 
 int PrintDifferences(Session& session, const Options& options) {
-  if (options.from == "-" && options.to == "-") {
+  const Input from = InputOf(options.from, options.stdin_name);
+  const Input to = InputOf(options.to, options.stdin_name);
+  if (from.is_standard_input && to.is_standard_input) {
     throw Trouble("standard input can only be one of the documents");
   }
-  const DocumentPair names = {InputOf(options.from, options).name,
-                              InputOf(options.to, options).name};
   const ListOrder order = options.ignores_order ? ListOrder::kIsIgnored : ListOrder::kCounts;
-  const std::unique_ptr<Comparison> comparison =
-      CompareFiles(InputOf(options.from, options), InputOf(options.to, options), order);
+  const std::unique_ptr<Comparison> comparison = CompareFiles(from, to, order);
   Compare(*comparison);
+  const DocumentPair names = {from.name, to.name};
   const Secrets secrets = options.shows_secrets ? Secrets::kShown : Secrets::kHidden;
   std::string result;
   if (options.format == "json") {
@@ -94,8 +89,7 @@ void AddDiff(CLI::App& tool, Session& session) {
                 "the order of the items of lists does not count.");
   verb.add_flag("--show-secrets", options->shows_secrets,
                 "shows key material and password hashes, too.");
-  verb.add_option("--stdin-name", options->stdin_name, "what results call standard input.")
-      ->type_name("NAME");
+  AddStdinName(verb, options->stdin_name);
   verb.add_option("--format", options->format, "the form of the result; html is a page.")
       ->type_name("FORMAT");
   AllowOnly(verb, "--format", {"text", "json", "html"});

@@ -40,9 +40,7 @@ class JsonWriter {
 
  private:
   /// File names may have any bytes.
-  static std::string Dump(const Json& json) {
-    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
-  }
+  static std::string Dump(const Json& json) { return DumpJson(json, -1); }
 
   Json Record(const Change& change) {
     ++counts_[static_cast<std::size_t>(change.kind)];

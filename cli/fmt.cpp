@@ -22,7 +22,7 @@ namespace {
 
 struct Options {
   InputOptions inputs;
-  std::string type;
+  ExpectedType type;
   bool checks = false;
   bool shows_diff = false;
   bool is_in_place = false;
@@ -33,7 +33,8 @@ struct Options {
 
 class Formatter {
  public:
-  Formatter(Session& session, const Options& options) : session_(session), options_(options) {
+  Formatter(Session& session, const Options& options)
+      : session_(session), options_(options), expected_(options.type.document()) {
     const bool has_mode = options.checks || options.shows_diff || options.is_in_place;
     if (options.is_in_place && (options.checks || options.shows_diff)) {
       throw Trouble("-i writes; it goes with neither --check nor --diff");
@@ -42,7 +43,6 @@ class Formatter {
       throw Trouble("-o is for one document; it goes with none of -i, --check and --diff");
     }
     makes_document_ = !has_mode;
-    if (!options.type.empty()) expected_ = &DocumentOf(options.type);
   }
 
   int Run() {
@@ -99,8 +99,7 @@ class Formatter {
       if (after == before) return;
       TellDifference(input, TextOf(before, form), TextOf(after, form), document);
     } else if (!options_.is_in_place) {
-      const bool is_shown = session_.out.IsTerminal() && options_.destination.file.empty();
-      Deliver(session_, options_.destination, is_shown ? ShownText(written) : after);
+      DeliverDocument(session_, options_.destination, after);
     } else if (input.is_standard_input) {
       throw Trouble("standard input cannot be written in place");
     } else if (after != before) {
@@ -116,29 +115,18 @@ class Formatter {
       after = WithoutSecrets(after, document);
     }
     const std::string name = Printable(input.name);
-    const std::string diff = UnifiedDiff(session_.out.IsTerminal() ? ShownText(before) : before,
-                                         session_.out.IsTerminal() ? ShownText(after) : after, name,
-                                         name + " (formatted)", session_.OutStyle());
+    const std::string diff =
+        UnifiedDiff(session_.out.IsTerminal() ? PrintableLines(before) : before,
+                    session_.out.IsTerminal() ? PrintableLines(after) : after, name,
+                    name + " (formatted)", session_.OutStyle());
     // Texts that are equal here differ in a byte order mark, in line ends, or in how a secret is
     // written.
     session_.out.Write(diff.empty() ? name + ": the bytes differ, the text does not\n" : diff);
   }
 
-  /// Text for a terminal.
-  static std::string ShownText(std::string_view text) {
-    std::string shown;
-    while (!text.empty()) {
-      const std::size_t end = std::min(text.find_first_of("\n\t"), text.size());
-      shown += Printable(text.substr(0, end));
-      if (end != text.size()) shown += text[end];
-      text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return shown;
-  }
-
   Session& session_;
   const Options& options_;
-  const Document* expected_ = nullptr;
+  const Document* const expected_;
   bool makes_document_ = false;
   bool differs_ = false;
   std::size_t count_ = 0;  ///< documents of the agent
@@ -159,8 +147,7 @@ void AddFmt(CLI::App& tool, Session& session) {
       "written. In folders, XML files that are no documents of the agent are skipped.");
   const auto options = std::make_shared<Options>();
   AddInputs(verb, options->inputs);
-  verb.add_option("--type", options->type, "the document that each file has to be.")
-      ->type_name("DOCUMENT");
+  options->type.AddTo(verb);
   verb.add_flag("--check", options->checks, "prints the names of files that have another form.");
   verb.add_flag("--diff", options->shows_diff, "prints what would change, as a unified diff.");
   verb.add_flag("-i,--in-place", options->is_in_place,

@@ -17,7 +17,7 @@ using Json = nlohmann::ordered_json;
 struct Options {
   std::string file;
   std::vector<std::string> paths;
-  std::string type;
+  ExpectedType type;
   std::string stdin_name = "standard input";
 };
 
@@ -29,18 +29,6 @@ std::optional<std::string> TextAt(const Target& target, const Found& found) {
   const SourceContent* const text = found.element->FindText();
   if (text == nullptr) return std::nullopt;
   return ValueOf(*text);
-}
-
-/// Text of a document as a terminal may get it, line by line.
-std::string PrintableLines(std::string_view text) {
-  std::string printable;
-  for (std::size_t at = 0;;) {
-    const std::size_t end = std::min(text.find_first_of("\t\n", at), text.size());
-    printable += Printable(text.substr(at, end - at));
-    if (end == text.size()) return printable;
-    printable += text[end];
-    at = end + 1;
-  }
 }
 
 class Get {
@@ -143,10 +131,8 @@ class Get {
 };
 
 int Run(Session& session, const Options& options) {
-  const Document* const expected = options.type.empty() ? nullptr : &DocumentOf(options.type);
-  const bool is_standard_input = options.file == "-";
-  const Input input = {.name = is_standard_input ? options.stdin_name : options.file,
-                       .is_standard_input = is_standard_input};
+  const Document* const expected = options.type.document();
+  const Input input = InputOf(options.file, options.stdin_name);
   std::string bytes = ReadBytes(input);
   if (!session.is_json) {
     Source source(input.name, bytes);
@@ -174,10 +160,8 @@ void AddGet(CLI::App& tool, Session& session) {
       ->type_name("FILE")
       ->required();
   verb.add_option("path", options->paths, "what to print.")->type_name("PATH")->required();
-  verb.add_option("--type", options->type, "the document that the file has to be.")
-      ->type_name("DOCUMENT");
-  verb.add_option("--stdin-name", options->stdin_name, "what messages call standard input.")
-      ->type_name("NAME");
+  options->type.AddTo(verb);
+  AddStdinName(verb, options->stdin_name);
   AddCommonOptions(verb, session, Formats::kTextAndJson);
   verb.footer(
       "tolva get policy.xml UserInterface/Mode\n"

@@ -74,8 +74,17 @@ void AddInputs(CLI::App& verb, InputOptions& options) {
       ->required();
   verb.add_flag("-r,--recursive", options.is_recursive,
                 "reads the files *.xml in the folders that are named, and in what is below them.");
-  verb.add_option("--stdin-name", options.stdin_name, "what messages call standard input.")
+  AddStdinName(verb, options.stdin_name);
+}
+
+void AddStdinName(CLI::App& verb, std::string& stdin_name) {
+  verb.add_option("--stdin-name", stdin_name, "what messages call standard input.")
       ->type_name("NAME");
+}
+
+Input InputOf(const std::string& argument, const std::string& stdin_name) {
+  if (argument == "-") return {.name = stdin_name, .is_standard_input = true};
+  return {.name = argument};
 }
 
 std::vector<Input> FindInputs(const InputOptions& options, const ReportTrouble& report) {
@@ -87,12 +96,12 @@ std::vector<Input> FindInputs(const InputOptions& options, const ReportTrouble& 
         report("standard input is named twice");
         continue;
       }
-      finder.inputs.push_back({.name = options.stdin_name, .is_standard_input = true});
+      finder.inputs.push_back(InputOf(name, options.stdin_name));
       continue;
     }
     std::error_code ignored;
     if (!fs::is_directory(PathOf(name), ignored)) {
-      finder.inputs.push_back({.name = name});
+      finder.inputs.push_back(InputOf(name, options.stdin_name));
     } else if (options.is_recursive) {
       finder.AddFolder(PathOf(name));
     } else {

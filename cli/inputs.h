@@ -22,11 +22,17 @@ struct InputOptions {
 /// Adds the arguments FILE..., and the options -r and --stdin-name.
 void AddInputs(CLI::App& verb, InputOptions& options);
 
+/// Adds --stdin-name alone.
+void AddStdinName(CLI::App& verb, std::string& stdin_name);
+
 struct Input {
   std::string name;  ///< the path in UTF-8; elsewhere than on Windows any bytes
   bool is_standard_input = false;
   bool is_from_folder = false;  ///< found in a folder, where other kinds of documents may be
 };
+
+/// The file that an argument names; "-" is standard input.
+Input InputOf(const std::string& argument, const std::string& stdin_name);
 
 /// What is wrong with a file, as a sentence without its full stop.
 using ReportTrouble = std::function<void(const std::string& message)>;

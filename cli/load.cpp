@@ -5,8 +5,8 @@
 #include <optional>
 #include <utility>
 
+#include "cli/byte_form.h"
 #include "cli/check_walk.h"
-#include "cli/session.h"
 #include "cli/text.h"
 #include "support/errors.h"
 #include "xml/reader.h"
@@ -71,6 +71,14 @@ std::string WrittenForm(const Document& document, const node::INode& root) {
     throw Trouble("the library cannot write this '" + document.root().name + "'");
   }
   return bytes;
+}
+
+void DeliverDocument(Session& session, const Destination& destination, std::string_view bytes) {
+  if (!session.out.IsTerminal() || destination.IsFile()) {
+    Deliver(session, destination, bytes);
+  } else {
+    session.out.Write(PrintableLines(TextOf(bytes, FormOf(*StreamOf(bytes).Get()))));
+  }
 }
 
 void ReplaceFile(const Input& input, std::string_view before, std::string_view after,

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "cli/inputs.h"
+#include "cli/session.h"
 #include "cli/tables.h"
 
 namespace tolva::cli {
@@ -30,6 +31,10 @@ Loaded LoadBytes(std::string bytes, const std::string& name, const Document* exp
 
 /// What the library writes for a root node. Throws Trouble if it cannot be written.
 std::string WrittenForm(const Document& document, const node::INode& root);
+
+/// Writes a document where the destination says. A terminal gets it in UTF-8, with LF as line end
+/// and without what terminals obey.
+void DeliverDocument(Session& session, const Destination& destination, std::string_view bytes);
 
 /// Writes a file anew, as a whole or not at all (<tolva/support/save.h>). `before` is what has been
 /// read from it. `is_forced`: even if it has further hard links. Throws Trouble if the file does

@@ -1,5 +1,6 @@
 #include "cli/places.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
 
@@ -155,6 +156,10 @@ const Document& DocumentOf(std::string_view name) {
   }
   if (hint.empty()) hint = "; there are " + Enumerate(names, "and");
   throw Trouble("there is no document '" + Printable(name) + "'" + hint);
+}
+
+void ExpectedType::AddTo(CLI::App& verb) {
+  verb.add_option("--type", name_, "the document that it has to be.")->type_name("DOCUMENT");
 }
 
 Place FindPlace(std::string_view document_and_path) {

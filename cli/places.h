@@ -10,6 +10,10 @@
 
 #include "cli/tables.h"
 
+namespace CLI {
+class App;
+}
+
 namespace tolva::cli {
 
 /// One name of a path, and which of several elements is meant: Name, Name[2], Name[Attribute="x"].
@@ -42,5 +46,17 @@ void ForEachPlace(const Document& document, const std::function<void(const Place
 
 /// The document with that short name or root element. Throws Trouble if there is none.
 const Document& DocumentOf(std::string_view name);
+
+/// The option --type of verbs that read documents: what each has to be.
+class ExpectedType {
+ public:
+  void AddTo(CLI::App& verb);
+
+  /// Null: it may be any document. Throws Trouble if there is none with that name.
+  const Document* document() const { return name_.empty() ? nullptr : &DocumentOf(name_); }
+
+ private:
+  std::string name_;
+};
 
 }  // namespace tolva::cli

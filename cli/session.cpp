@@ -2,6 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -14,6 +16,7 @@
 #include "cli/text.h"
 #include "cli/verbs.h"
 #include "support/errors.h"
+#include "support/unicode.h"
 
 namespace tolva::cli {
 namespace {
@@ -170,9 +173,30 @@ void Deliver(Session& session, const Destination& destination, std::string_view 
   }
 }
 
+std::string DumpJson(const nlohmann::ordered_json& json, int indent) {
+  const std::string dumped =
+      json.dump(indent, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+  std::string text;
+  text.reserve(dumped.size());
+  const char* const end = dumped.data() + dumped.size();
+  for (const char* at = dumped.data(); at != end;) {
+    const char* const start = at;
+    const char32_t c = support::internal::TakeCodePoint(at, end);
+    if (c < 0x7F || !IsControl(c)) {
+      text.append(start, at);
+    } else {
+      // Within a string, and not beyond U+FFFF.
+      std::array<char, 16> escape{};
+      std::snprintf(escape.data(), escape.size(), "\\u%04X", static_cast<unsigned>(c));
+      text += escape.data();
+    }
+  }
+  return text;
+}
+
 std::string JsonText(const nlohmann::ordered_json& json) {
   constexpr int kIndent = 2;
-  return json.dump(kIndent, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+  return DumpJson(json, kIndent) + "\n";
 }
 
 void AllowOnly(CLI::App& verb, std::string_view option, const std::vector<std::string>& values) {

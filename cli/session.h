@@ -85,7 +85,11 @@ void AddDestination(CLI::App& verb, Destination& destination);
 /// Writes a result where the destination says.
 void Deliver(Session& session, const Destination& destination, std::string_view bytes);
 
-/// Prints JSON, indented and with a line feed. Text that is not UTF-8 is repaired.
+/// JSON as text, on one line for an indent of -1. Text that is not UTF-8 is repaired; characters
+/// that a terminal would obey are escaped.
+std::string DumpJson(const nlohmann::ordered_json& json, int indent);
+
+/// The same, indented and with a line feed.
 std::string JsonText(const nlohmann::ordered_json& json);
 
 /// Allows these values alone. The message about any other one names the nearest.

@@ -22,7 +22,7 @@ struct Operation {
 
 struct Options {
   std::string file;
-  std::string type;
+  ExpectedType type;
   std::string stdin_name = "standard input";
   bool is_in_place = false;
   Destination destination;
@@ -108,13 +108,11 @@ int Run(Session& session, const Options& options, const std::vector<Operation>& 
   if (operations.empty()) {
     throw Trouble("'tolva set' needs PATH=VALUE, --unset, --add or --remove");
   }
-  const bool is_standard_input = options.file == "-";
-  if (options.is_in_place && is_standard_input) {
+  const Input input = InputOf(options.file, options.stdin_name);
+  if (options.is_in_place && input.is_standard_input) {
     throw Trouble("standard input cannot be changed in place");
   }
-  const Document* const expected = options.type.empty() ? nullptr : &DocumentOf(options.type);
-  const Input input = {.name = is_standard_input ? options.stdin_name : options.file,
-                       .is_standard_input = is_standard_input};
+  const Document* const expected = options.type.document();
   const std::string before = ReadBytes(input);
   Source source(input.name, before);
   Editor editor(source, source.Recognise(expected));
@@ -128,7 +126,7 @@ int Run(Session& session, const Options& options, const std::vector<Operation>& 
     }
   }
   if (!options.is_in_place) {
-    Deliver(session, options.destination, after);
+    DeliverDocument(session, options.destination, after);
   } else if (after != before) {
     ReplaceFile(input, before, after, options.destination.is_forced);
   }
@@ -170,10 +168,8 @@ void AddSet(CLI::App& tool, Session& session) {
   verb.get_option("--output")->excludes(in_place);
   verb.get_option("--force")->description(
       "replaces the file of -o if it exists; with -i, a file that has further hard links.");
-  verb.add_option("--type", options->type, "the document that the file has to be.")
-      ->type_name("DOCUMENT");
-  verb.add_option("--stdin-name", options->stdin_name, "what messages call standard input.")
-      ->type_name("NAME");
+  options->type.AddTo(verb);
+  AddStdinName(verb, options->stdin_name);
   AddCommonOptions(verb, session, Formats::kTextOnly);
   verb.footer(
       "tolva set -i policy.xml UserInterface/Mode=SILENT Log/MaxLogSize=1000000\n"

@@ -25,24 +25,6 @@ std::string NativeToUtf8(const Text& path) {
 
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-/// Whether a terminal obeys the character instead of showing it, or XML does not allow it.
-bool IsControl(char32_t c) {
-  struct Range {
-    char32_t first;
-    char32_t last;
-  };
-  constexpr Range kRanges[] = {
-      {0x00, 0x1F},     {0x7F, 0x9F},                        // commands
-      {0x61C, 0x61C},   {0x200E, 0x200F}, {0x202A, 0x202E},  // the direction of writing
-      {0x2066, 0x2069},                                      // likewise
-      {0x2028, 0x2029},                                      // ends of lines
-      {0xFEFF, 0xFEFF},                                      // nothing that is seen
-      {0xFFFE, 0xFFFF},                                      // no characters
-  };
-  return std::ranges::any_of(
-      kRanges, [c](const Range& range) { return c >= range.first && c <= range.last; });
-}
-
 void AppendEscaped(std::string_view bytes, std::string& out) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   for (const char c : bytes) {
@@ -83,6 +65,23 @@ std::filesystem::path PathOf(std::string_view utf8) {
 
 std::string NameOf(const std::filesystem::path& path) { return NativeToUtf8(path.native()); }
 
+bool IsControl(char32_t c) {
+  struct Range {
+    char32_t first;
+    char32_t last;
+  };
+  constexpr Range kRanges[] = {
+      {0x00, 0x1F},     {0x7F, 0x9F},                        // commands
+      {0x61C, 0x61C},   {0x200E, 0x200F}, {0x202A, 0x202E},  // the direction of writing
+      {0x2066, 0x2069},                                      // likewise
+      {0x2028, 0x2029},                                      // ends of lines
+      {0xFEFF, 0xFEFF},                                      // nothing that is seen
+      {0xFFFE, 0xFFFF},                                      // no characters
+  };
+  return std::ranges::any_of(
+      kRanges, [c](const Range& range) { return c >= range.first && c <= range.last; });
+}
+
 std::string Printable(std::string_view text) {
   std::string printable;
   const char* const end = text.data() + text.size();
@@ -95,6 +94,17 @@ std::string Printable(std::string_view text) {
     } else {
       printable += bytes;
     }
+  }
+  return printable;
+}
+
+std::string PrintableLines(std::string_view text) {
+  std::string printable;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find_first_of("\t\n"), text.size());
+    printable += Printable(text.substr(0, end));
+    if (end != text.size()) printable += text[end];
+    text.remove_prefix(std::min(end + 1, text.size()));
   }
   return printable;
 }

@@ -22,9 +22,16 @@ std::filesystem::path PathOf(std::string_view utf8);
 /// The name of a path, which PathOf takes.
 std::string NameOf(const std::filesystem::path& path);
 
-/// The text as it may be sent to a terminal: control characters, characters that change the
-/// direction of writing, and bytes that are not UTF-8 are written as escapes such as \x1B.
+/// Whether a terminal obeys the character instead of showing it (control characters, those that
+/// change the direction of writing), or XML does not allow it.
+bool IsControl(char32_t c);
+
+/// The text as it may be sent to a terminal: such characters, and bytes that are not UTF-8, are
+/// written as escapes such as \x1B.
 std::string Printable(std::string_view text);
+
+/// The same for lines of text: tabs and line feeds stay.
+std::string PrintableLines(std::string_view text);
 
 /// The number of columns that printable text takes: one for each character.
 std::size_t Columns(std::string_view text);

@@ -15,35 +15,27 @@ using namespace cli;
 using std::chrono::hours;
 using std::chrono::seconds;
 
-class Terminal final : public Stream {
- public:
-  void Write(std::string_view text) override { shown += text; }
-  bool IsTerminal() const override { return true; }
-
-  std::string shown;
-};
-
 TEST(Progress, IsALineOnATerminal) {
-  Terminal terminal;
+  TerminalOutput terminal;
   Progress progress(terminal, {.bytes = 200, .files = 3}, seconds(0));
   progress.Add({.bytes = 50, .files = 1});
-  EXPECT_EQ(terminal.shown, "\r\x1B[K25 %, 1 of 3 files");
-  terminal.shown.clear();
+  EXPECT_EQ(terminal.text(), "\r\x1B[K25 %, 1 of 3 files");
+  terminal.Clear();
   progress.StepAside([&] { terminal.Write("text"); });
   progress.StepAside([&] { terminal.Write("more"); });
-  EXPECT_EQ(terminal.shown, "\r\x1B[Ktextmore");
+  EXPECT_EQ(terminal.text(), "\r\x1B[Ktextmore");
 
   Progress later(terminal, {}, hours(1));
   TextOutput file;
   Progress unseen(file, {}, seconds(0));
   for (Progress* const silent : {&later, &unseen}) silent->Add({.bytes = 1});
-  EXPECT_EQ(terminal.shown, "\r\x1B[Ktextmore");
+  EXPECT_EQ(terminal.text(), "\r\x1B[Ktextmore");
   EXPECT_EQ(file.text(), "");
 }
 
 #if !defined(_WIN32)
 TEST(Interrupt, EndsAReadAndNotTheProcess) {
-  Terminal terminal;
+  TerminalOutput terminal;
   Progress progress(terminal, {});
   const auto stream = Watch(*StreamOf("text").Get(), progress);
   char byte = 0;

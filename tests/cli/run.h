@@ -15,17 +15,23 @@ struct Outcome {
 };
 
 /// Keeps what is written.
-class TextOutput final : public cli::Stream {
+class TextOutput : public cli::Stream {
  public:
   explicit TextOutput(std::size_t width = kCommonWidth) : width_(width) {}
 
   void Write(std::string_view text) override { text_ += text; }
   std::size_t Width() const override { return width_; }
   const std::string& text() const { return text_; }
+  void Clear() { text_.clear(); }
 
  private:
   const std::size_t width_;
   std::string text_;
+};
+
+class TerminalOutput final : public TextOutput {
+ public:
+  bool IsTerminal() const override { return true; }
 };
 
 inline Outcome RunTool(const std::vector<std::string>& arguments, std::size_t width = 80) {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "cli/run.h"
+#include "support/files.h"
+
 namespace tolva::test {
 namespace {
 
@@ -24,6 +27,38 @@ TEST(Text, IsPrintedWithoutWhatTerminalsObey) {
   EXPECT_EQ(Printable(std::string("a\0b", 3)), "a\\x00b");
   EXPECT_EQ(Printable("\xEF\xBF\xBD\xEF\xBF\xBF"),
             "\xEF\xBF\xBD\\xEF\\xBF\\xBF");  // U+FFFD, U+FFFF
+}
+
+/// Whatever verb prints it. Files get what there is.
+TEST(Text, OfDocumentsIsShownOnTerminals) {
+  const std::string turn = ToUtf8(std::wstring(1, wchar_t{0x202E}));
+  const std::string document = "<ActiveDirectory><DefaultDomain Enabled=\"1\" Name=\"\u009B" +
+                               turn + "\u00FC\"/></ActiveDirectory>";
+  std::string wide = "\xFF\xFE";
+  for (const wchar_t c : ToWide(document)) {
+    wide += {static_cast<char>(c & 0xFF), static_cast<char>(c >> 8)};
+  }
+  for (const std::string& bytes : {document, wide}) {
+    const TempFile file(bytes);
+    const std::string name = NameOf(file.path());
+    const std::vector<std::string> path = {"get", name, "DefaultDomain/Name"};
+    const std::vector<std::string> set = {"set", name, "DefaultDomain/Enabled=0"};
+    for (const std::vector<std::string>& verb : {path,
+                                                 set,
+                                                 {"get", name, "DefaultDomain", "--format", "json"},
+                                                 {"fmt", name},
+                                                 {"convert", name, "--to", "json"}}) {
+      TerminalOutput out;
+      TextOutput err;
+      EXPECT_EQ(cli::Run(verb, out, err), 0) << err.text();
+      const std::string& shown = out.text();
+      EXPECT_EQ(shown.find("\u009B"), std::string::npos) << verb[0];
+      EXPECT_EQ(shown.find(turn), std::string::npos) << verb[0];
+      EXPECT_EQ(shown.find('\0'), std::string::npos) << verb[0];
+      EXPECT_NE(shown.find("\u00FC"), std::string::npos) << verb[0];
+    }
+    EXPECT_EQ(RunTool(path).out, "\u009B" + turn + "\u00FC\n");
+  }
 }
 
 TEST(Text, IsWrapped) {
