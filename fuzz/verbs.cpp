@@ -19,7 +19,9 @@ Outcome Run(const MemoryFile& file, std::vector<std::string> arguments) {
   arguments.insert(arguments.begin() + 1, cli::ToUtf8(file.path()));
   Outcome outcome = test::RunTool(arguments);
   Expect(outcome.status >= 0 && outcome.status <= 2, "an exit status");
-  const bool is_absence = arguments[0] == "get" && outcome.status == 1;
+  // JSON tells of absence itself.
+  const bool is_absence =
+      arguments[0] == "get" && outcome.status == 1 && arguments.back() != "json";
   Expect((outcome.status == 2 || is_absence) == !outcome.err.empty(),
          "words about trouble, and no others");
   std::string_view rest = outcome.err;
