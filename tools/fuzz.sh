@@ -1,6 +1,7 @@
 #!/bin/bash
-# The fuzz targets, which build/fuzz has (preset `fuzz`).
-#   fuzz.sh replay                      every known input once
+# The fuzz targets, which build/fuzz has (preset `fuzz`). The sanitizers' build has them as well, without
+# what guides the search.
+#   fuzz.sh replay [build]              every known input once; the build is build/fuzz unless named
 #   fuzz.sh run <seconds> [target...]   looks for new ones, all targets unless some are named
 # Known inputs are the example documents and fuzz/corpus/<target>; new ones are kept in
 # build/fuzz/corpus/<target>, and what fails in build/fuzz/findings.
@@ -26,11 +27,13 @@ make_dictionary() {
 
 case ${1:-} in
   replay)
+    build=${2:-build/fuzz}
     for target in "${all[@]}"; do
       # shellcheck disable=SC2046  # names of folders
-      build/fuzz/fuzz/fuzz_"$target" -runs=0 "${limits[@]}" $(known "$target") 2> build/fuzz/log ||
-        { tail -n 40 build/fuzz/log; exit 1; }
-      echo "$target: $(sed -n 's/.*INITED.*corp: \([0-9]*\).*/\1/p' build/fuzz/log) inputs"
+      mapfile -t files < <(find $(known "$target") -type f)
+      "$build/fuzz/fuzz_$target" "${limits[@]}" "${files[@]}" 2> "$build/log" ||
+        { tail -n 40 "$build/log"; exit 1; }
+      echo "$target: $(grep -c '^Executed' "$build/log") inputs"
     done
     ;;
   run)
@@ -49,7 +52,7 @@ case ${1:-} in
     done
     ;;
   *)
-    sed -n '2,6p' "$0" >&2
+    sed -n '3,8p' "$0" >&2
     exit 2
     ;;
 esac

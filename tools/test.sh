@@ -1,9 +1,9 @@
 #!/bin/bash
 # Runs everything that can fail: each build with its tests, and the checks of the sources and of the
-# binary interface. Ends with one line of totals; fails when anything did.
+# binary interface. Two parts run at a time, as many of them do one thing after the other; what a part
+# says is printed when it is done. Ends with one line of totals; fails when anything did.
 #   test.sh [part...]      only these parts: sources linux speed conformance sanitizers valgrind
-#                          fuzz windows windows-own abi packages tidy; or quick, what to run after each
-#                          change
+#                          windows windows-own abi packages tidy; or quick, what to run after each change
 set -u
 cd "$(dirname "$0")/.." || exit
 
@@ -149,9 +149,14 @@ compare_factories() {
     <(sed -n 's/^TOLVA_FACTORY([^,]*, *\([^,]*\),.*/\1/p' src/exports/factories.def | sort)
 }
 
+# What several parts test.
+part_build() {
+  echo 'Linux, GCC, optimised: build'
+  build linux-release
+}
+
 part_linux() {
   echo 'Linux, GCC, optimised'
-  build linux-release || return
   programs linux-release
   check 'linux-release: exported symbols' tools/abi.sh linux
   demo linux-release
@@ -212,14 +217,12 @@ part_quick() {
 
 part_speed() {
   echo 'Instructions and allocations'
-  build linux-release || return
   check 'cost of a read and a write' tools/instructions.sh build/linux-release/bench/tolva_guard
 }
 
 # What is compared with a standard that has to be fetched.
 part_conformance() {
   echo 'W3C conformance suite, schema of SARIF'
-  build linux-release || return
   fetched conformance build/linux-release/tests/tolva_conformance
   fetched sarif build/linux-release/cli/tolva
 }
@@ -241,11 +244,11 @@ part_sanitizers() {
   TOLVA_DIFFERENTIAL_LENGTH=4 programs linux-asan
   demo linux-asan
   tool linux-asan
+  check 'linux-asan: known inputs of the fuzz targets' tools/fuzz.sh replay build/linux-asan
 }
 
 part_valgrind() {
   echo 'Linux, GCC, valgrind'
-  build linux-release || return
   local program
   # valgrind would replace the tests' own operator new, which makes memory run out. Random documents
   # through the tool take minutes here; the sanitizers see them.
@@ -255,12 +258,6 @@ part_valgrind() {
       "build/linux-release/tests/tolva_${program}_tests" --gtest_brief=1 \
       --gtest_filter='-AllDocuments/*:Diff.TellsNoMore*:Set.ChangesNothingElse:Fmt.ChecksWhat*:Convert.RefusesWhat*:Convert.SaysWhere*'
   done
-}
-
-part_fuzz() {
-  echo 'Fuzz targets, known inputs'
-  build fuzz || return
-  check 'fuzz: replay' tools/fuzz.sh replay
 }
 
 part_windows() {
@@ -314,15 +311,54 @@ part_tidy() {
   check 'clang-tidy' tools/tidy.py
 }
 
-parts=("$@")
-[ ${#parts[@]} != 0 ] || parts=(sources linux speed conformance sanitizers valgrind fuzz windows windows-own abi packages tidy)
-for part in "${parts[@]}"; do
-  if [ "$(type -t "part_$part")" = function ]; then
-    "part_$part"
+# run <part>: what came of it is kept in a file
+run() {
+  if [ "$(type -t "part_$1")" = function ]; then
+    time "part_$1"
   else
-    count_check no "there is no part '$part'"
+    count_check no "there is no part '$1'"
   fi
-done
+  printf '%s\n' "$passed $failed $skipped" ${failures[@]+"${failures[@]}"} > "$results/$1.counts"
+}
+TIMEFORMAT='  (%0lR, %0lU of processor time)'
+
+add_up() { # <part>
+  local counts
+  if [ ! -s "$results/$1.counts" ]; then
+    count_check no "$1: it did not end"
+    return
+  fi
+  mapfile -t counts < "$results/$1.counts"
+  # shellcheck disable=SC2086  # three numbers
+  set -- ${counts[0]}
+  passed=$((passed + $1))
+  failed=$((failed + $2))
+  skipped=$((skipped + $3))
+  failures+=("${counts[@]:1}")
+}
+
+# Long parts first, so that both processors are busy to the end.
+parts=("$@")
+[ ${#parts[@]} != 0 ] || parts=(tidy sanitizers windows packages valgrind windows-own linux abi
+  conformance speed sources)
+case " ${parts[*]} " in
+  *\ linux\ * | *\ speed\ * | *\ conformance\ * | *\ valgrind\ *) (run build) 2>&1 && add_up build ;;
+esac
+if [ ${#parts[@]} = 1 ]; then
+  (run "${parts[0]}") 2>&1
+else
+  started=0
+  for part in "${parts[@]}"; do
+    [ $started -lt 2 ] || wait -n
+    started=$((started + 1))
+    (
+      run "$part" > "$results/$part.out" 2>&1
+      flock "$results" cat "$results/$part.out"
+    ) &
+  done
+  wait
+fi
+for part in "${parts[@]}"; do add_up "$part"; done
 
 seconds=$((SECONDS - start))
 for failure in ${failures[@]+"${failures[@]}"}; do echo "failed: $failure"; done
