@@ -2,6 +2,7 @@
 
 import base64
 import json
+import pathlib
 import re
 import subprocess
 import urllib.request
@@ -71,3 +72,29 @@ class Browser:
     def print(self, file):
         with open(file, 'wb') as document:
             document.write(base64.b64decode(self._call('POST', '/print')))
+
+    def expect(self, what, script, *arguments):
+        if self.run(script, *arguments) is not True:
+            raise AssertionError(what)
+
+
+def try_page(file, use, folder=None):
+    """Opens a page in wide and narrow windows, light and dark. `use` gets the first of them; the folder,
+    if any, gets screenshots."""
+    for name, width, dark in (('wide', 1400, False), ('narrow', 500, False), ('dark', 1000, True)):
+        with Browser(width, 1000, dark) as browser:
+            browser.open(file.as_uri())
+            if name == 'wide':
+                use(browser)
+            unfold = "document.getElementById('unfold')"
+            browser.run(f"if ({unfold}) {unfold}.click()")
+            browser.expect('it is no wider than the window',
+                           'return document.documentElement.scrollWidth <= innerWidth')
+            browser.expect('it follows the system\'s colours',
+                           "const ground = getComputedStyle(document.body).backgroundColor;"
+                           "return (ground.match(/\\d+/)[0] < 128) === arguments[0]", dark)
+            problems = browser.problems()
+            if problems:
+                raise AssertionError(problems)
+            if folder:
+                browser.screenshot(pathlib.Path(folder) / f'{name}.png')

@@ -8,8 +8,7 @@ import subprocess
 import sys
 import tempfile
 
-from browser import Browser
-from page import Page
+from browser import try_page
 
 ESCAPE = '\ue00c'
 
@@ -32,43 +31,43 @@ def edited(policy):
     return policy.replace('<LocationArray>', '<LocationArray>' + moved, 1)
 
 
-def use(browser, page):
+def use(browser):
     shown = browser.run(f"return {SHOWN}.map((row) => row.dataset.kind).sort().join()")
     if shown != 'added,changed,changed,changed,moved,removed':
         raise AssertionError(shown)
-    page.expect('the counts are at the top',
-                "return [...document.querySelectorAll('.kind')].map((one) => one.textContent).join() ==="
-                " '~3 changed,+1 added,−1 removed,⇅1 moved'")
-    page.expect('what differs within a value is marked',
-                "return document.querySelector('del').textContent === 'Wired' &&"
-                " document.querySelector('ins').textContent === 'Wireless'")
-    page.expect('text is no markup, nor turned around',
-                "return document.querySelector('.added b').textContent === '<b>\\\\xE2\\\\x80\\\\xAE'")
-    page.expect('secrets are not there', "return !document.documentElement.outerHTML.includes('SECRET')")
-    page.expect('what is the same is folded', "return !document.querySelector('.same[open]')")
+    browser.expect('the counts are at the top',
+                   "return [...document.querySelectorAll('.kind')].map((one) => one.textContent).join() ==="
+                   " '~3 changed,+1 added,−1 removed,⇅1 moved'")
+    browser.expect('what differs within a value is marked',
+                   "return document.querySelector('del').textContent === 'Wired' &&"
+                   " document.querySelector('ins').textContent === 'Wireless'")
+    browser.expect('text is no markup, nor turned around',
+                   "return document.querySelector('.added b').textContent === '<b>\\\\xE2\\\\x80\\\\xAE'")
+    browser.expect('secrets are not there', "return !document.documentElement.outerHTML.includes('SECRET')")
+    browser.expect('what is the same is folded', "return !document.querySelector('.same[open]')")
     browser.click('.card .same > summary')
-    page.expect('it unfolds', "return document.querySelector('.card .same .content').checkVisibility()")
+    browser.expect('it unfolds', "return document.querySelector('.card .same .content').checkVisibility()")
 
     browser.click('.kind.changed')
-    page.expect('a kind is hidden', f"return {SHOWN}.length === 3")
+    browser.expect('a kind is hidden', f"return {SHOWN}.length === 3")
     browser.click('.kind.changed')
     browser.type('/removablemedia')
-    page.expect('a path is found', f"return {SHOWN}.length === 1 && {SHOWN}[0].dataset.kind === 'removed'")
-    page.expect('sections without differences are gone',
-                "return [...document.querySelectorAll('section')].filter((one) => one.checkVisibility()).length === 1")
-    page.expect('it is told', "return document.getElementById('status').textContent.startsWith('1 of 6')")
+    browser.expect('a path is found', f"return {SHOWN}.length === 1 && {SHOWN}[0].dataset.kind === 'removed'")
+    browser.expect('sections without differences are gone',
+                   "return [...document.querySelectorAll('section')].filter((one) => one.checkVisibility()).length === 1")
+    browser.expect('it is told', "return document.getElementById('status').textContent.startsWith('1 of 6')")
     browser.type('zzz')
-    page.expect('nothing is found', "return document.getElementById('nothing').checkVisibility()")
+    browser.expect('nothing is found', "return document.getElementById('nothing').checkVisibility()")
     browser.type(ESCAPE)
-    page.expect('the filter is gone', f"return {SHOWN}.length === 6")
+    browser.expect('the filter is gone', f"return {SHOWN}.length === 6")
 
     browser.type('nn')
-    page.expect('keys go to the next difference', f"return document.activeElement === {SHOWN}[1]")
+    browser.expect('keys go to the next difference', f"return document.activeElement === {SHOWN}[1]")
     browser.type('pp')
-    page.expect('and around', f"return document.activeElement === {SHOWN}[5]")
+    browser.expect('and around', f"return document.activeElement === {SHOWN}[5]")
     browser.click('#next')
-    page.expect('so does a button', f"return document.activeElement === {SHOWN}[0]")
-    page.expect('nothing is loaded', "return performance.getEntriesByType('resource').length === 0")
+    browser.expect('so does a button', f"return document.activeElement === {SHOWN}[0]")
+    browser.expect('nothing is loaded', "return performance.getEntriesByType('resource').length === 0")
 
 
 def main():
@@ -80,18 +79,7 @@ def main():
         made = subprocess.run([tolva, 'diff', '--format', 'html', '-o', file, example, new], check=False)
         if made.returncode != 1:
             raise AssertionError(made.returncode)
-        for name, width, dark in (('wide', 1400, False), ('narrow', 500, False), ('dark', 1000, True)):
-            with Browser(width, 1000, dark) as browser:
-                page = Page(browser, file.as_uri())
-                if name == 'wide':
-                    use(browser, page)
-                page.expect('it is no wider than the window',
-                            'return document.documentElement.scrollWidth <= innerWidth')
-                problems = browser.problems()
-                if problems:
-                    raise AssertionError(problems)
-                if folder:
-                    browser.screenshot(pathlib.Path(folder[0]) / f'{name}.png')
+        try_page(file, use, *folder)
     return 0
 
 
