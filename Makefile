@@ -112,7 +112,6 @@ bench: ## Build and run the benchmarks, and plot them in docs/
 packages: ## Packages for Debian and an archive for Windows, in build/packages, tried where nothing else is
 	@tools/packages.sh packages
 	@tools/reproduce.sh all
-	@tools/make-packages.sh
 	@tools/test-packages.sh
 
 clean: ## Remove everything that was built

@@ -1,6 +1,7 @@
 #!/bin/sh
-# Makes the packages for Debian twice, from two folders and into two others, and compares them byte for
-# byte; with the argument "all", the archive for Windows too, which takes as long again.
+# Makes the packages for Debian in build/packages, once more from another folder and into another one, and
+# compares them byte for byte; with the argument "all", the archive for Windows too, which takes as long
+# again.
 set -eu
 cd "$(dirname "$0")/.."
 what=debian
@@ -13,8 +14,8 @@ export SOURCE_DATE_EPOCH CCACHE_DISABLE=1
 mkdir "$work/elsewhere"
 sources() { git ls-files -z 2> /dev/null || find . -name build -prune -o -type f -print0; }
 sources | tar --null -T - -cf - | tar -xf - -C "$work/elsewhere"
-tools/make-packages.sh "$work/one" "$what"
+tools/make-packages.sh build/packages "$what"
 "$work/elsewhere/tools/make-packages.sh" "$work/another/folder" "$what"
-for package in "$work"/one/*.deb "$work"/one/*.zip "$work"/one/*.json; do
+for package in build/packages/*.deb build/packages/*.zip build/packages/*.json; do
   [ ! -e "$package" ] || cmp "$package" "$work/another/folder/$(basename "$package")"
 done
