@@ -1,5 +1,4 @@
 // check: what is wrong with documents.
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
@@ -21,6 +20,7 @@
 #include "cli/places.h"
 #include "cli/progress.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 #include "cli/verbs.h"
 
 namespace tolva::cli {
@@ -356,8 +356,8 @@ class Check {
 }  // namespace
 
 void AddCheck(CLI::App& tool, Session& session) {
-  CLI::App& verb = *tool.add_subcommand(
-      "check",
+  Verb verb(
+      tool, "check",
       "Finds what is wrong with documents.\n\n"
       "Errors: the library refuses the document, or it is not well-formed. Warnings: the library "
       "accepts the document, but ignores or changes something. The exit status is 0 if there is no "
@@ -366,27 +366,23 @@ void AddCheck(CLI::App& tool, Session& session) {
   const auto options = std::make_shared<Options>();
   AddInputs(verb, options->inputs);
   options->type.AddTo(verb);
-  verb.add_flag("--strict", options->is_strict,
-                "warnings count as errors for the exit status, and nothing is skipped.");
+  verb.AddFlag("--strict", options->is_strict,
+               "warnings count as errors for the exit status, and nothing is skipped.");
   std::vector<std::string> codes;
   for (const CodeInfo& info : Codes()) codes.emplace_back(info.name);
-  verb.add_option("--ignore", options->ignored, "leaves findings with the code out.")
-      ->type_name("CODE")
-      ->allow_extra_args(false);
-  AllowOnly(verb, "--ignore", codes);
-  verb.add_option("--max-findings", options->most, "shows so many findings; all are counted.")
-      ->type_name("N");
-  verb.add_flag("-q,--quiet", options->is_quiet, "prints no findings.");
-  verb.add_option("--format", options->format, "the form of the result.")->type_name("FORMAT");
-  AllowOnly(verb, "--format", CheckFormats());
+  verb.Add("--ignore", "CODE", options->ignored, "leaves findings with the code out.")
+      .TakeOneEach()
+      .AllowOnly(codes);
+  verb.Add("--max-findings", "N", options->most, "shows so many findings; all are counted.");
+  verb.AddFlag("-q,--quiet", options->is_quiet, "prints no findings.");
+  verb.Add("--format", "FORMAT", options->format, "the form of the result.")
+      .AllowOnly(CheckFormats());
   AddCommonOptions(verb, session, Formats::kTextOnly);
-  verb.footer(
+  verb.SetExamples(
       "tolva check policy.xml\n"
       "tolva check -r --strict /etc/agent\n"
       "tolva check --format sarif policy.xml > policy.sarif");
-  verb.callback([&session, options] {
-    session.action = [&session, options] { return Check(session, *options).Run(); };
-  });
+  verb.SetAction(session, [&session, options] { return Check(session, *options).Run(); });
 }
 
 }  // namespace tolva::cli

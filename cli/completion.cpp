@@ -1,5 +1,4 @@
 // completion: scripts that let a shell complete the command line, made from the tree of options.
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iterator>
 #include <memory>
@@ -9,6 +8,7 @@
 #include "cli/options.h"
 #include "cli/places.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 #include "cli/verbs.h"
 
 namespace tolva::cli {
@@ -332,32 +332,26 @@ std::string CompletionOf(const CLI::App& tool, std::string_view shell) {
 }
 
 void AddCompletion(CLI::App& tool, Session& session) {
-  CLI::App& verb = *tool.add_subcommand(
-      "completion", "Prints a script that lets a shell complete command lines.");
+  Verb verb(tool, "completion", "Prints a script that lets a shell complete command lines.");
   const auto options = std::make_shared<Options>();
-  CLI::Option* const shell =
-      verb.add_option("shell", options->shell, "the shell.")->type_name("SHELL");
-  AllowOnly(verb, "shell", {"bash", "zsh", "fish"});
+  const Option shell =
+      verb.Add("shell", "SHELL", options->shell, "the shell.").AllowOnly({"bash", "zsh", "fish"});
   // For the scripts: the paths that can follow.
-  CLI::Option* const paths = verb.add_option("--paths", options->prefix)->group("");
-  verb.footer("source <(tolva completion bash)");
-  verb.callback([&tool, &session, options, shell, paths] {
-    session.action = [&tool, &session, options, shell, paths] {
-      if (paths->count() == 0 && shell->count() == 0) {
-        throw Trouble("which shell? bash, zsh or fish");
-      }
-      session.out.Write(paths->count() != 0 ? PathsFrom(options->prefix)
-                                            : CompletionOf(tool, options->shell));
-      return kFine;
-    };
+  const Option paths = verb.Add("--paths", "TEXT", options->prefix, "").Hide();
+  verb.SetExamples("source <(tolva completion bash)");
+  verb.SetAction(session, [&tool, &session, options, shell, paths] {
+    if (!paths.IsGiven() && !shell.IsGiven()) {
+      throw Trouble("which shell? bash, zsh or fish");
+    }
+    session.out.Write(paths.IsGiven() ? PathsFrom(options->prefix)
+                                      : CompletionOf(tool, options->shell));
+    return kFine;
   });
-  CLI::App& manual = *tool.add_subcommand("manual", "Prints the manual page, in mdoc.");
-  manual.group("");
-  manual.callback([&tool, &session] {
-    session.action = [&tool, &session] {
-      session.out.Write(ManualOf(tool));
-      return kFine;
-    };
+  Verb manual(tool, "manual", "Prints the manual page, in mdoc.");
+  manual.Hide();
+  manual.SetAction(session, [&tool, &session] {
+    session.out.Write(ManualOf(tool));
+    return kFine;
   });
 }
 

@@ -1,5 +1,4 @@
 // convert: documents from XML to JSON and back.
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -11,6 +10,7 @@
 #include "cli/places.h"
 #include "cli/session.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 #include "cli/verbs.h"
 
 namespace tolva::cli {
@@ -57,29 +57,27 @@ int Convert(Session& session, const Options& options) {
 }  // namespace
 
 void AddConvert(CLI::App& tool, Session& session) {
-  CLI::App& verb = *tool.add_subcommand(
-      "convert",
+  Verb verb(
+      tool, "convert",
       "Converts a document from XML to JSON, or back.\n\n"
       "The JSON is that which 'tolva schema json' describes. The XML is what the library writes. "
       "What the other form cannot hold, such as a comment, is not dropped without --drop: the "
       "document is refused, with the places.");
   const auto options = std::make_shared<Options>();
-  verb.add_option("file", options->file, "the document; '-', or none, is standard input.")
-      ->type_name("FILE");
-  verb.add_option("--to", options->form, "the form to convert to.")->type_name("FORM")->required();
-  AllowOnly(verb, "--to", {"json", "xml"});
+  verb.Add("file", "FILE", options->file, "the document; '-', or none, is standard input.");
+  verb.Add("--to", "FORM", options->form, "the form to convert to.")
+      .Require()
+      .AllowOnly({"json", "xml"});
   options->type.AddTo(verb);
   AddStdinName(verb, options->stdin_name);
   AddDropOption(verb, options->drops);
   AddDestination(verb, options->destination);
   AddCommonOptions(verb, session, Formats::kTextOnly);
-  verb.footer(
+  verb.SetExamples(
       "tolva convert --to json policy.xml -o policy.json\n"
       "tolva convert --to xml policy.json -o policy.xml --force\n"
       "tolva convert --to json message-catalogue.xml");
-  verb.callback([&session, options] {
-    session.action = [&session, options] { return Convert(session, *options); };
-  });
+  verb.SetAction(session, [&session, options] { return Convert(session, *options); });
 }
 
 }  // namespace tolva::cli

@@ -1,11 +1,11 @@
 // diff: what differs between two documents.
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
 
 #include "cli/diff_formats.h"
 #include "cli/load.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 #include "cli/verbs.h"
 
 namespace tolva::cli {
@@ -71,8 +71,8 @@ int PrintDifferences(Session& session, const Options& options) {
 }  // namespace
 
 void AddDiff(CLI::App& tool, Session& session) {
-  CLI::App& verb = *tool.add_subcommand(
-      "diff",
+  Verb verb(
+      tool, "diff",
       "Tells what differs between two documents.\n\n"
       "What counts is what the library reads: order of attributes, layout, comments and encoding "
       "do "
@@ -81,27 +81,22 @@ void AddDiff(CLI::App& tool, Session& session) {
       "Secrets "
       "are not shown.");
   const auto options = std::make_shared<Options>();
-  verb.add_option("old", options->from, "the old document; '-' is standard input.")
-      ->type_name("OLD")
-      ->required();
-  verb.add_option("new", options->to, "the new document, likewise.")->type_name("NEW")->required();
-  verb.add_flag("--ignore-order", options->ignores_order,
-                "the order of the items of lists does not count.");
-  verb.add_flag("--show-secrets", options->shows_secrets,
-                "shows key material and password hashes, too.");
+  verb.Add("old", "OLD", options->from, "the old document; '-' is standard input.").Require();
+  verb.Add("new", "NEW", options->to, "the new document, likewise.").Require();
+  verb.AddFlag("--ignore-order", options->ignores_order,
+               "the order of the items of lists does not count.");
+  verb.AddFlag("--show-secrets", options->shows_secrets,
+               "shows key material and password hashes, too.");
   AddStdinName(verb, options->stdin_name);
-  verb.add_option("--format", options->format, "the form of the result; html is a page.")
-      ->type_name("FORMAT");
-  AllowOnly(verb, "--format", {"text", "json", "html"});
+  verb.Add("--format", "FORMAT", options->format, "the form of the result; html is a page.")
+      .AllowOnly({"text", "json", "html"});
   AddDestination(verb, options->destination);
   AddCommonOptions(verb, session, Formats::kTextOnly);
-  verb.footer(
+  verb.SetExamples(
       "tolva diff old.xml new.xml\n"
       "tolva diff --format html -o review.html old.xml new.xml\n"
       "git show main:policy.xml | tolva diff - policy.xml");
-  verb.callback([&session, options] {
-    session.action = [&session, options] { return PrintDifferences(session, *options); };
-  });
+  verb.SetAction(session, [&session, options] { return PrintDifferences(session, *options); });
 }
 
 }  // namespace tolva::cli

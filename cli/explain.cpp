@@ -1,5 +1,4 @@
 // explain: what stands at a place of a document, for people.
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -8,6 +7,7 @@
 
 #include "cli/places.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 #include "cli/verbs.h"
 #include "cli/wording.h"
 
@@ -22,7 +22,7 @@ struct Options {
   std::string place;
   std::string word;  ///< --find
   bool is_tree = false;
-  std::size_t depth = kAllLevels;
+  std::uint64_t depth = kAllLevels;
 };
 
 // ---- text --------------------------------------------------------------------------------------
@@ -404,7 +404,7 @@ std::vector<Place> FindWord(const Options& options) {
 
 int PrintWord(Session& session, const Options& options) {
   const std::vector<Place> found = FindWord(options);
-  if (session.is_json) {
+  if (session.IsJson()) {
     Json places = Json::array();
     for (const Place& place : found) places.push_back(JsonOf(place, 0));
     session.out.Write(JsonText({{"version", kJsonVersion}, {"places", places}}));
@@ -426,13 +426,13 @@ int Explain(Session& session, const Options& options) {
   if (options.place.empty()) {
     Json documents = Json::array();
     for (const Document& document : Documents()) documents.push_back(JsonOf(document));
-    session.out.Write(session.is_json
+    session.out.Write(session.IsJson()
                           ? JsonText({{"version", kJsonVersion}, {"documents", documents}})
                           : DescribeDocuments(style, width));
     return kFine;
   }
   const Place place = FindPlace(options.place);
-  if (session.is_json) {
+  if (session.IsJson()) {
     Json json = {{"version", kJsonVersion}};
     json.update(JsonOf(place, options.is_tree ? options.depth - 1 : 0));
     session.out.Write(JsonText(json));
@@ -456,36 +456,31 @@ std::string FaultOfDepth(const std::string& depth) {
 }  // namespace
 
 void AddExplain(CLI::App& tool, Session& session) {
-  CLI::App& verb = *tool.add_subcommand(
-      "explain",
+  Verb verb(
+      tool, "explain",
       "Explains a document, an element or an attribute: its type, how often it occurs, what is in "
       "it.\n\n"
       "A path names elements, and at its end perhaps an attribute, from the root's children on. "
       "What it says in brackets is ignored, so a path from a message can be pasted.");
   const auto options = std::make_shared<Options>();
-  verb.add_option("place", options->place,
-                  "what to explain, such as policy/LocationArray/Location. Without it, the "
-                  "documents are listed.")
-      ->type_name("DOCUMENT[/PATH]");
-  CLI::Option* const tree =
-      verb.add_flag("-t,--tree", options->is_tree, "shows everything below, as a tree.");
-  verb.add_option("--depth", options->depth, "how many levels the tree has.")
-      ->type_name("N")
-      ->check(CLI::Validator(&FaultOfDepth, ""))
-      ->needs(tree);
-  verb.add_option("--find", options->word,
-                  "lists the places whose names or descriptions have this word. The exit status "
-                  "is 1 if there is none.")
-      ->type_name("WORD");
+  verb.Add("place", "DOCUMENT[/PATH]", options->place,
+           "what to explain, such as policy/LocationArray/Location. Without it, the "
+           "documents are listed.");
+  const Option tree =
+      verb.AddFlag("-t,--tree", options->is_tree, "shows everything below, as a tree.");
+  verb.Add("--depth", "N", options->depth, "how many levels the tree has.")
+      .Check(&FaultOfDepth)
+      .Need(tree);
+  verb.Add("--find", "WORD", options->word,
+           "lists the places whose names or descriptions have this word. The exit status "
+           "is 1 if there is none.");
   AddCommonOptions(verb, session, Formats::kTextAndJson);
-  verb.footer(
+  verb.SetExamples(
       "tolva explain policy/LocationArray/Location\n"
       "tolva explain policy/UserInterface/Mode\n"
       "tolva explain policy --tree --depth 2\n"
       "tolva explain --find bypass");
-  verb.callback([&session, options] {
-    session.action = [&session, options] { return Explain(session, *options); };
-  });
+  verb.SetAction(session, [&session, options] { return Explain(session, *options); });
 }
 
 }  // namespace tolva::cli

@@ -1,5 +1,4 @@
 // fmt: the form in which the library writes documents.
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 #include <string>
@@ -15,6 +14,7 @@
 #include "cli/secrets.h"
 #include "cli/session.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 #include "cli/verbs.h"
 
 namespace tolva::cli {
@@ -135,8 +135,8 @@ class Formatter {
 }  // namespace
 
 void AddFmt(CLI::App& tool, Session& session) {
-  CLI::App& verb = *tool.add_subcommand(
-      "fmt",
+  Verb verb(
+      tool, "fmt",
       "Brings documents into the form that the library writes.\n\n"
       "Without --check, --diff or -i, the result is printed. Encoding, byte order mark and line "
       "ends "
@@ -148,23 +148,21 @@ void AddFmt(CLI::App& tool, Session& session) {
   const auto options = std::make_shared<Options>();
   AddInputs(verb, options->inputs);
   options->type.AddTo(verb);
-  verb.add_flag("--check", options->checks, "prints the names of files that have another form.");
-  verb.add_flag("--diff", options->shows_diff, "prints what would change, as a unified diff.");
-  verb.add_flag("-i,--in-place", options->is_in_place,
-                "writes the files; with --force also those that have further hard links.");
+  verb.AddFlag("--check", options->checks, "prints the names of files that have another form.");
+  verb.AddFlag("--diff", options->shows_diff, "prints what would change, as a unified diff.");
+  verb.AddFlag("-i,--in-place", options->is_in_place,
+               "writes the files; with --force also those that have further hard links.");
   AddDropOption(verb, options->drops);
-  verb.add_flag("--show-secrets", options->shows_secrets,
-                "has --diff print key material and password hashes.");
+  verb.AddFlag("--show-secrets", options->shows_secrets,
+               "has --diff print key material and password hashes.");
   AddDestination(verb, options->destination);
   AddCommonOptions(verb, session, Formats::kTextOnly);
-  verb.footer(
+  verb.SetExamples(
       "tolva fmt policy.xml\n"
       "tolva fmt --check -r documents\n"
       "tolva fmt --diff policy.xml\n"
       "tolva fmt -i policy.xml ng.xml");
-  verb.callback([&session, options] {
-    session.action = [&session, options] { return Formatter(session, *options).Run(); };
-  });
+  verb.SetAction(session, [&session, options] { return Formatter(session, *options).Run(); });
 }
 
 }  // namespace tolva::cli

@@ -1,5 +1,4 @@
 // get: what stands in a document.
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <nlohmann/json.hpp>
 
@@ -7,6 +6,7 @@
 #include "cli/load.h"
 #include "cli/select.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 #include "cli/verbs.h"
 
 namespace tolva::cli {
@@ -134,7 +134,7 @@ int Run(Session& session, const Options& options) {
   const Document* const expected = options.type.document();
   const Input input = InputOf(options.file, options.stdin_name);
   std::string bytes = ReadBytes(input);
-  if (!session.is_json) {
+  if (!session.IsJson()) {
     Source source(input.name, bytes);
     return Get(session, options, source, source.Recognise(expected)).PrintText();
   }
@@ -147,8 +147,8 @@ int Run(Session& session, const Options& options) {
 }  // namespace
 
 void AddGet(CLI::App& tool, Session& session) {
-  CLI::App& verb = *tool.add_subcommand(
-      "get",
+  Verb verb(
+      tool, "get",
       "Prints what stands in a document: values, or elements as they are written.\n\n"
       "A path names elements, and at its end perhaps an attribute, from the root's children on. "
       "Name[2] is the second of these elements, Name[Attribute=\"value\"] the one with that "
@@ -156,20 +156,16 @@ void AddGet(CLI::App& tool, Session& session) {
       "is "
       "1 if a path names nothing in the document.");
   const auto options = std::make_shared<Options>();
-  verb.add_option("file", options->file, "the document; '-' is standard input.")
-      ->type_name("FILE")
-      ->required();
-  verb.add_option("path", options->paths, "what to print.")->type_name("PATH")->required();
+  verb.Add("file", "FILE", options->file, "the document; '-' is standard input.").Require();
+  verb.Add("path", "PATH", options->paths, "what to print.").Require();
   options->type.AddTo(verb);
   AddStdinName(verb, options->stdin_name);
   AddCommonOptions(verb, session, Formats::kTextAndJson);
-  verb.footer(
+  verb.SetExamples(
       "tolva get policy.xml UserInterface/Mode\n"
       "tolva get policy.xml 'LocationArray/Location[Name=\"Office\"]'\n"
       "tolva get --format json policy.xml LocationArray/Location/Name");
-  verb.callback([&session, options] {
-    session.action = [&session, options] { return Run(session, *options); };
-  });
+  verb.SetAction(session, [&session, options] { return Run(session, *options); });
 }
 
 }  // namespace tolva::cli

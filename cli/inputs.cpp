@@ -1,6 +1,5 @@
 #include "cli/inputs.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <filesystem>
 #include <set>
@@ -8,6 +7,7 @@
 
 #include "cli/session.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 
 namespace tolva::cli {
 namespace {
@@ -68,18 +68,15 @@ class Finder {
 
 }  // namespace
 
-void AddInputs(CLI::App& verb, InputOptions& options) {
-  verb.add_option("file", options.names, "the documents; '-' is standard input.")
-      ->type_name("FILE")
-      ->required();
-  verb.add_flag("-r,--recursive", options.is_recursive,
-                "reads the files *.xml in the folders that are named, and in what is below them.");
+void AddInputs(Verb& verb, InputOptions& options) {
+  verb.Add("file", "FILE", options.names, "the documents; '-' is standard input.").Require();
+  verb.AddFlag("-r,--recursive", options.is_recursive,
+               "reads the files *.xml in the folders that are named, and in what is below them.");
   AddStdinName(verb, options.stdin_name);
 }
 
-void AddStdinName(CLI::App& verb, std::string& stdin_name) {
-  verb.add_option("--stdin-name", stdin_name, "what messages call standard input.")
-      ->type_name("NAME");
+void AddStdinName(Verb& verb, std::string& stdin_name) {
+  verb.Add("--stdin-name", "NAME", stdin_name, "what messages call standard input.");
 }
 
 Input InputOf(const std::string& argument, const std::string& stdin_name) {

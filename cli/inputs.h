@@ -7,11 +7,9 @@
 
 #include "cli/files.h"
 
-namespace CLI {
-class App;
-}
-
 namespace tolva::cli {
+
+class Verb;
 
 struct InputOptions {
   std::vector<std::string> names;  ///< as given; "-" is standard input
@@ -20,10 +18,10 @@ struct InputOptions {
 };
 
 /// Adds the arguments FILE..., and the options -r and --stdin-name.
-void AddInputs(CLI::App& verb, InputOptions& options);
+void AddInputs(Verb& verb, InputOptions& options);
 
 /// Adds --stdin-name alone.
-void AddStdinName(CLI::App& verb, std::string& stdin_name);
+void AddStdinName(Verb& verb, std::string& stdin_name);
 
 struct Input {
   std::string name;  ///< the path in UTF-8; elsewhere than on Windows any bytes

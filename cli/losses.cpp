@@ -1,12 +1,12 @@
 #include "cli/losses.h"
 
-#include <CLI/CLI.hpp>
 #include <utility>
 
 #include "cli/files.h"
 #include "cli/load.h"
 #include "cli/session.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 
 namespace tolva::cli {
 namespace {
@@ -93,8 +93,8 @@ std::string AtPlace(const std::string& name, std::uint64_t line, std::uint64_t c
   return Printable(name) + ":" + std::to_string(line) + ":" + std::to_string(column) + ": " + what;
 }
 
-void AddDropOption(CLI::App& verb, bool& drops) {
-  verb.add_flag("--drop", drops, "drops what the library does not keep, such as comments.");
+void AddDropOption(Verb& verb, bool& drops) {
+  verb.AddFlag("--drop", drops, "drops what the library does not keep, such as comments.");
 }
 
 }  // namespace tolva::cli

@@ -7,11 +7,9 @@
 
 #include "cli/check_walk.h"
 
-namespace CLI {
-class App;
-}
-
 namespace tolva::cli {
+
+class Verb;
 
 /// What a document loses when the library reads it and writes it again.
 struct Losses {
@@ -41,6 +39,6 @@ std::string AtPlace(const std::string& name, std::uint64_t line, std::uint64_t c
                     const std::string& what);
 
 /// Adds --drop.
-void AddDropOption(CLI::App& verb, bool& drops);
+void AddDropOption(Verb& verb, bool& drops);
 
 }  // namespace tolva::cli

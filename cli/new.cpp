@@ -1,7 +1,6 @@
 // new: a document to start from.
 #include "cli/new.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 #include <vector>
@@ -10,6 +9,7 @@
 #include "cli/places.h"
 #include "cli/session.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 #include "cli/verbs.h"
 #include "cli/wording.h"
 
@@ -164,28 +164,24 @@ std::string NewElement(const Child& child) {
 }
 
 void AddNew(CLI::App& tool, Session& session) {
-  CLI::App& verb = *tool.add_subcommand(
-      "new",
+  Verb verb(
+      tool, "new",
       "Makes a document to start from.\n\n"
       "The document has what the library requires. Strings hold their own names, ENUMs their first "
       "text, and numbers 0: replace them.");
   const auto options = std::make_shared<Options>();
-  verb.add_option("document", options->document, "which document to make.")
-      ->type_name("DOCUMENT")
-      ->required();
-  verb.add_flag("--full", options->is_full,
-                "has everything once, with comments that say what may stand there.");
+  verb.Add("document", "DOCUMENT", options->document, "which document to make.").Require();
+  verb.AddFlag("--full", options->is_full,
+               "has everything once, with comments that say what may stand there.");
   AddDestination(verb, options->destination);
   AddCommonOptions(verb, session, Formats::kTextOnly);
-  verb.footer(
+  verb.SetExamples(
       "tolva new policy -o policy.xml\n"
       "tolva new message-catalogue --full");
-  verb.callback([&session, options] {
-    session.action = [&session, options] {
-      const NewContent content = options->is_full ? NewContent::kEverything : NewContent::kRequired;
-      Deliver(session, options->destination, NewDocument(DocumentOf(options->document), content));
-      return kFine;
-    };
+  verb.SetAction(session, [&session, options] {
+    const NewContent content = options->is_full ? NewContent::kEverything : NewContent::kRequired;
+    Deliver(session, options->destination, NewDocument(DocumentOf(options->document), content));
+    return kFine;
   });
 }
 

@@ -1,11 +1,11 @@
 #include "cli/places.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
 
 #include "cli/session.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 
 namespace tolva::cli {
 namespace {
@@ -158,8 +158,8 @@ const Document& DocumentOf(std::string_view name) {
   throw Trouble("there is no document '" + Printable(name) + "'" + hint);
 }
 
-void ExpectedType::AddTo(CLI::App& verb) {
-  verb.add_option("--type", name_, "the document that it has to be.")->type_name("DOCUMENT");
+void ExpectedType::AddTo(Verb& verb) {
+  verb.Add("--type", "DOCUMENT", name_, "the document that it has to be.");
 }
 
 Place FindPlace(std::string_view document_and_path) {

@@ -10,11 +10,9 @@
 
 #include "cli/tables.h"
 
-namespace CLI {
-class App;
-}
-
 namespace tolva::cli {
+
+class Verb;
 
 /// One name of a path, and which of several elements is meant: Name, Name[2], Name[Attribute="x"].
 struct Step {
@@ -50,7 +48,7 @@ const Document& DocumentOf(std::string_view name);
 /// The option --type of verbs that read documents: what each has to be.
 class ExpectedType {
  public:
-  void AddTo(CLI::App& verb);
+  void AddTo(Verb& verb);
 
   /// Null: it may be any document. Throws Trouble if there is none with that name.
   const Document* document() const { return name_.empty() ? nullptr : &DocumentOf(name_); }

@@ -1,5 +1,4 @@
 // schema: descriptions of documents for other programs and for people.
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -7,6 +6,7 @@
 
 #include "cli/places.h"
 #include "cli/schemas.h"
+#include "cli/verb.h"
 #include "cli/verbs.h"
 
 namespace tolva::cli {
@@ -42,29 +42,28 @@ int PrintSchema(Session& session, const Options& options) {
 }  // namespace
 
 void AddSchema(CLI::App& tool, Session& session) {
-  CLI::App& verb = *tool.add_subcommand(
-      "schema",
+  Verb verb(
+      tool, "schema",
       "Describes documents for editors, validators and people.\n\n"
       "xsd is an XML Schema 1.0 of the documents, json a JSON Schema (2020-12) of their JSON form, "
       "html a page that needs no network, and md a page in Markdown.");
   const auto options = std::make_shared<Options>();
-  verb.add_option("kind", options->kind, "the kind of description.")->type_name("KIND")->required();
-  AllowOnly(verb, "kind", {"xsd", "json", "html", "md"});
-  verb.add_option("document", options->document, "which document to describe. Without it, all.")
-      ->type_name("DOCUMENT");
-  verb.add_flag(
+  verb.Add("kind", "KIND", options->kind, "the kind of description.")
+      .Require()
+      .AllowOnly({"xsd", "json", "html", "md"});
+  verb.Add("document", "DOCUMENT", options->document,
+           "which document to describe. Without it, all.");
+  verb.AddFlag(
       "--lax", options->is_lax,
       "accepts what the library reads, as far as XML Schema can say it, instead of what it "
       "writes.");
   AddDestination(verb, options->destination);
   AddCommonOptions(verb, session, Formats::kTextOnly);
-  verb.footer(
+  verb.SetExamples(
       "tolva schema xsd policy -o policy.xsd\n"
       "tolva schema json policy\n"
       "tolva schema html -o documents.html");
-  verb.callback([&session, options] {
-    session.action = [&session, options] { return PrintSchema(session, *options); };
-  });
+  verb.SetAction(session, [&session, options] { return PrintSchema(session, *options); });
 }
 
 }  // namespace tolva::cli

@@ -14,6 +14,7 @@
 
 #include "cli/options.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 #include "cli/verbs.h"
 #include "support/errors.h"
 #include "support/unicode.h"
@@ -135,26 +136,19 @@ std::size_t Session::TextWidth() const {
   return std::min(out.Width(), kWidest);
 }
 
-void AddCommonOptions(CLI::App& verb, Session& session, Formats formats) {
+void AddCommonOptions(Verb& verb, Session& session, Formats formats) {
   if (formats == Formats::kTextAndJson) {
-    verb.add_option_function<std::string>(
-            "--format",
-            [&session](const std::string& format) { session.is_json = format == "json"; },
-            "the form of the result.")
-        ->type_name("FORMAT")
-        ->trigger_on_parse();
-    AllowOnly(verb, "--format", {"text", "json"});
+    verb.Add("--format", "FORMAT", session.format, "the form of the result.")
+        .AllowOnly({"text", "json"});
   }
-  verb.add_option("--color", session.color, "whether the result is coloured; auto: on a terminal.")
-      ->type_name("WHEN");
-  AllowOnly(verb, "--color", {"auto", "always", "never"});
+  verb.Add("--color", "WHEN", session.color, "whether the result is coloured; auto: on a terminal.")
+      .AllowOnly({"auto", "always", "never"});
 }
 
-void AddDestination(CLI::App& verb, Destination& destination) {
-  verb.add_option("-o,--output", destination.file,
-                  "where the result is written; '-' is standard output.")
-      ->type_name("FILE");
-  verb.add_flag("--force", destination.is_forced, "replaces the file if it exists.");
+void AddDestination(Verb& verb, Destination& destination) {
+  verb.Add("-o,--output", "FILE", destination.file,
+           "where the result is written; '-' is standard output.");
+  verb.AddFlag("--force", destination.is_forced, "replaces the file if it exists.");
 }
 
 void Deliver(Session& session, const Destination& destination, std::string_view bytes) {
@@ -197,16 +191,6 @@ std::string DumpJson(const nlohmann::ordered_json& json, int indent) {
 std::string JsonText(const nlohmann::ordered_json& json) {
   constexpr int kIndent = 2;
   return DumpJson(json, kIndent) + "\n";
-}
-
-void AllowOnly(CLI::App& verb, std::string_view option, const std::vector<std::string>& values) {
-  std::string all;
-  for (const std::string& value : values) all += (all.empty() ? "" : ",") + value;
-  const auto check = [values](const std::string& value) -> std::string {
-    if (std::ranges::find(values, value) != values.end()) return {};
-    return "'" + value + "' is none of " + Enumerate(values, "and") + DidYouMean(value, values);
-  };
-  verb.get_option(std::string(option))->check(CLI::Validator(check, "{" + all + "}"));
 }
 
 int Run(const std::vector<std::string>& arguments, Stream& out, Stream& err) {

@@ -16,6 +16,8 @@ class App;
 
 namespace tolva::cli {
 
+class Verb;
+
 enum ExitStatus : int {
   kFine = 0,      ///< done; equal; found
   kFindings = 1,  ///< something was found; different; absent
@@ -58,9 +60,11 @@ class Style {
 struct Session {
   Stream& out;
   Stream& err;
-  bool is_json = false;              ///< --format
+  std::string format = "text";       ///< of verbs with Formats::kTextAndJson
   std::string color = "auto";        ///< --color
   std::function<int()> action = {};  ///< what the verb does once the command line has been read
+
+  bool IsJson() const { return format == "json"; }
 
   /// How results are shown.
   Style OutStyle() const;
@@ -71,7 +75,7 @@ struct Session {
 
 /// Adds --color, and --format if the verb has more than one.
 enum class Formats : bool { kTextOnly, kTextAndJson };
-void AddCommonOptions(CLI::App& verb, Session& session, Formats formats);
+void AddCommonOptions(Verb& verb, Session& session, Formats formats);
 
 /// The options -o and --force of verbs that make a document.
 struct Destination {
@@ -80,7 +84,7 @@ struct Destination {
 
   bool IsFile() const { return !file.empty() && file != "-"; }
 };
-void AddDestination(CLI::App& verb, Destination& destination);
+void AddDestination(Verb& verb, Destination& destination);
 
 /// Writes a result where the destination says.
 void Deliver(Session& session, const Destination& destination, std::string_view bytes);
@@ -91,9 +95,6 @@ std::string DumpJson(const nlohmann::ordered_json& json, int indent);
 
 /// The same, indented and with a line feed.
 std::string JsonText(const nlohmann::ordered_json& json);
-
-/// Allows these values alone. The message about any other one names the nearest.
-void AllowOnly(CLI::App& verb, std::string_view option, const std::vector<std::string>& values);
 
 /// Runs the tool. Returns an exit status.
 int Run(const std::vector<std::string>& arguments, Stream& out, Stream& err);

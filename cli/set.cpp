@@ -1,5 +1,4 @@
 // set: changes documents.
-#include <CLI/CLI.hpp>
 #include <map>
 #include <memory>
 #include <optional>
@@ -8,6 +7,7 @@
 #include "cli/load.h"
 #include "cli/places.h"
 #include "cli/text.h"
+#include "cli/verb.h"
 #include "cli/verbs.h"
 
 namespace tolva::cli {
@@ -33,22 +33,19 @@ struct Options {
 };
 
 /// The operations in the order of the command line.
-std::vector<Operation> OperationsOf(const CLI::App& verb) {
-  const std::map<const CLI::Option*, Operation::Kind> kinds = {
-      {verb.get_option("change"), Operation::Kind::kSet},
-      {verb.get_option("--unset"), Operation::Kind::kUnset},
-      {verb.get_option("--add"), Operation::Kind::kAdd},
-      {verb.get_option("--remove"), Operation::Kind::kRemove},
+std::vector<Operation> OperationsOf(const Verb& verb) {
+  const std::map<std::string_view, Operation::Kind> kinds = {
+      {"change", Operation::Kind::kSet},
+      {"unset", Operation::Kind::kUnset},
+      {"add", Operation::Kind::kAdd},
+      {"remove", Operation::Kind::kRemove},
   };
-  std::map<const CLI::Option*, std::size_t> taken;
   std::vector<Operation> operations;
-  for (const CLI::Option* const option : verb.parse_order()) {
-    const auto kind = kinds.find(option);
+  for (const Verb::Given& given : verb.AllGiven()) {
+    const auto kind = kinds.find(given.name);
     if (kind == kinds.end()) continue;
-    const std::size_t index = taken[option]++;
-    // An argument in brackets, which is no path, may have given other arguments, or none.
-    if (index >= option->results().size()) throw Trouble("'[...]' is no path: a name is missing");
-    operations.push_back({kind->second, option->results()[index]});
+    if (!given.value.has_value()) throw Trouble("'[...]' is no path: a name is missing");
+    operations.push_back({kind->second, *given.value});
   }
   return operations;
 }
@@ -136,25 +133,21 @@ int Run(Session& session, const Options& options, const std::vector<Operation>& 
 }  // namespace
 
 void AddSet(CLI::App& tool, Session& session) {
-  CLI::App& verb = *tool.add_subcommand(
-      "set",
+  Verb verb(
+      tool, "set",
       "Changes values, adds and removes elements, and leaves all else in a document as it is.\n\n"
       "The changes are made in the order in which they are given, and each sees the document as it "
       "then is. All of them are made, or none. Values are judged first, and a document that the "
       "library reads is not made one that it refuses.\n\n"
       "Without -i and -o, the changed document is printed.");
   const auto options = std::make_shared<Options>();
-  verb.add_option("file", options->file, "the document; '-' is standard input.")
-      ->type_name("FILE")
-      ->required();
-  verb.add_option(
-          "change", options->assignments,
-          "gives an attribute, or an element that consists of text, a value. It is added if "
-          "it is absent.")
-      ->type_name("PATH=VALUE");
+  verb.Add("file", "FILE", options->file, "the document; '-' is standard input.").Require();
+  verb.Add("change", "PATH=VALUE", options->assignments,
+           "gives an attribute, or an element that consists of text, a value. It is added "
+           "if it is absent.");
   const auto add_operation = [&verb](const char* name, std::vector<std::string>& paths,
                                      const char* description) {
-    verb.add_option(name, paths, description)->type_name("PATH")->allow_extra_args(false);
+    verb.Add(name, "PATH", paths, description).TakeOneEach();
   };
   add_operation("--unset", options->unset,
                 "removes an optional attribute, or the text of an element that may do without.");
@@ -162,26 +155,23 @@ void AddSet(CLI::App& tool, Session& session) {
                 "adds an element, as 'tolva new' makes it: to a list at its end or, as Name[2], as "
                 "its second; Name[Attribute=\"value\"] gives it that attribute.");
   add_operation("--remove", options->removed, "removes an element of a list, or an optional one.");
-  CLI::Option* const in_place = verb.add_flag("-i,--in-place", options->is_in_place,
-                                              "changes the file itself, as a whole or not at all.");
+  const Option in_place = verb.AddFlag("-i,--in-place", options->is_in_place,
+                                       "changes the file itself, as a whole or not at all.");
   AddDestination(verb, options->destination);
-  verb.get_option("--output")->excludes(in_place);
-  verb.get_option("--force")->description(
+  verb.Find("--output").Exclude(in_place);
+  verb.Find("--force").Describe(
       "replaces the file of -o if it exists; with -i, a file that has further hard links.");
   options->type.AddTo(verb);
   AddStdinName(verb, options->stdin_name);
   AddCommonOptions(verb, session, Formats::kTextOnly);
-  verb.footer(
+  verb.SetExamples(
       "tolva set -i policy.xml UserInterface/Mode=SILENT Log/MaxLogSize=1000000\n"
       "tolva set -i policy.xml 'LocationArray/Location[Name=\"Lab\"]/Desc=No guests'\n"
       "tolva set -i policy.xml --unset 'LocationArray/Location[1]/Desc'\n"
       "tolva set policy.xml --add 'LocationArray/Location[Name=\"Lab\"]' -o new.xml\n"
       "tolva set -i policy.xml --remove 'LocationArray/Location[2]'");
-  verb.callback([&session, &verb, options] {
-    session.action = [&session, options, operations = OperationsOf(verb)] {
-      return Run(session, *options, operations);
-    };
-  });
+  verb.SetAction(session,
+                 [&session, verb, options] { return Run(session, *options, OperationsOf(verb)); });
 }
 
 }  // namespace tolva::cli
