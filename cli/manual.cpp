@@ -121,7 +121,8 @@ constexpr std::string_view kEnd =
 std::string ManualOf(const CLI::App& tool) {
   const std::vector<VerbView> verbs = ViewOfVerbs(tool);
   std::string page =
-      ".Dd November 22, 2026\n.Dt TOLVA 1\n.Os\n.Sh NAME\n.Nm tolva\n.Nd checks, changes, compares and "
+      ".Dd November 22, 2026\n.Dt TOLVA 1\n.Os\n.Sh NAME\n.Nm tolva\n.Nd checks, changes, compares "
+      "and "
       "explains "
       "configuration documents\n.Sh SYNOPSIS\n" +
       Synopsis(verbs) +

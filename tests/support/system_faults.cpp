@@ -28,7 +28,6 @@ bool Fails(SystemCall call) {
 }  // namespace
 
 // The linker turns calls of `f` into calls of `__wrap_f`, and `__real_f` into `f`.
-// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 int __real_open(const char* path, int flags, mode_t mode);
 ssize_t __real_read(int file, void* bytes, std::size_t size);
@@ -103,7 +102,6 @@ int __wrap_fsetxattr(int file, const char* name, const void* value, std::size_t 
   return Fails(SystemCall::kSetAttribute) ? -1 : __real_fsetxattr(file, name, value, size, flags);
 }
 }
-// NOLINTEND(bugprone-reserved-identifier)
 
 namespace tolva::test {
 
