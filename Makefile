@@ -111,7 +111,8 @@ bench: ## Build and run the benchmarks, and plot them in docs/
 
 packages: ## Packages for Debian and an archive for Windows, in build/packages, tried where nothing else is
 	@tools/packages.sh packages
-	@tools/reproduce.sh all
+	@rm -rf build/packages
+	@tools/reproduce.sh build/packages all
 	@tools/test-packages.sh
 
 clean: ## Remove everything that was built

@@ -15,7 +15,6 @@ limits=(-timeout=20 -rss_limit_mb=2048 -malloc_limit_mb=1024 -artifact_prefix="$
 
 known() { # <target>
   echo examples/documents
-  echo examples/documents/broken
   [ ! -d "fuzz/corpus/$1" ] || echo "fuzz/corpus/$1"
 }
 
@@ -52,7 +51,7 @@ case ${1:-} in
     done
     ;;
   *)
-    sed -n '3,8p' "$0" >&2
+    sed -n '2,7p' "$0" >&2
     exit 2
     ;;
 esac

@@ -14,7 +14,6 @@ export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C
 version=$(sed -n 's/^project(tolva VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 umask 022
 mkdir -p "$out"
-rm -f "$out"/*.deb "$out"/*.zip "$out"/*.json
 
 make_debian() {
   # The flags that Debian builds with, but for -g: the packages are stripped.
