@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <nlohmann/json.hpp>
 
+#include "cli/json.h"
 #include "cli/markup.h"
 #include "cli/text.h"
 

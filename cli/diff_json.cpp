@@ -2,6 +2,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/diff_formats.h"
+#include "cli/json.h"
 
 namespace tolva::cli {
 namespace {

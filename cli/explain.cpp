@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/json.h"
 #include "cli/places.h"
 #include "cli/text.h"
 #include "cli/verb.h"

@@ -76,7 +76,7 @@ void AddInputs(Verb& verb, InputOptions& options) {
 }
 
 void AddStdinName(Verb& verb, std::string& stdin_name) {
-  verb.Add("--stdin-name", "NAME", stdin_name, "what messages call standard input.");
+  verb.Add("--stdin-name", "NAME", stdin_name, "what messages and results call standard input.");
 }
 
 Input InputOf(const std::string& argument, const std::string& stdin_name) {

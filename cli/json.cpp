@@ -1,12 +1,43 @@
 #include "cli/json.h"
 
+#include <array>
+#include <cstdio>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <utility>
 
+#include "cli/text.h"
+#include "support/unicode.h"
+
 namespace tolva::cli {
 
 using Json = nlohmann::ordered_json;
+
+std::string DumpJson(const nlohmann::ordered_json& json, int indent) {
+  const std::string dumped =
+      json.dump(indent, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+  std::string text;
+  text.reserve(dumped.size());
+  const char* const end = dumped.data() + dumped.size();
+  for (const char* at = dumped.data(); at != end;) {
+    const char* const start = at;
+    const char32_t c = support::internal::TakeCodePoint(at, end);
+    if (c < 0x7F || !IsControl(c)) {
+      text.append(start, at);
+    } else {
+      // Within a string, and not beyond U+FFFF.
+      std::array<char, 16> escape{};
+      std::snprintf(escape.data(), escape.size(), "\\u%04X", static_cast<unsigned>(c));
+      text += escape.data();
+    }
+  }
+  return text;
+}
+
+std::string JsonText(const nlohmann::ordered_json& json) {
+  constexpr int kIndent = 2;
+  return DumpJson(json, kIndent) + "\n";
+}
 
 nlohmann::ordered_json ValueToJson(const Value& value, const std::string& text) {
   if (value.type != Value::Type::kNumber || value.IsLong()) return text;

@@ -20,6 +20,16 @@
 
 namespace tolva::cli {
 
+/// The version of the JSON that verbs print.
+inline constexpr int kJsonVersion = 1;
+
+/// JSON as text, on one line for an indent of -1. Text that is not UTF-8 is repaired; characters
+/// that a terminal would obey are escaped.
+std::string DumpJson(const nlohmann::ordered_json& json, int indent);
+
+/// The same, indented and with a line feed.
+std::string JsonText(const nlohmann::ordered_json& json);
+
 /// The JSON form of a root node, as the library has read it.
 nlohmann::ordered_json ToJson(const Document& document, const node::INode& root);
 

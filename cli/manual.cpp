@@ -1,5 +1,4 @@
 // The manual page, made from the tree of options.
-
 #include "cli/options.h"
 #include "cli/tables.h"
 #include "cli/text.h"
@@ -121,10 +120,13 @@ constexpr std::string_view kEnd =
 std::string ManualOf(const CLI::App& tool) {
   const std::vector<VerbView> verbs = ViewOfVerbs(tool);
   std::string page =
-      ".Dd November 22, 2026\n.Dt TOLVA 1\n.Os\n.Sh NAME\n.Nm tolva\n.Nd checks, changes, compares "
-      "and "
-      "explains "
-      "configuration documents\n.Sh SYNOPSIS\n" +
+      ".Dd November 22, 2026\n"
+      ".Dt TOLVA 1\n"
+      ".Os\n"
+      ".Sh NAME\n"
+      ".Nm tolva\n"
+      ".Nd checks, changes, compares and explains configuration documents\n"
+      ".Sh SYNOPSIS\n" +
       Synopsis(verbs) +
       ".Sh DESCRIPTION\n"
       ".Nm\n"

@@ -159,7 +159,7 @@ const Document& DocumentOf(std::string_view name) {
 }
 
 void ExpectedType::AddTo(Verb& verb) {
-  verb.Add("--type", "DOCUMENT", name_, "the document that it has to be.");
+  verb.Add("--type", "DOCUMENT", name_, "what each file has to be.");
 }
 
 Place FindPlace(std::string_view document_and_path) {

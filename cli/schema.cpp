@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/json.h"
 #include "cli/places.h"
 #include "cli/schemas.h"
 #include "cli/verb.h"

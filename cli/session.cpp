@@ -2,13 +2,10 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <new>
-#include <nlohmann/json.hpp>
 
 #include <tolva/support/save.h>
 
@@ -17,7 +14,6 @@
 #include "cli/verb.h"
 #include "cli/verbs.h"
 #include "support/errors.h"
-#include "support/unicode.h"
 
 namespace tolva::cli {
 namespace {
@@ -95,6 +91,30 @@ std::string FaultOf(const CLI::App& tool, const CLI::App& verb, const CLI::Parse
   throw Trouble(Printable(FaultOf(tool, verb, error)) + "\nSee '" + help + "'");
 }
 
+/// Adds what the tool's command line consists of.
+void AddTool(CLI::App& tool, Session& session) {
+  tool.allow_windows_style_options(false);  // a path begins with a slash everywhere
+  tool.set_help_flag("-h,--help", "prints this help.");
+  tool.set_version_flag("--version", "", "prints the version.");
+  tool.footer(
+      "tolva check policy.xml          what is wrong with a policy\n"
+      "tolva diff old.xml new.xml      what differs between two documents\n"
+      "tolva explain policy            what the policy holds\n"
+      "tolva new policy --full         a policy to start from\n"
+      "tolva fmt --check policy.xml    whether it is as the library writes it\n"
+      "tolva schema html -o doc.html   a page about all documents");
+  AddCheck(tool, session);
+  AddDiff(tool, session);
+  AddExplain(tool, session);
+  AddSchema(tool, session);
+  AddNew(tool, session);
+  AddGet(tool, session);
+  AddSet(tool, session);
+  AddFmt(tool, session);
+  AddConvert(tool, session);
+  AddCompletion(tool, session);
+}
+
 int RunTool(const std::vector<std::string>& arguments, Session& session) {
   CLI::App tool("Checks, explains, describes and makes the configuration documents of the agent.",
                 "tolva");
@@ -165,32 +185,6 @@ void Deliver(Session& session, const Destination& destination, std::string_view 
     throw Trouble("'" + Printable(destination.file) +
                   "' is not written: " + support::internal::Phrase(report.message));
   }
-}
-
-std::string DumpJson(const nlohmann::ordered_json& json, int indent) {
-  const std::string dumped =
-      json.dump(indent, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
-  std::string text;
-  text.reserve(dumped.size());
-  const char* const end = dumped.data() + dumped.size();
-  for (const char* at = dumped.data(); at != end;) {
-    const char* const start = at;
-    const char32_t c = support::internal::TakeCodePoint(at, end);
-    if (c < 0x7F || !IsControl(c)) {
-      text.append(start, at);
-    } else {
-      // Within a string, and not beyond U+FFFF.
-      std::array<char, 16> escape{};
-      std::snprintf(escape.data(), escape.size(), "\\u%04X", static_cast<unsigned>(c));
-      text += escape.data();
-    }
-  }
-  return text;
-}
-
-std::string JsonText(const nlohmann::ordered_json& json) {
-  constexpr int kIndent = 2;
-  return DumpJson(json, kIndent) + "\n";
 }
 
 int Run(const std::vector<std::string>& arguments, Stream& out, Stream& err) {

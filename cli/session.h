@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <nlohmann/json_fwd.hpp>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -23,9 +22,6 @@ enum ExitStatus : int {
   kFindings = 1,  ///< something was found; different; absent
   kTrouble = 2,   ///< wrong usage; something cannot be read or written
 };
-
-/// The version of the JSON that verbs print.
-inline constexpr int kJsonVersion = 1;
 
 /// Ends a verb with kTrouble. The message has no full stop.
 class Trouble : public std::runtime_error {
@@ -88,13 +84,6 @@ void AddDestination(Verb& verb, Destination& destination);
 
 /// Writes a result where the destination says.
 void Deliver(Session& session, const Destination& destination, std::string_view bytes);
-
-/// JSON as text, on one line for an indent of -1. Text that is not UTF-8 is repaired; characters
-/// that a terminal would obey are escaped.
-std::string DumpJson(const nlohmann::ordered_json& json, int indent);
-
-/// The same, indented and with a line feed.
-std::string JsonText(const nlohmann::ordered_json& json);
 
 /// Runs the tool. Returns an exit status.
 int Run(const std::vector<std::string>& arguments, Stream& out, Stream& err);

@@ -1,5 +1,5 @@
 // What the verbs' command lines consist of. CLI11 reads them; its headers take long to compile, and
-// only few sources need more than what stands here.
+// few sources need more than this header.
 #pragma once
 
 #include <cstdint>
@@ -31,13 +31,13 @@ class Option {
   /// These values alone. The message about any other one names the nearest.
   Option& AllowOnly(const std::vector<std::string>& values);
 
-  /// `fault_of` says what is wrong with a value; nothing: it is right.
+  /// `fault_of` returns what is wrong with a value, or an empty string.
   Option& Check(const std::function<std::string(const std::string& value)>& fault_of);
 
   Option& Need(const Option& other);
   Option& Exclude(const Option& other);
 
-  /// On the command line that has been read.
+  /// Whether it is on the command line that has been read.
   bool IsGiven() const;
 
  private:
@@ -72,8 +72,9 @@ class Verb {
 
   /// Options and arguments with their values, in the order of the command line that has been read.
   struct Given {
-    std::string name;                  ///< as it was declared, without dashes
-    std::optional<std::string> value;  ///< nothing: brackets, which list several values or none
+    std::string name;  ///< as it was declared, without dashes
+    /// Absent for an argument in brackets, which may give several values or none.
+    std::optional<std::string> value;
   };
   std::vector<Given> AllGiven() const;
 

@@ -6,9 +6,6 @@
 
 namespace tolva::cli {
 
-/// Adds what the tool's command line consists of.
-void AddTool(CLI::App& tool, Session& session);
-
 void AddCheck(CLI::App& tool, Session& session);
 void AddDiff(CLI::App& tool, Session& session);
 void AddExplain(CLI::App& tool, Session& session);

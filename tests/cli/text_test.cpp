@@ -41,13 +41,16 @@ TEST(Text, OfDocumentsIsShownOnTerminals) {
   for (const std::string& bytes : {document, wide}) {
     const TempFile file(bytes);
     const std::string name = NameOf(file.path());
+    const TempFile json(RunTool({"convert", name, "--to", "json"}).out);
+    const std::string json_name = NameOf(json.path());
     const std::vector<std::string> path = {"get", name, "DefaultDomain/Name"};
     const std::vector<std::string> set = {"set", name, "DefaultDomain/Enabled=0"};
     for (const std::vector<std::string>& verb : {path,
                                                  set,
                                                  {"get", name, "DefaultDomain", "--format", "json"},
-                                                 {"fmt", name},
-                                                 {"convert", name, "--to", "json"}}) {
+                                                 {"fmt", name, "-o", "-"},
+                                                 {"convert", name, "--to", "json"},
+                                                 {"convert", json_name, "--to", "xml"}}) {
       TerminalOutput out;
       TextOutput err;
       EXPECT_EQ(cli::Run(verb, out, err), 0) << err.text();
