@@ -3,7 +3,6 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
@@ -17,6 +16,7 @@
 #include <utility>
 
 #include "support/allocations.h"
+#include "support/file_size_limit.h"
 #include "support/files.h"
 #include "support/system_faults.h"
 
@@ -228,18 +228,13 @@ TEST_F(PosixSave, SurvivesFailingAllocations) {
 
 TEST_F(PosixSave, TellsAFullDisk) {
   ASSERT_TRUE(SaveBytes("old", In("file")));
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit before = {};
-  getrlimit(RLIMIT_FSIZE, &before);
-  rlimit limit = before;
-  limit.rlim_cur = 100;
-  setrlimit(RLIMIT_FSIZE, &limit);
-  const SaveReport node = Save(*MakeDomain(std::wstring(1000, L'x')), In("file"));
-  const SaveReport bytes = SaveBytes(std::string(1000, 'x'), In("file"));
-  setrlimit(RLIMIT_FSIZE, &before);
-  for (const SaveReport& report : {node, bytes}) {
-    EXPECT_EQ(report.outcome, SaveOutcome::kNotWritten);
-    EXPECT_NE(report.error, 0U);
+  {
+    const test::FileSizeLimit limit(100);
+    for (const SaveReport& report : {Save(*MakeDomain(std::wstring(1000, L'x')), In("file")),
+                                     SaveBytes(std::string(1000, 'x'), In("file"))}) {
+      EXPECT_EQ(report.outcome, SaveOutcome::kNotWritten);
+      EXPECT_NE(report.error, 0U);
+    }
   }
   {
     const SystemFault fault(SystemCall::kClose, 0, EIO);  // as some file systems tell it

@@ -190,6 +190,10 @@ TEST_F(Checked, HasAFormForEachProgram) {
   const std::string github = Check({"--format=github", In("a,b%:\xC3\xA9.xml")}).out;
   EXPECT_NE(github.find("a%2Cb%25%3A\xC3\xA9.xml,line=1,col=42,title=bad-number::Enabled="),
             std::string::npos);
+  const Json bad = Json::parse(Check({"--format=sarif", In("a,b%:\xC3\xA9.xml")}).out);
+  const std::string uri =
+      bad["runs"][0]["results"][0]["locations"][0]["physicalLocation"]["artifactLocation"]["uri"];
+  EXPECT_TRUE(uri.ends_with("/a,b%25%3A%C3%A9.xml")) << uri;
   const std::string junit = Check({"--format=junit", "-r", In("")}).out;
   EXPECT_NE(junit.find("<testcase classname=\"deep/good.xml\" name=\"check\"/>"),
             std::string::npos);

@@ -9,8 +9,10 @@
 #include <chrono>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 
 #include "cli/run.h"
+#include "support/file_size_limit.h"
 #include "support/files.h"
 
 namespace tolva::test {
@@ -58,6 +60,25 @@ TEST_F(SetInFolder, KeepsTheFileThatCannotBeReplaced) {
   struct stat about {};
   ASSERT_EQ(stat(File().c_str(), &about), 0);
   EXPECT_EQ(about.st_mode & 07777U, 0640U);
+}
+
+TEST_F(SetInFolder, KeepsTheFileWhenTheDiskIsFullAtAnyByte) {
+  const std::string before = Content();
+  const std::string longer(40, 'x');
+  ASSERT_EQ(Set(longer, File()).status, 0);
+  const std::string after = Content();
+  for (std::size_t room = 0; room < after.size(); ++room) {
+    std::ofstream(File(), std::ios::binary) << before;
+    Outcome outcome;
+    {
+      const FileSizeLimit limit(room);
+      outcome = Set(longer, File());
+    }
+    ASSERT_EQ(outcome.status, 2) << room;
+    ASSERT_NE(outcome.err.find("is not written: "), std::string::npos) << outcome.err;
+    ASSERT_EQ(Content(), before) << room;
+    ASSERT_EQ(std::distance(fs::directory_iterator(folder_.path()), {}), 1) << room;
+  }
 }
 
 /// A process that changes the file in a loop is killed: the file is one of the two, every time.

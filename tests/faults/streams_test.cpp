@@ -15,11 +15,9 @@
 #include "support/writer_faults.h"
 
 #if !defined(_WIN32)
-#include <sys/resource.h>
-
 #include <cerrno>
-#include <csignal>
 
+#include "support/file_size_limit.h"
 #include "support/system_faults.h"
 #endif
 
@@ -171,24 +169,6 @@ TEST(FailingClose, IsTold) {
   ASSERT_EQ(root->WriteToXMLMgr(writer.get()), 0);
   EXPECT_EQ(writer->Close(), 0);
 }
-
-/// While it lives, no file grows beyond a size.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(std::size_t size) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    rlimit limit = before_;
-    limit.rlim_cur = size;
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-  ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
-
- private:
-  rlimit before_ = {};
-};
 
 /// Writes to a disk that has room for so many bytes: an error that says so, and what had room is
 /// there.
