@@ -5,8 +5,9 @@
 
 The headers are libc++'s and MinGW-w64's, abi/prelude.h has what they lack. The library is compiled with
 both XML layers, and the support library; of the objects, the exports and the tables of virtual functions
-of the classes behind the interfaces have to be those of abi/. The tests are parsed, without making
-objects. The tool is left out: this libc++ has no std::ranges algorithms and no std::jthread.
+of the classes behind the interfaces have to be those of abi/. The tool and the tests are parsed, without
+making objects; of the tool and its tests, those sources are left out that use what this libc++ lacks,
+std::ranges algorithms and std::jthread.
 
 What this cannot show: Microsoft's own front end and library, the header xmllite.h of the Windows SDK,
 linking and running.
@@ -43,6 +44,8 @@ INNER = [("TolvaInterface", "CILPInLineProxy", "IILPInLineProxy"),
 OWN = ["-DTOLVA_OWN_XML_LAYER"]
 BUILDING = ["-DTOLVA_BUILDING"]
 WITHIN = ["-DTOLVA_API=", "-Itests", "-Itests/seam", f"-I{OBJECTS}", '-DTOLVA_DOCUMENTS=""', '-DTOLVA_SOURCES=""']
+TOOL = ["-DTOLVA_API=", "-Icli/windows", f"-isystem{OBJECTS}/headers", '-DTOLVA_VERSION=""']
+MISSING = re.compile(r"std::(ranges::|jthread|stop_token)")
 PARSING = ["-fsyntax-only", "-Wno-unused-command-line-argument"]
 
 
@@ -60,9 +63,29 @@ def jobs():
     for source in paths("support/*.cpp", "support/windows/*.cpp"):
         yield "support", source, []
     for source in paths("tests/**/*_test.cpp", "tests/support/*.cpp", "tests/tables/*.cpp"):
-        if "/cli/" in source or "posix" in source or "/differential/" in source:
+        if "posix" in source or "/differential/" in source or lacks_something(source):
             continue
-        yield "tests", source, OWN + WITHIN + PARSING
+        yield "tests", source, OWN + WITHIN + TOOL + PARSING
+    for source in paths("cli/*.cpp", "cli/windows/*.cpp"):
+        if not lacks_something(source):
+            yield "tool", source, OWN + TOOL + PARSING
+
+
+def lacks_something(source):
+    """Whether a source of the tool, or a header of its name, uses what this libc++ does not have."""
+    if "cli/" not in source:
+        return False
+    files = [ROOT / source, (ROOT / source).with_suffix(".h")]
+    return any(MISSING.search(file.read_text(encoding="utf-8")) for file in files if file.exists())
+
+
+def link_headers():
+    """The headers of the tool's libraries, without their neighbours."""
+    folder = OBJECTS / "headers"
+    folder.mkdir(parents=True, exist_ok=True)
+    for name in ["CLI", "nlohmann"]:
+        if not (folder / name).exists():
+            (folder / name).symlink_to(f"/usr/include/{name}")
 
 
 def make_lists():
@@ -138,6 +161,7 @@ def main():
     faults = []
     objects, layouts, count = [], "", {}
     make_lists()
+    link_headers()
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         for (name, source, _), target, done in pool.map(compile_one, jobs()):
             count[name] = count.get(name, 0) + 1
