@@ -57,7 +57,7 @@ TEST(Paths, DoNotDependOnTheLocale) {
 /// Every code of the own XML layer has words that no other has.
 TEST(Errors, HaveWords) {
   const std::string header = TempFile::ReadFile(TOLVA_SOURCES "/platform/xml/hresults.h");
-  const std::regex constant("HRESULT>\\((0xC00C[0-9A-F]{4})\\)");
+  const std::regex constant("HRESULT>\\((0xC00C[0-9A-F]{4})\\)", std::regex::icase);
   std::set<std::string> sentences;
   std::size_t count = 0;
   for (std::sregex_iterator at(header.begin(), header.end(), constant), end; at != end; ++at) {
