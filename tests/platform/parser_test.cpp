@@ -226,6 +226,7 @@ TEST(Parser, RefusesMalformedReferences) {
       {"<a b='val&#xfffe;'/>", "", WC_E_XMLCHARACTER},
       {"<a b='&#0;'/>", "", WC_E_XMLCHARACTER},
       {"<a b='&#xD800;'/>", "", WC_E_XMLCHARACTER},
+      {"<a b='&#xDFFF;'/>", "", WC_E_XMLCHARACTER},
       {"<a b='&#x110000;'/>", "", WC_E_XMLCHARACTER},
       {"<a b='&#99999999999999999999999999;'/>", "", WC_E_XMLCHARACTER},
       {"<a b='&#4294967361;'/>", "", WC_E_XMLCHARACTER},  // 'A', were it cut to 32 bits
