@@ -31,7 +31,6 @@ constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
 struct Options {
   InputOptions inputs;
   ExpectedType type;
-  std::string format = "text";
   std::vector<std::string> ignored;
   std::uint64_t most = kNoLimit;
   bool is_strict = false;
@@ -257,7 +256,7 @@ class Check {
       : session_(session),
         options_(options),
         expected_(options.type.document()),
-        format_(MakeCheckFormat(options.format, session.OutStyle(), options.is_strict)),
+        format_(MakeCheckFormat(session.format, session.OutStyle(), options.is_strict)),
         printer_(session, *format_, options.most, options.is_quiet) {
     for (const CodeInfo& info : Codes()) {
       if (std::ranges::find(options.ignored, info.name) != options.ignored.end()) {
@@ -375,9 +374,7 @@ void AddCheck(CLI::App& tool, Session& session) {
       .AllowOnly(codes);
   verb.Add("--max-findings", "N", options->most, "shows so many findings; all are counted.");
   verb.AddFlag("-q,--quiet", options->is_quiet, "prints no findings.");
-  verb.Add("--format", "FORMAT", options->format, "the form of the result.")
-      .AllowOnly(CheckFormats());
-  AddCommonOptions(verb, session, Formats::kTextOnly);
+  AddCommonOptions(verb, session, CheckFormats());
   verb.SetExamples(
       "tolva check policy.xml\n"
       "tolva check -r --strict /etc/agent\n"

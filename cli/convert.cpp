@@ -72,7 +72,7 @@ void AddConvert(CLI::App& tool, Session& session) {
   AddStdinName(verb, options->stdin_name);
   AddDropOption(verb, options->drops);
   AddDestination(verb, options->destination);
-  AddCommonOptions(verb, session, Formats::kTextOnly);
+  AddCommonOptions(verb, session);
   verb.SetExamples(
       "tolva convert --to json policy.xml -o policy.json\n"
       "tolva convert --to xml policy.json -o policy.xml --force\n"

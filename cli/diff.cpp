@@ -15,7 +15,6 @@ struct Options {
   std::string from;
   std::string to;
   std::string stdin_name = "standard input";
-  std::string format = "text";
   bool ignores_order = false;
   bool shows_secrets = false;
   Destination destination;
@@ -55,9 +54,9 @@ int PrintDifferences(Session& session, const Options& options) {
   const DocumentPair names = {from.name, to.name};
   const Secrets secrets = options.shows_secrets ? Secrets::kShown : Secrets::kHidden;
   std::string result;
-  if (options.format == "json") {
+  if (session.IsJson()) {
     result = DiffJson(*comparison, names, secrets);
-  } else if (options.format == "html") {
+  } else if (session.format == "html") {
     result = DiffHtml(*comparison, names, secrets);
   } else {
     const Style style =
@@ -88,10 +87,8 @@ void AddDiff(CLI::App& tool, Session& session) {
   verb.AddFlag("--show-secrets", options->shows_secrets,
                "shows key material and password hashes, too.");
   AddStdinName(verb, options->stdin_name);
-  verb.Add("--format", "FORMAT", options->format, "the form of the result; html is a page.")
-      .AllowOnly({"text", "json", "html"});
   AddDestination(verb, options->destination);
-  AddCommonOptions(verb, session, Formats::kTextOnly);
+  AddCommonOptions(verb, session, {"text", "json", "html"});
   verb.SetExamples(
       "tolva diff old.xml new.xml\n"
       "tolva diff --format html -o review.html old.xml new.xml\n"

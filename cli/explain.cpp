@@ -475,7 +475,7 @@ void AddExplain(CLI::App& tool, Session& session) {
   verb.Add("--find", "WORD", options->word,
            "lists the places whose names or descriptions have this word. The exit status "
            "is 1 if there is none.");
-  AddCommonOptions(verb, session, Formats::kTextAndJson);
+  AddCommonOptions(verb, session, {"text", "json"});
   verb.SetExamples(
       "tolva explain policy/LocationArray/Location\n"
       "tolva explain policy/UserInterface/Mode\n"

@@ -156,7 +156,7 @@ void AddFmt(CLI::App& tool, Session& session) {
   verb.AddFlag("--show-secrets", options->shows_secrets,
                "has --diff print key material and password hashes.");
   AddDestination(verb, options->destination);
-  AddCommonOptions(verb, session, Formats::kTextOnly);
+  AddCommonOptions(verb, session);
   verb.SetExamples(
       "tolva fmt policy.xml\n"
       "tolva fmt --check -r documents\n"

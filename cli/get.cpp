@@ -160,7 +160,7 @@ void AddGet(CLI::App& tool, Session& session) {
   verb.Add("path", "PATH", options->paths, "what to print.").Require();
   options->type.AddTo(verb);
   AddStdinName(verb, options->stdin_name);
-  AddCommonOptions(verb, session, Formats::kTextAndJson);
+  AddCommonOptions(verb, session, {"text", "json"});
   verb.SetExamples(
       "tolva get policy.xml UserInterface/Mode\n"
       "tolva get policy.xml 'LocationArray/Location[Name=\"Office\"]'\n"

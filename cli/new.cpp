@@ -174,7 +174,7 @@ void AddNew(CLI::App& tool, Session& session) {
   verb.AddFlag("--full", options->is_full,
                "has everything once, with comments that say what may stand there.");
   AddDestination(verb, options->destination);
-  AddCommonOptions(verb, session, Formats::kTextOnly);
+  AddCommonOptions(verb, session);
   verb.SetExamples(
       "tolva new policy -o policy.xml\n"
       "tolva new message-catalogue --full");

@@ -59,7 +59,7 @@ void AddSchema(CLI::App& tool, Session& session) {
       "accepts what the library reads, as far as XML Schema can say it, instead of what it "
       "writes.");
   AddDestination(verb, options->destination);
-  AddCommonOptions(verb, session, Formats::kTextOnly);
+  AddCommonOptions(verb, session);
   verb.SetExamples(
       "tolva schema xsd policy -o policy.xsd\n"
       "tolva schema json policy\n"

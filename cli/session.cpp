@@ -156,10 +156,9 @@ std::size_t Session::TextWidth() const {
   return std::min(out.Width(), kWidest);
 }
 
-void AddCommonOptions(Verb& verb, Session& session, Formats formats) {
-  if (formats == Formats::kTextAndJson) {
-    verb.Add("--format", "FORMAT", session.format, "the form of the result.")
-        .AllowOnly({"text", "json"});
+void AddCommonOptions(Verb& verb, Session& session, const std::vector<std::string>& formats) {
+  if (!formats.empty()) {
+    verb.Add("--format", "FORMAT", session.format, "the form of the result.").AllowOnly(formats);
   }
   verb.Add("--color", "WHEN", session.color, "whether the result is coloured; auto: on a terminal.")
       .AllowOnly({"auto", "always", "never"});

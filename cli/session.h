@@ -56,7 +56,7 @@ class Style {
 struct Session {
   Stream& out;
   Stream& err;
-  std::string format = "text";       ///< of verbs with Formats::kTextAndJson
+  std::string format = "text";       ///< --format
   std::string color = "auto";        ///< --color
   std::function<int()> action = {};  ///< what the verb does once the command line has been read
 
@@ -69,9 +69,8 @@ struct Session {
   std::size_t TextWidth() const;
 };
 
-/// Adds --color, and --format if the verb has more than one.
-enum class Formats : bool { kTextOnly, kTextAndJson };
-void AddCommonOptions(Verb& verb, Session& session, Formats formats);
+/// Adds --color, and --format if the verb has several.
+void AddCommonOptions(Verb& verb, Session& session, const std::vector<std::string>& formats = {});
 
 /// The options -o and --force of verbs that make a document.
 struct Destination {

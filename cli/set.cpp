@@ -163,7 +163,7 @@ void AddSet(CLI::App& tool, Session& session) {
       "replaces the file of -o if it exists; with -i, a file that has further hard links.");
   options->type.AddTo(verb);
   AddStdinName(verb, options->stdin_name);
-  AddCommonOptions(verb, session, Formats::kTextOnly);
+  AddCommonOptions(verb, session);
   verb.SetExamples(
       "tolva set -i policy.xml UserInterface/Mode=SILENT Log/MaxLogSize=1000000\n"
       "tolva set -i policy.xml 'LocationArray/Location[Name=\"Lab\"]/Desc=No guests'\n"

@@ -43,7 +43,7 @@ INNER = [("TolvaInterface", "CILPInLineProxy", "IILPInLineProxy"),
 
 OWN = ["-DTOLVA_OWN_XML_LAYER"]
 BUILDING = ["-DTOLVA_BUILDING"]
-WITHIN = ["-DTOLVA_API=", "-Itests", "-Itests/seam", f"-I{OBJECTS}", '-DTOLVA_DOCUMENTS=""', '-DTOLVA_SOURCES=""']
+WITHIN = ["-Itests", "-Itests/seam", f"-I{OBJECTS}", '-DTOLVA_DOCUMENTS=""', '-DTOLVA_SOURCES=""']
 TOOL = ["-DTOLVA_API=", "-Icli/windows", f"-isystem{OBJECTS}/headers", '-DTOLVA_VERSION=""']
 MISSING = re.compile(r"std::(ranges::|jthread|stop_token)")
 PARSING = ["-fsyntax-only", "-Wno-unused-command-line-argument"]

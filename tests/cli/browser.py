@@ -69,10 +69,6 @@ class Browser:
         with open(file, 'wb') as image:
             image.write(base64.b64decode(self._call('GET', '/screenshot')))
 
-    def print(self, file):
-        with open(file, 'wb') as document:
-            document.write(base64.b64decode(self._call('POST', '/print')))
-
     def expect(self, what, script, *arguments):
         if self.run(script, *arguments) is not True:
             raise AssertionError(what)

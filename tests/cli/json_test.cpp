@@ -5,9 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/session.h"
-#include "support/files.h"
 #include "support/nodes.h"
-#include "tables/random_content.h"
 
 namespace tolva::test {
 namespace {
