@@ -7,7 +7,7 @@ build='g++ cmake ninja-build'
 tool='libcli11-dev nlohmann-json3-dev'
 tool_tests='libxml2-utils python3 python3-jsonschema mandoc chromium chromium-driver fish jq zsh'
 windows='g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64'
-test="$build $tool $tool_tests $windows googletest clang clang-format clang-tidy llvm libclang-rt-14-dev libc++-14-dev mingw-w64-common pkg-config shellcheck libexpat1-dev valgrind ccache python3 pyflakes3 abigail-tools xz-utils dpkg-dev file"
+test="$build $tool $tool_tests $windows googletest clang clang-format clang-tidy llvm libclang-rt-14-dev libclang-14-dev llvm-14-dev libc++-14-dev mingw-w64-common pkg-config shellcheck libexpat1-dev valgrind ccache python3 pyflakes3 abigail-tools xz-utils dpkg-dev file"
 case ${1:-} in
   build) wanted=$build ;;
   tool) wanted="$build $tool" ;;
