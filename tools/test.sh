@@ -15,6 +15,8 @@ results=build/results
 rm -rf "$results"
 mkdir -p "$results"
 start=$SECONDS
+: "${CMAKE_BUILD_PARALLEL_LEVEL:=$(nproc)}"  # two parts are built at a time
+export CMAKE_BUILD_PARALLEL_LEVEL
 
 count_check() { # <passed: yes|no> <name>
   if [ "$1" = yes ]; then
