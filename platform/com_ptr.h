@@ -14,7 +14,7 @@ class ComPtr {
   ComPtr& operator=(const ComPtr&) = delete;
   ComPtr(ComPtr&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
   ComPtr& operator=(ComPtr&& other) noexcept {
-    if (this != &other) Attach(std::exchange(other.object_, nullptr));
+    Attach(std::exchange(other.object_, nullptr));
     return *this;
   }
   ~ComPtr() { Reset(); }
