@@ -19,32 +19,14 @@ using own_xml::Parser;
 using own_xml::ReadResult;
 using own_xml::ValueKind;
 
-/// Shows control characters, so that a failing test can be read.
-std::string Show(std::string_view text) {
-  std::string shown;
-  for (const char c : text) {
-    switch (c) {
-      case '\n':
-        shown += "\\n";
-        break;
-      case '\r':
-        shown += "\\r";
-        break;
-      case '\t':
-        shown += "\\t";
-        break;
-      default:
-        shown += c;
-    }
-  }
-  return shown;
-}
+/// The nodes, and the fault after them; S_OK: the document has ended without one.
+using Outcome = std::pair<std::string, HRESULT>;
 
 std::string Value(std::string_view raw, bool plain, ValueKind kind) {
-  if (plain) return Show(raw);
+  if (plain) return std::string(raw);
   Buffer<char> value;
   own_xml::AppendValue(raw, kind, value);
-  return Show({value.data(), value.size()});
+  return {value.data(), value.size()};
 }
 
 /// A name put together from its parts.
@@ -53,75 +35,64 @@ std::string NameOf(const own_xml::QName& name) {
   return (prefix.empty() ? "" : prefix + ":") + std::string(name.Local());
 }
 
-/// A node in a notation of its own: <a x='1'> <a/> </a> T(text) W(blanks) C(cdata) !(comment)
+/// A node in a notation of its own: <a x='1'> <a/> </a> T(text) W(white space) C(cdata) !(comment)
 /// ?(target:data) D (declaration)
 std::string Describe(const Parser& parser) {
   const auto value = [&parser](ValueKind kind) {
-    return "(" + Value(parser.value(), parser.value_is_plain(), kind) + ")";
+    return Value(parser.value(), parser.value_is_plain(), kind) + ")";
   };
   const std::string name = NameOf(parser.name());
+  std::string text = "<" + name;
   switch (parser.type()) {
-    case XmlNodeType_Element: {
-      std::string text = "<" + name;
+    case XmlNodeType_Element:
       for (const own_xml::Attribute& attribute : parser.attributes()) {
         text += " " + NameOf(attribute.name) + "='" +
                 Value(attribute.value, attribute.plain, ValueKind::kAttribute) + "'";
       }
       return text + (parser.is_empty_element() ? "/>" : ">");
-    }
     case XmlNodeType_EndElement:
       return "</" + name + ">";
     case XmlNodeType_Text:
-      return "T" + value(ValueKind::kText);
+      return "T(" + value(ValueKind::kText);
     case XmlNodeType_Whitespace:
-      return "W" + value(ValueKind::kLiteral);
+      return "W(" + value(ValueKind::kLiteral);
     case XmlNodeType_CDATA:
-      return "C" + value(ValueKind::kLiteral);
+      return "C(" + value(ValueKind::kLiteral);
     case XmlNodeType_Comment:
-      return "!" + value(ValueKind::kLiteral);
+      return "!(" + value(ValueKind::kLiteral);
     case XmlNodeType_ProcessingInstruction:
-      return "?(" + name + ":" + value(ValueKind::kLiteral).substr(1);
-    case XmlNodeType_XmlDeclaration:
-      return "D";
+      return "?(" + name + ":" + value(ValueKind::kLiteral);
     default:
-      return "none";
+      return parser.type() == XmlNodeType_XmlDeclaration ? "D" : "none";
   }
 }
 
-struct Outcome {
-  std::string nodes;
-  HRESULT fault = S_OK;  ///< S_OK: the document has ended without one
-
-  bool operator==(const Outcome&) const = default;
-};
-
-std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
-  return out << outcome.nodes << " -> " << std::hex << static_cast<unsigned>(outcome.fault);
+/// Reads to the end, or to a fault.
+template <class Action>
+ReadResult ReadOn(Parser& parser, Action on_node) {
+  ReadResult result = ReadResult::kNode;
+  Steps steps;
+  while (steps.Take() && (result = parser.Read()) == ReadResult::kNode) on_node();
+  return result;
 }
 
 /// With one parser for all documents, as a manager has.
 Outcome Parse(StackStream& stream, bool converted = false) {
   static Parser parser;
   parser.SetInput(&stream, converted);
-  Outcome outcome;
-  ReadResult result = ReadResult::kNode;
-  Steps steps;
-  while (steps.Take() && (result = parser.Read()) == ReadResult::kNode) {
-    outcome.nodes += Describe(parser);
-  }
-  if (result == ReadResult::kFault) outcome.fault = parser.fault();
+  std::string nodes;
+  const ReadResult result = ReadOn(parser, [&nodes] { nodes += Describe(parser); });
+  const HRESULT fault = result == ReadResult::kFault ? parser.fault() : S_OK;
   for (int again = 0; again < 3; ++again) {
     EXPECT_EQ(parser.Read(), result);
     EXPECT_EQ(parser.type(), XmlNodeType_None);
   }
   parser.SetInput(nullptr, false);
-  return outcome;
+  return {nodes, fault};
 }
 
-constexpr std::size_t kBlocks[] = {1, 2, 3, 7, 64, 1U << 20};
-
 void ExpectOutcome(std::string_view document, const Outcome& expected, bool converted = false) {
-  for (const std::size_t block : kBlocks) {
+  for (const std::size_t block : {1U, 2U, 3U, 7U, 64U, 1U << 20}) {
     TextStream stream(document, block);
     EXPECT_EQ(Parse(stream, converted), expected)
         << "document: " << document.substr(0, 200) << "\nblock: " << block;
@@ -129,251 +100,124 @@ void ExpectOutcome(std::string_view document, const Outcome& expected, bool conv
   }
 }
 
-struct Case {
-  std::string_view document;
-  std::string_view nodes;
-  HRESULT fault = S_OK;
-};
-
-void ExpectAll(std::initializer_list<Case> cases) {
-  for (const Case& one : cases) ExpectOutcome(one.document, {std::string(one.nodes), one.fault});
+/// Expects that fault of each document. Before it come the nodes of what stands before a bar.
+void ExpectFault(HRESULT fault, std::initializer_list<std::string_view> documents) {
+  for (const std::string_view marked : documents) {
+    const std::size_t bar = marked.find('|');
+    std::string nodes;
+    std::string document(marked);
+    if (bar != std::string_view::npos) {
+      TextStream before(marked.substr(0, bar));
+      nodes = Parse(before).first;
+      EXPECT_NE(nodes, "");
+      document.erase(bar, 1);
+    }
+    ExpectOutcome(document, {nodes, fault});
+  }
 }
 
+// tests/differential compares nodes and their values with those of another parser. Here is what it
+// cannot see.
 TEST(Parser, DeliversTheNodesOfADocument) {
-  ExpectAll({
-      {"<!-- comment1 --><!-- comment2 --><?pi1 pi1body ?> \t \r \n<!-- comment4 --><a>\r\n\t<b/>"
-       "text<!-- comment -->text2<?pi pibody ?>\r\n</a>",
-       "!( comment1 )!( comment2 )?(pi1:pi1body )W( \\t \\n \\n)!( comment4 )<a>W(\\n\\t)<b/>"
-       "T(text)!( comment )T(text2)?(pi:pibody )W(\\n)</a>"},
-      {"<a/>", "<a/>"},
-      {"<a />\n", "<a/>W(\\n)"},
-      {"<a \r \t\n>x</a\n>", "<a>T(x)</a>"},
-      {"<a b = '1'\tc='2' />", "<a b='1' c='2'/>"},
-      {"<a><b><c/></b><b></b></a>", "<a><b><c/></b><b></b></a>"},
-      {"<?xml version=\"1.0\" standalone=\"yes\"?><a/>", "D<a/>"},
-      {"<?xml version='1.1' encoding = 'utf-8' standalone='no' ?>\n<a/>", "DW(\\n)<a/>"},
-      {"<a>x<!---->y<?p?>z<?p ?></a>", "<a>T(x)!()T(y)?(p:)T(z)?(p:)</a>"},
-      {"<?pi    data  ?><?xml-stylesheet ?><?q ? ?\?><a/>",
-       "?(pi:data  )?(xml-stylesheet:)?(q:? ?)<a/>"},
-      {"<_.-1 _.-2=''/>", "<_.-1 _.-2=''/>"},
-      {"<\xC3\xA9\xCC\x81 \xE4\xBA\xBA\xC2\xB7='\xF0\x9F\x98\x80'/>",
-       "<\xC3\xA9\xCC\x81 \xE4\xBA\xBA\xC2\xB7='\xF0\x9F\x98\x80'/>"},
-  });
-}
-
-TEST(Parser, GivesTextItsValue) {
-  ExpectAll({
-      {"<a>\n \r\n \n\n text</a>", "<a>T(\\n \\n \\n\\n text)</a>"},
-      {"<a>\r \r\r\n \n\n text\r</a>", "<a>T(\\n \\n\\n \\n\\n text\\n)</a>"},
-      {"<a>&#x1f3;&#259;&gt;&lt;&amp;&quot;&apos;</a>", "<a>T(\xC7\xB3\xC4\x83><&\"')</a>"},
+  const std::pair<std::string_view, std::string_view> cases[] = {
+      {"<?xml version='1.1' encoding = 'utf-8' standalone='no' ?>\n<a/>", "DW(\n)<a/>"},
+      {"<!-- 1 --><!-- 2 --><?pi1 body ?> \t \r \n<!-- 3 --><a>\r\n\t<b/>text<!-- 4 -->text2"
+       "<?pi body ?>\r\n</a>",
+       "!( 1 )!( 2 )?(pi1:body )W( \t \n \n)!( 3 )<a>W(\n\t)<b/>T(text)!( 4 )T(text2)?(pi:body )"
+       "W(\n)</a>"},
+      {"<a><b></b><c\n/></a\n>", "<a><b></b><c/></a>"},
       {"<a>&#32;</a>", "<a>T( )</a>"},
-      {"<a> &#13;\n</a>", "<a>T( \\r\\n)</a>"},
-      {"<a>] ]] ]>&gt; ]]&gt;</a>", "<a>T(] ]] ]>> ]]>)</a>"},
-      {"<a><![CDATA[ ]]data ]]><![CDATA[<![CDATA[ & ]]]]><![CDATA[]]></a>",
-       "<a>C( ]]data )C(<![CDATA[ & ]])C()</a>"},
-      {"<a><![CDATA[\r \r\r\n \n\n ]]></a>", "<a>C(\\n \\n\\n \\n\\n )</a>"},
-      {"<a><!--\r\n-->\r<?p \r\n?></a>", "<a>!(\\n)W(\\n)?(p:)</a>"},
-  });
-}
-
-TEST(Parser, GivesAttributesTheirValue) {
-  ExpectAll({
-      {"<a b=\"a''b\" c='a\"b' d=' ' e=\" v \"/>", "<a b='a''b' c='a\"b' d=' ' e=' v '/>"},
-      {"<a b=\"\r\n \r \n \t\n\r\"/>", "<a b='         '/>"},
-      {"<a b=\"\r\n\tval\n\"/>", "<a b='  val '/>"},
-      {"<a b=\"v&#32;&#x9;&#xA;&#xD;\"/>", "<a b='v \\t\\n\\r'/>"},
-      {"<a b=\"&lt;&gt;&amp;&apos;&quot;&#x10FFFF;\"/>", "<a b='<>&'\"\xF4\x8F\xBF\xBF'/>"},
+      {"<a> &#13;\n</a>", "<a>T( \r\n)</a>"},
+      {"<a>\n \r\n text\r<!--\r\n-->\r</a>", "<a>T(\n \n text\n)!(\n)W(\n)</a>"},
+      {"<a><![CDATA[ ]]data ]]><![CDATA[]]></a>", "<a>C( ]]data )C()</a>"},
+      {"<a b=\"&#x10FFFF;\"/>", "<a b='\xF4\x8F\xBF\xBF'/>"},
       {"<a b='a value of more than sixteen characters > \"plain\"'/>",
        "<a b='a value of more than sixteen characters > \"plain\"'/>"},
-      {"<a b='a value of more than sixteen characters, &amp; more'/>",
-       "<a b='a value of more than sixteen characters, & more'/>"},
-  });
+      // The parts of a name, in end tags as well.
+      {"<p:a xmlns:p='u' p:x=''><b><pq:c xmlns:pq='v'></pq:c></b></p:a>",
+       "<p:a xmlns:p='u' p:x=''><b><pq:c xmlns:pq='v'></pq:c></b></p:a>"},
+  };
+  for (const auto& [document, nodes] : cases) ExpectOutcome(document, {std::string(nodes), S_OK});
 }
 
 TEST(Parser, RefusesMalformedTags) {
-  ExpectAll({
-      {"<a></b>", "<a>", WC_E_ELEMENTMATCH},
-      {"<a></ab>", "<a>", WC_E_ELEMENTMATCH},
-      {"<ab></a>", "<ab>", WC_E_ELEMENTMATCH},
-      {"<a></a", "<a>", MX_E_INPUTEND},
-      {"<a></a b>", "<a>", WC_E_GREATERTHAN},
-      {"<a></a/>", "<a>", WC_E_GREATERTHAN},
-      {"<a></>", "<a>", NC_E_QNAMECHARACTER},
-      {"<a></ a>", "<a>", NC_E_QNAMECHARACTER},
-      {"< a/>", "", NC_E_QNAMECHARACTER},
-      {"</a>", "", NC_E_QNAMECHARACTER},
-      {"<1a/>", "", NC_E_QNAMECHARACTER},
-      {"<\xC2\xB7/>", "", NC_E_QNAMECHARACTER},
-      {"<a\xC3\x97/>", "", NC_E_QNAMECHARACTER},
-      {"<a$/>", "", NC_E_QNAMECHARACTER},
-      {"<a/ >", "", WC_E_GREATERTHAN},
-      {"<a b='1'c='2'/>", "", WC_E_WHITESPACE},
-      {"<a b/>", "", WC_E_EQUAL},
-      {"<a b=c/>", "", WC_E_QUOTE},
-      {"<a 1='2'/>", "", NC_E_QNAMECHARACTER},
-      {"<a b='<'/>", "", WC_E_LESSTHAN},
-      {"<a b=\"<\"/>", "", WC_E_LESSTHAN},
-      {"<a b='1' b='2'/>", "", WC_E_UNIQUEATTRIBUTE},
-      {"<x><a b='1' c='2' d='3' e='4' b='5'/></x>", "<x>", WC_E_UNIQUEATTRIBUTE},
-  });
+  ExpectFault(WC_E_ELEMENTMATCH, {"<a>|</b>", "<a>|</ab>", "<ab>|</a>"});
+  ExpectFault(WC_E_GREATERTHAN, {"<a>|</a b>", "<a>|</a/>", "<a/ >"});
+  ExpectFault(NC_E_QNAMECHARACTER, {"<a>|</>", "<a>|</ a>", "< a/>", "</a>", "<\xC2\xB7/>",
+                                    "<a\xC3\x97/>", "<a$/>", "<a 1='2'/>", "<a/>|</a>"});
+  ExpectFault(WC_E_WHITESPACE, {"<a b='1'c='2'/>"});
+  ExpectFault(WC_E_EQUAL, {"<a b/>"});
+  ExpectFault(WC_E_QUOTE, {"<a b=c/>"});
+  ExpectFault(WC_E_LESSTHAN, {"<a b='<'/>", "<a b=\"<\"/>"});
+  ExpectFault(WC_E_UNIQUEATTRIBUTE,
+              {"<a b='1' b='2'/>", "<x>|<a b='1' c='2' d='3' e='4' b='5'/></x>"});
 }
 
 TEST(Parser, RefusesMalformedReferences) {
-  ExpectAll({
-      {"<a b='&entname;'/>", "", WC_E_UNDECLAREDENTITY},
-      {"<a b='&entname'/>", "", WC_E_SEMICOLON},
-      {"<a b='& '/>", "", WC_E_NAME},
-      {"<a b='val&#xfffe;'/>", "", WC_E_XMLCHARACTER},
-      {"<a b='&#0;'/>", "", WC_E_XMLCHARACTER},
-      {"<a b='&#xD800;'/>", "", WC_E_XMLCHARACTER},
-      {"<a b='&#xDFFF;'/>", "", WC_E_XMLCHARACTER},
-      {"<a b='&#x110000;'/>", "", WC_E_XMLCHARACTER},
-      {"<a b='&#99999999999999999999999999;'/>", "", WC_E_XMLCHARACTER},
-      {"<a b='&#4294967361;'/>", "", WC_E_XMLCHARACTER},  // 'A', were it cut to 32 bits
-      {"<a b='val &#a;'/>", "", WC_E_DIGIT},
-      {"<a b='val &#12a;'/>", "", WC_E_SEMICOLON},
-      {"<a b='val &#x12g;'/>", "", WC_E_SEMICOLON},
-      {"<a b='val &#xg;'/>", "", WC_E_HEXDIGIT},
-      {"<a>x&#x;</a>", "<a>", WC_E_HEXDIGIT},
-      {"<a>x&Lt;</a>", "<a>", WC_E_UNDECLAREDENTITY},
-  });
+  ExpectFault(WC_E_UNDECLAREDENTITY, {"<a b='&entname;'/>", "<a>|x&Lt;</a>"});
+  ExpectFault(WC_E_SEMICOLON, {"<a b='&entname'/>", "<a b='val &#12a;'/>", "<a b='val &#x12g;'/>"});
+  ExpectFault(WC_E_NAME, {"<a b='& '/>"});
+  ExpectFault(WC_E_DIGIT, {"<a b='val &#a;'/>"});
+  ExpectFault(WC_E_HEXDIGIT, {"<a b='val &#xg;'/>", "<a>|x&#x;</a>"});
+  ExpectFault(WC_E_XMLCHARACTER,
+              {"<a b='val&#xfffe;'/>", "<a b='&#0;'/>", "<a b='&#xD800;'/>", "<a b='&#xDFFF;'/>",
+               "<a b='&#x110000;'/>", "<a b='&#99999999999999999999999999;'/>",
+               "<a b='&#4294967361;'/>"});  // 'A', were it cut to 32 bits
 }
 
 TEST(Parser, RefusesMalformedMarkup) {
-  ExpectAll({
-      {"<a>text ]]> text</a>", "<a>", WC_E_CDSECTEND},
-      {"<a>]]></a>", "<a>", WC_E_CDSECTEND},
-      {"<!-- -- comment--><a/>", "", WC_E_COMMENT},
-      {"<!-- comment---><a/>", "", WC_E_COMMENT},
-      {"<!-comment--><a/>", "", WC_E_COMMENT},
-      {"<a><![CDAT[]]></a>", "<a>", WC_E_CDSECT},
-      {"<![CDATA[]]><a/>", "", WC_E_SYNTAX},
-      {"<a/><![CDATA[]]>", "<a/>", WC_E_SYNTAX},
-      {"<?pi:pi?><a/>", "", NC_E_NAMECOLON},
-      {"<?:pi ?><a/>", "", WC_E_PI},
-      {"<?-pi ?><a/>", "", WC_E_PI},
-      {"<?pi+?><a/>", "", WC_E_PI},
-      {"<?pi?\?><a/>", "", WC_E_PI},
-      {"<?XML version='1.0'?><a/>", "", WC_E_LEADINGXML},
-      {"<!DOCTYPE a><a/>", "", WC_E_DTDPROHIBITED},
-      {"<!-- c --> <!DOCTYPE a [", "!( c )W( )", WC_E_DTDPROHIBITED},
-      {"<!doctype a><a/>", "", WC_E_SYNTAX},
-      {"<a><!DOCTYPE a></a>", "<a>", WC_E_SYNTAX},
-  });
-}
-
-TEST(Parser, RefusesMalformedDocuments) {
-  ExpectAll({
-      {"", "", WC_E_ROOTELEMENT},
-      {" <!-- nothing -->\n", "W( )!( nothing )W(\\n)", WC_E_ROOTELEMENT},
-      {"xml", "", WC_E_SYNTAX},
-      {"<a/>text", "<a/>", WC_E_SYNTAX},
-      {"<a/> text", "<a/>W( )", WC_E_SYNTAX},
-      {"<a/>&amp;", "<a/>", WC_E_SYNTAX},
-      {"<a/><b/>", "<a/>", WC_E_ROOTELEMENT},
-      {"<a></a></a>", "<a></a>", NC_E_QNAMECHARACTER},
-      {"<a>text", "<a>T(text)", MX_E_INPUTEND},
-      {"<a>\n", "<a>W(\\n)", MX_E_INPUTEND},
-      {"<a><b>", "<a><b>", MX_E_INPUTEND},
-      {"<a b='", "", MX_E_INPUTEND},
-      {"<", "", MX_E_INPUTEND},
-      {"<!", "", MX_E_INPUTEND},
-      {"<!DOCTYP", "", MX_E_INPUTEND},
-  });
+  ExpectFault(WC_E_CDSECTEND, {"<a>|text ]]> text</a>", "<a>|]]></a>"});
+  ExpectFault(WC_E_COMMENT, {"<!-- -- --><a/>", "<!-- c---><a/>", "<!-c--><a/>"});
+  ExpectFault(WC_E_CDSECT, {"<a>|<![CDAT[]]></a>"});
+  ExpectFault(WC_E_SYNTAX,
+              {"<![CDATA[]]><a/>", "<a/>|<![CDATA[]]>", "<!doctype a><a/>", "<a>|<!DOCTYPE a></a>",
+               "xml", "<a/>|text", "<a/> |text", "<a/>|&amp;"});
+  ExpectFault(WC_E_DTDPROHIBITED, {"<!DOCTYPE a><a/>", "<!-- c --> |<!DOCTYPE a ["});
+  ExpectFault(NC_E_NAMECOLON, {"<?pi:pi?><a/>"});
+  ExpectFault(WC_E_PI, {"<?:pi ?><a/>", "<?-pi ?><a/>", "<?pi+?><a/>", "<?pi?\?><a/>"});
+  ExpectFault(WC_E_LEADINGXML, {"<?XML version='1.0'?><a/>"});
+  ExpectFault(WC_E_ROOTELEMENT, {"", " <!-- nothing -->\n|", "<a/>|<b/>"});
+  ExpectFault(MX_E_INPUTEND, {"<a b='", "<", "<!", "<!DOCTYP", "<a>|</a", "<a><b>|"});
+  ExpectOutcome("<a>text", {"<a>T(text)", MX_E_INPUTEND});
+  ExpectOutcome("<a>\n", {"<a>W(\n)", MX_E_INPUTEND});
 }
 
 TEST(Parser, JudgesTheDeclaration) {
-  ExpectAll({
-      {"<?xml version=\"1.0\"encoding=\"UTF-8\"?><a/>", "", WC_E_XMLDECL},
-      {"<?xml version=\"1.0\"standalone=\"yes\"?><a/>", "", WC_E_XMLDECL},
-      {"<?xml?><a/>", "", WC_E_XMLDECL},
-      {"<?xml encoding='UTF-8'?><a/>", "", WC_E_XMLDECL},
-      {"<?xml version='2.0'?><a/>", "", WC_E_XMLDECL},
-      {"<?xml version='1.'?><a/>", "", WC_E_XMLDECL},
-      {"<?xml version='1.-'?><a/>", "", WC_E_XMLDECL},
-      {"<?xml version='1.0' encoding='_'?><a/>", "", WC_E_XMLDECL},
-      {"<?xml version='1.0' standalone='maybe'?><a/>", "", WC_E_XMLDECL},
-      {"<?xml version='1.0' standalone='yes' encoding='UTF-8'?><a/>", "", WC_E_XMLDECL},
-      {"<?xml version='1.0'><a/>", "", WC_E_XMLDECL},
-      {" <?xml version='1.0'?><a/>", "W( )", WC_E_TEXTXMLDECL},
-      {"<a><?xml version='1.0'?></a>", "<a>", WC_E_TEXTXMLDECL},
-      {"<?xml version='1.0' encoding='windows-1252'?><a/>", "", MX_E_ENCODING},
-      {"<?xml version='1.0' encoding='UTF-16'?><a/>", "", MX_E_ENCODINGSWITCH},
-  });
+  ExpectFault(
+      WC_E_XMLDECL,
+      {"<?xml version=\"1.0\"encoding=\"UTF-8\"?><a/>", "<?xml?><a/>",
+       "<?xml encoding='UTF-8'?><a/>", "<?xml version='2.0'?><a/>", "<?xml version='1.'?><a/>",
+       "<?xml version='1.-'?><a/>", "<?xml version='1.0' encoding='_'?><a/>",
+       "<?xml version='1.0' standalone='maybe'?><a/>",
+       "<?xml version='1.0' standalone='yes' encoding='UTF-8'?><a/>", "<?xml version='1.0'><a/>"});
+  ExpectFault(WC_E_TEXTXMLDECL, {" |<?xml version='1.0'?><a/>", "<a>|<?xml version='1.0'?></a>"});
+  ExpectFault(MX_E_ENCODING, {"<?xml version='1.0' encoding='windows-1252'?><a/>"});
+  ExpectFault(MX_E_ENCODINGSWITCH, {"<?xml version='1.0' encoding='UTF-16'?><a/>"});
 }
 
 TEST(Parser, KeepsTheRulesOfNamespaces) {
-  ExpectAll({
-      {"<r:a xmlns='d' xmlns:r='n'><b r:c='1' c='2'/><r:d/></r:a>",
-       "<r:a xmlns='d' xmlns:r='n'><b r:c='1' c='2'/><r:d/></r:a>"},
-      {"<a xml:lang='en' xmlns:xml='http://www.w3.org/XML/1998/namespace'/>",
-       "<a xml:lang='en' xmlns:xml='http://www.w3.org/XML/1998/namespace'/>"},
-      {"<a xmlns='n'><b xmlns=''/></a>", "<a xmlns='n'><b xmlns=''/></a>"},
-      {"<a:b/>", "", NC_E_UNDECLAREDPREFIX},
-      {"<a b:c=''/>", "", NC_E_UNDECLAREDPREFIX},
-      {"<a><b xmlns:p='u'><p:c/></b><b xmlns:p='u'/><p:c/></a>",
-       "<a><b xmlns:p='u'><p:c/></b><b xmlns:p='u'/>", NC_E_UNDECLAREDPREFIX},
-      {"<:a/>", "", NC_E_QNAMECHARACTER},
-      {"<a:/>", "", NC_E_QNAMECHARACTER},
-      {"<:b:c />", "", NC_E_QNAMECHARACTER},
-      {"<a:b:c />", "", NC_E_QNAMECOLON},
-      {"<a xmlns:p='u' xmlns:q='&#x75;' p:x='1' q:x='2'/>", "", WC_E_UNIQUEATTRIBUTE},
-      {"<a xmlns:p='u' p:x='1' x='2'/>", "<a xmlns:p='u' p:x='1' x='2'/>"},
-      {"<a xmlns:p='u' xmlns:p='v'/>", "", WC_E_UNIQUEATTRIBUTE},
-      {"<a xmlns:p=''/>", "", NC_E_EMPTYURI},
-      {"<a xmlns:xml='u'/>", "", NC_E_XMLPREFIXRESERVED},
-      {"<a xmlns:xmlns='u'/>", "", NC_E_XMLNSPREFIXRESERVED},
-      {"<xmlns:a/>", "", NC_E_XMLNSPREFIXRESERVED},
-      {"<a xmlns:p='http://www.w3.org/XML/1998/namespace'/>", "", NC_E_XMLURIRESERVED},
-      {"<a xmlns='http://www.w3.org/2000/xmlns/'/>", "", NC_E_XMLNSURIRESERVED},
-  });
-  // The parts of a name, in end tags as well.
-  ExpectOutcome("<p:a xmlns:p='u'><b><pq:c xmlns:pq='v'></pq:c></b></p:a>",
-                {"<p:a xmlns:p='u'><b><pq:c xmlns:pq='v'></pq:c></b></p:a>"});
-  // A prefix that is bound anew, and is what it was afterwards.
-  ExpectOutcome("<a xmlns:p='u' xmlns:q='v'><b xmlns:p='v'><c p:x='' q:x=''/></b></a>",
-                {"<a xmlns:p='u' xmlns:q='v'><b xmlns:p='v'>", WC_E_UNIQUEATTRIBUTE});
-  ExpectOutcome("<a xmlns:p='u' xmlns:q='v'><b xmlns:p='v'/><c p:x='' q:x=''/></a>",
-                {"<a xmlns:p='u' xmlns:q='v'><b xmlns:p='v'/><c p:x='' q:x=''/></a>"});
+  ExpectFault(NC_E_UNDECLAREDPREFIX,
+              {"<a:b/>", "<a b:c=''/>", "<a><b xmlns:p='u'><p:c/></b><b xmlns:p='u'/>|<p:c/></a>"});
+  ExpectFault(NC_E_QNAMECHARACTER, {"<:a/>", "<a:/>", "<:b:c />"});
+  ExpectFault(NC_E_QNAMECOLON, {"<a:b:c />"});
+  ExpectFault(WC_E_UNIQUEATTRIBUTE,
+              {"<a xmlns:p='u' xmlns:q='&#x75;' p:x='1' q:x='2'/>", "<a xmlns:p='u' xmlns:p='v'/>",
+               "<a xmlns:p='u' xmlns:q='v'><b xmlns:p='v'>|<c p:x='' q:x=''/></b></a>"});
+  ExpectFault(NC_E_EMPTYURI, {"<a xmlns:p=''/>"});
+  ExpectFault(NC_E_XMLPREFIXRESERVED, {"<a xmlns:xml='u'/>"});
+  ExpectFault(NC_E_XMLNSPREFIXRESERVED, {"<a xmlns:xmlns='u'/>", "<xmlns:a/>"});
+  ExpectFault(NC_E_XMLURIRESERVED, {"<a xmlns:p='http://www.w3.org/XML/1998/namespace'/>"});
+  ExpectFault(NC_E_XMLNSURIRESERVED, {"<a xmlns='http://www.w3.org/2000/xmlns/'/>"});
 }
 
 TEST(Parser, RefusesWhatIsNoCharacter) {
   using namespace std::string_view_literals;
-  ExpectAll({
-      {"<a>\x01</a>", "<a>", WC_E_XMLCHARACTER},
-      {"<a>good\x0Btext</a>", "<a>", WC_E_XMLCHARACTER},
-      {"<a b='\x1F'/>", "", WC_E_XMLCHARACTER},
-      {"<a\0/>"sv, "", WC_E_XMLCHARACTER},
-      {"<a>\0</a>"sv, "<a>", WC_E_XMLCHARACTER},
-      {"<a>\xC0\x80</a>", "<a>", WC_E_XMLCHARACTER},  // overlong
-      {"<a>\xE0\x9F\xBF</a>", "<a>", WC_E_XMLCHARACTER},
-      {"<a>\xF0\x8F\xBF\xBF</a>", "<a>", WC_E_XMLCHARACTER},
-      {"<a>\xED\xA0\x80</a>", "<a>", WC_E_XMLCHARACTER},      // a surrogate
-      {"<a>\xF4\x90\x80\x80</a>", "<a>", WC_E_XMLCHARACTER},  // beyond U+10FFFF
-      {"<a>\xE2\x82</a>", "<a>", WC_E_XMLCHARACTER},          // cut short
-      {"<a>\x80</a>", "<a>", WC_E_XMLCHARACTER},              // starts nothing
-      {"<a>\xEF\xBF\xBE</a>", "<a>", WC_E_XMLCHARACTER},      // U+FFFE
-      {"<a>\xEF\xBF\xBD\xEE\x80\x80\x7F</a>", "<a>T(\xEF\xBF\xBD\xEE\x80\x80\x7F)</a>"},
-      {"<!--\xFF--><a/>", "", WC_E_XMLCHARACTER},
-      {"<a/><!-- \xE2\x82", "<a/>", WC_E_XMLCHARACTER},
-      // Between nodes anything that is not markup offends by being there.
-      {"<a/>\0"sv, "<a/>", WC_E_SYNTAX},
-      {"<?xml version='1.0'?>\n\0"sv, "DW(\\n)", WC_E_SYNTAX},
-      {"\xFF", "", WC_E_SYNTAX},
-  });
-}
-
-TEST(Parser, ForgetsADocumentThatBrokeOff) {
-  TextStream first("<a xmlns:p='u'><b><c x='");
-  TextStream second("<p:b/>");
-  Parser parser;
-  parser.SetInput(&first, false);
-  Steps steps;
-  while (steps.Take() && parser.Read() == ReadResult::kNode) {
-  }
-  parser.SetInput(&second, false);
-  EXPECT_EQ(parser.Read(), ReadResult::kFault);
-  EXPECT_EQ(parser.fault(), NC_E_UNDECLAREDPREFIX);
+  ExpectFault(WC_E_XMLCHARACTER,
+              {"<a>|\x01</a>", "<a>|good\x0Btext</a>", "<a b='\x1F'/>", "<a\0/>"sv, "<a>|\0</a>"sv,
+               "<a>|\xE0\x9F\xBF</a>", "<a>|\xF0\x8F\xBF\xBF</a>", "<a>|\x80</a>",
+               "<!--\xFF--><a/>", "<a/>|<!-- \xE2\x82"});
+  // Between nodes anything that is not markup offends by being there.
+  ExpectFault(WC_E_SYNTAX, {"<a/>|\0"sv, "<?xml version='1.0'?>\n|\0"sv, "\xFF"});
 }
 
 // ---- encodings ---------------------------------------------------------------------------------
@@ -390,39 +234,36 @@ std::string Utf16(std::u16string_view text, bool big) {
 }
 
 TEST(Parser, ReadsItsEncodings) {
-  const Outcome expected{"<a b='\xC3\xA9\xF0\x9F\x98\x80'/>"};
-  ExpectOutcome("\xEF\xBB\xBF<a b='\xC3\xA9\xF0\x9F\x98\x80'/>", expected);
+  const std::string character = "\xC3\xA9\xF0\x9F\x98\x80";
+  const Outcome expected{"<a b='" + character + "'/>", S_OK};
+  ExpectOutcome("\xEF\xBB\xBF<a b='" + character + "'/>", expected);
   for (const bool big : {false, true}) {
     ExpectOutcome(Utf16(u"\uFEFF<a b='\u00E9\U0001F600'/>", big), expected);
     ExpectOutcome(Utf16(u"<a b='\u00E9\U0001F600'/>", big), expected);
-    ExpectOutcome(Utf16(u"<?xml version='1.0' encoding='UTF-16'?><a/>", big), {"D<a/>"});
+    ExpectOutcome(Utf16(u"<?xml version='1.0' encoding='UTF-16'?><a/>", big), {"D<a/>", S_OK});
     ExpectOutcome(Utf16(u"<?xml version='1.0' encoding='UTF-8'?><a/>", big),
                   {"", MX_E_ENCODINGSWITCH});
     // Half a pair, the halves in the wrong order, half a unit.
-    ExpectOutcome(Utf16(u"<a>", big) + Utf16(u"\xD83D", big) + Utf16(u"</a>", big),
-                  {"<a>", WC_E_XMLCHARACTER});
-    ExpectOutcome(Utf16(u"<a>", big) + Utf16(u"\xDE00\xD83D", big) + Utf16(u"</a>", big),
-                  {"<a>", WC_E_XMLCHARACTER});
-    ExpectOutcome(Utf16(u"<a><!---->", big) + Utf16(u"\xD83D", big), {"<a>!()", WC_E_XMLCHARACTER});
+    ExpectOutcome(Utf16(u"<a>\xD83D</a>", big), {"<a>", WC_E_XMLCHARACTER});
+    ExpectOutcome(Utf16(u"<a>\xDE00\xD83D</a>", big), {"<a>", WC_E_XMLCHARACTER});
+    ExpectOutcome(Utf16(u"<a><!---->\xD83D", big), {"<a>!()", WC_E_XMLCHARACTER});
     ExpectOutcome(Utf16(u"<a/><!--", big) + "x", {"<a/>", WC_E_XMLCHARACTER});
   }
   // A processing instruction says nothing of the encoding.
   ExpectOutcome("<?xml-style encoding='ISO-8859-1'?><a b='\xC3\xA9'/>",
-                {"?(xml-style:encoding='ISO-8859-1')<a b='\xC3\xA9'/>"});
+                {"?(xml-style:encoding='ISO-8859-1')<a b='\xC3\xA9'/>", S_OK});
   const std::string latin = "<?xml version='1.0' encoding='iso-8859-1'?><a b='\xE9'/>";
-  ExpectOutcome(latin, {"D<a b='\xC3\xA9'/>"});
+  ExpectOutcome(latin, {"D<a b='\xC3\xA9'/>", S_OK});
   const std::string ascii = "<?xml version=\"1.0\" encoding=\"US-ASCII\"?><a b='e'/>";
-  ExpectOutcome(ascii, {"D<a b='e'/>"});
+  ExpectOutcome(ascii, {"D<a b='e'/>", S_OK});
   ExpectOutcome("<?xml version='1.0' encoding='US-ASCII'?><a b='\xE9'/>", {"D", WC_E_XMLCHARACTER});
   ExpectOutcome("\xEF\xBB\xBF" + latin, {"", MX_E_ENCODINGSWITCH});
   ExpectOutcome("\xEF\xBB\xBF" + ascii, {"", MX_E_ENCODINGSWITCH});
-}
-
-TEST(Parser, IgnoresTheDeclaredEncodingOfConvertedText) {
-  const std::string text = "<?xml version='1.0' encoding='UTF-16'?><a b='\xC3\xA9'/>";
-  ExpectOutcome(text, {"D<a b='\xC3\xA9'/>"}, true);
-  ExpectOutcome("<?xml version='1.0' encoding='ISO-8859-1'?><a b='\xC3\xA9'/>",
-                {"D<a b='\xC3\xA9'/>"}, true);
+  // The encoding that converted text declares is not the one that it has.
+  for (const std::string declared : {"UTF-16", "ISO-8859-1"}) {
+    ExpectOutcome("<?xml version='1.0' encoding='" + declared + "'?><a b='" + character + "'/>",
+                  {"D" + expected.first, S_OK}, true);
+  }
 }
 
 // ---- limits ------------------------------------------------------------------------------------
@@ -436,7 +277,7 @@ std::string Repeat(std::string_view piece, std::size_t count) {
 
 TEST(Parser, Allows256OpenElements) {
   const auto nest = [](std::size_t depth) { return Repeat("<a>", depth) + Repeat("</a>", depth); };
-  ExpectOutcome(nest(256), {nest(256)});
+  ExpectOutcome(nest(256), {nest(256), S_OK});
   ExpectOutcome(nest(257), {Repeat("<a>", 256), SC_E_MAXELEMENTDEPTH});
   ExpectOutcome(Repeat("<a>", 255) + Repeat("<a>x</a>", 300),
                 {Repeat("<a>", 255) + Repeat("<a>T(x)</a>", 300), MX_E_INPUTEND});
@@ -448,15 +289,13 @@ TEST(Parser, EndsOnEveryPrefixOfADocument) {
       "text\r\n &amp; <![CDATA[ ]] ]]><?p d?><b c=\"\xC3\xA9\"/>\xE2\x82\xAC</r:a><!-- e -->\n";
   TextStream whole(document);
   const Outcome all = Parse(whole);
-  EXPECT_EQ(all.fault, S_OK);
+  EXPECT_EQ(all.second, S_OK);
   for (std::size_t size = 0; size < document.size(); ++size) {
     for (const std::size_t block : {std::size_t{1}, document.size()}) {
       TextStream stream(document.substr(0, size), block);
-      const Outcome outcome = Parse(stream);
+      const std::string nodes = Parse(stream).first;
       // A text may have been cut; all other nodes are those of the whole document.
-      const std::size_t last = outcome.nodes.rfind("T(");
-      const std::size_t same = std::min(last, outcome.nodes.size());
-      EXPECT_EQ(outcome.nodes.substr(0, same), all.nodes.substr(0, same)) << size;
+      EXPECT_TRUE(all.first.starts_with(nodes.substr(0, nodes.rfind("T(")))) << size;
     }
   }
 }
@@ -479,14 +318,11 @@ TEST(Parser, SeldomStartsATokenAnew) {
 // Documents made to be slow: were any of these quadratic, the test would take minutes.
 TEST(Parser, TakesHostileSizesInItsStride) {
   constexpr std::size_t kMany = 100'000;
-  const auto count_nodes = [](StackStream& stream) {
+  const auto count_nodes = [](StackStream&& stream) {
     Parser parser;
     parser.SetInput(&stream, false);
     std::size_t nodes = 0;
-    ReadResult result = ReadResult::kNode;
-    Steps steps;
-    while (steps.Take() && (result = parser.Read()) == ReadResult::kNode) ++nodes;
-    EXPECT_EQ(result, ReadResult::kEnd);
+    EXPECT_EQ(ReadOn(parser, [&nodes] { ++nodes; }), ReadResult::kEnd);
     return nodes;
   };
 
@@ -502,29 +338,24 @@ TEST(Parser, TakesHostileSizesInItsStride) {
   for (const std::string& tag : {attributes, declarations, same_class}) {
     const std::string document = tag + "/>";
     for (const std::size_t block : {std::size_t{64}, document.size()}) {
-      TextStream stream(document, block);
-      EXPECT_EQ(count_nodes(stream), 1U);
+      EXPECT_EQ(count_nodes(TextStream(document, block)), 1U);
     }
   }
   const std::string twins = attributes + " b0=''/>";
   TextStream stream(twins);
-  EXPECT_EQ(Parse(stream).fault, WC_E_UNIQUEATTRIBUTE);
+  EXPECT_EQ(Parse(stream).second, WC_E_UNIQUEATTRIBUTE);
 
-  constexpr std::size_t kPieces = std::size_t{1} << 20;
+  const auto count_repeated = [&](const char* head, const char* piece, const char* tail) {
+    return count_nodes(RepeatingStream(head, piece, std::size_t{1} << 20, tail));
+  };
   for (const char* const piece : {"\r", "]", "&lt;", " ", "&#0000000000000000000000065;"}) {
-    for (const auto& [head, tail] : {std::pair{"<a>x", "</a>"}, std::pair{"<a>", "</a>"}}) {
-      RepeatingStream text(head, piece, kPieces, tail);
-      EXPECT_EQ(count_nodes(text), 3U) << piece;
-    }
-    RepeatingStream value("<a b='", piece, kPieces, "'/>");
-    EXPECT_EQ(count_nodes(value), 1U) << piece;
+    EXPECT_EQ(count_repeated("<a>x", piece, "</a>"), 3U) << piece;
+    EXPECT_EQ(count_repeated("<a>", piece, "</a>"), 3U) << piece;
+    EXPECT_EQ(count_repeated("<a b='", piece, "'/>"), 1U) << piece;
   }
-  RepeatingStream name("<", "n", kPieces, "/>");
-  EXPECT_EQ(count_nodes(name), 1U);
-  RepeatingStream comment("<!--", "- ", kPieces, "--><a/>");
-  EXPECT_EQ(count_nodes(comment), 2U);
-  RepeatingStream blanks("<?xml version='1.0'", " ", kPieces, "?><a/>");
-  EXPECT_EQ(count_nodes(blanks), 2U);
+  EXPECT_EQ(count_repeated("<", "n", "/>"), 1U);
+  EXPECT_EQ(count_repeated("<!--", "- ", "--><a/>"), 2U);
+  EXPECT_EQ(count_repeated("<?xml version='1.0'", " ", "?><a/>"), 2U);
 }
 
 TEST(Parser, ReadsAValueOf64MiB) {
@@ -553,9 +384,7 @@ TEST(Parser, DoesNotAllocateOnceItIsWarm) {
   // More than two blocks.
   for (int i = 0; i < 10'000; ++i) ASSERT_EQ(parser.Read(), ReadResult::kNode);
   const AllocationCount before = CountAllocations();
-  Steps steps;
-  while (steps.Take() && parser.Read() == ReadResult::kNode) {
-  }
+  EXPECT_EQ(ReadOn(parser, [] {}), ReadResult::kEnd);
   EXPECT_EQ(CountAllocations().calls, before.calls);
 }
 
@@ -566,9 +395,7 @@ TEST(Parser, NeedsMemoryForABlockAndTheCurrentNode) {
     ResetPeak();
     Parser parser;
     parser.SetInput(&stream, false);
-    Steps steps;
-    while (steps.Take() && parser.Read() == ReadResult::kNode) {
-    }
+    ReadOn(parser, [] {});
     return CountAllocations().peak_bytes - before.bytes;
   };
   RepeatingStream small("<a>\n", kElement, 100, "</a>");
