@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "support/allocations.h"
 #include "support/streams.h"
@@ -13,8 +14,10 @@ namespace tolva::test {
 namespace {
 
 using Calls = std::function<void(XmlWriter&)>;
+using Call = std::function<HRESULT(XmlWriter&)>;
 
 constexpr std::string_view kDeclaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+constexpr HRESULT kDiskFull = HRESULT_FROM_WIN32(ERROR_DISK_FULL);
 
 /// What calls leave in the file after the declaration.
 std::string Written(const Calls& calls) {
@@ -27,39 +30,33 @@ std::string Written(const Calls& calls) {
   return sink.text.substr(std::min(kDeclaration.size(), sink.text.size()));
 }
 
+/// How whole documents are laid out, tests/tables/documents_test.cpp shows.
 TEST(Writer, LaysADocumentOut) {
   const auto written = Written([](XmlWriter& writer) {
-    EXPECT_EQ(writer.WriteStartElement(L"a"), S_OK);
-    EXPECT_EQ(writer.WriteStartElement(L"b"), S_OK);
-    EXPECT_EQ(writer.WriteAttribute(L"x", L"1"), S_OK);
-    EXPECT_EQ(writer.WritePlainAttribute(L"y", "2"), S_OK);
-    EXPECT_EQ(writer.WriteAttribute(L"z", L""), S_OK);
-    EXPECT_EQ(writer.WriteEnd(), S_OK);
-    EXPECT_EQ(writer.WriteLineFeed(), S_OK);
-    EXPECT_EQ(writer.WriteStartElement(L"c"), S_OK);
-    EXPECT_EQ(writer.WriteFullEnd(), S_OK);
-    EXPECT_EQ(writer.WriteElement(L"d", L"text"), S_OK);
-    EXPECT_EQ(writer.WriteElement(L"e", L""), S_OK);
-    EXPECT_EQ(writer.WritePlainElement(L"e", "12"), S_OK);
-    EXPECT_EQ(writer.WriteEmptyElement(L"e"), S_OK);
     EXPECT_EQ(writer.WriteStartElement(L"ANameOfTheGreatestLengthThatATableCanHave123"), S_OK);
     EXPECT_EQ(writer.WriteAttribute(L"ANameOfTheGreatestLengthThatATableCanHave123", L""), S_OK);
+    EXPECT_EQ(writer.WritePlainAttribute(L"y", "2"), S_OK);
+    EXPECT_EQ(writer.WriteStartElement(L"c"), S_OK);
+    EXPECT_EQ(writer.WriteFullEnd(), S_OK);
+    EXPECT_EQ(writer.WriteElement(L"e", L""), S_OK);
+    EXPECT_EQ(writer.WritePlainElement(L"e", "12"), S_OK);
     EXPECT_EQ(writer.WriteStartElement(L"f"), S_OK);
     EXPECT_EQ(writer.WriteEndDocument(), S_OK);
   });
   EXPECT_EQ(written,
-            "<a>\n  <b x=\"1\" y=\"2\" z=\"\"/>\n  <c></c>\n  <d>text</d>\n  <e></e>\n"
-            "  <e>12</e>\n  <e/>\n  <ANameOfTheGreatestLengthThatATableCanHave123 "
-            "ANameOfTheGreatestLengthThatATableCanHave123=\"\">\n    <f/>\n"
-            "  </ANameOfTheGreatestLengthThatATableCanHave123>\n</a>\n");
+            "<ANameOfTheGreatestLengthThatATableCanHave123 "
+            "ANameOfTheGreatestLengthThatATableCanHave123=\"\" y=\"2\">\n  <c></c>\n  <e></e>\n"
+            "  <e>12</e>\n  <f/>\n</ANameOfTheGreatestLengthThatATableCanHave123>\n");
 }
 
 TEST(Writer, EscapesSoThatAllCanBeReadBack) {
   struct Case {
-    const wchar_t* value;
-    const char* attribute;
-    const char* text;
+    std::wstring value;
+    std::string attribute;
+    std::string text;
   };
+  std::string entities;
+  for (int i = 0; i < 5000; ++i) entities += "&lt;";
   for (const Case& one : {
            Case{L"<a href=\"x\">'&'", "&lt;a href=&quot;x&quot;&gt;'&amp;'",
                 "&lt;a href=\"x\"&gt;'&amp;'"},
@@ -67,10 +64,8 @@ TEST(Writer, EscapesSoThatAllCanBeReadBack) {
            Case{L"]]>", "]]&gt;", "]]&gt;"},
            Case{L" ", " ", "&#x20;"},
            Case{L"\n\t ", "&#xA;&#x9; ", "&#xA;\t "},
-           Case{L"\u00E9\u20AC\U0001F600\uE000\uFFFD",
-                "\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80\xEE\x80\x80\xEF\xBF\xBD",
-                "\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80\xEE\x80\x80\xEF\xBF\xBD"},
-           Case{L"\xD83D\xDE00", "\xF0\x9F\x98\x80", "\xF0\x9F\x98\x80"},
+           Case{L"\uE000\uFFFD", "\xEE\x80\x80\xEF\xBF\xBD", "\xEE\x80\x80\xEF\xBF\xBD"},
+           Case{std::wstring(5000, L'<'), entities, entities},
        }) {
     EXPECT_EQ(Written([&](XmlWriter& writer) {
                 EXPECT_EQ(writer.WriteStartElement(L"a"), S_OK);
@@ -78,34 +73,23 @@ TEST(Writer, EscapesSoThatAllCanBeReadBack) {
                 EXPECT_EQ(writer.WriteElement(L"t", one.value), S_OK);
                 EXPECT_EQ(writer.WriteEndDocument(), S_OK);
               }),
-              std::string("<a x=\"") + one.attribute + "\">\n  <t>" + one.text + "</t>\n</a>\n");
+              "<a x=\"" + one.attribute + "\">\n  <t>" + one.text + "</t>\n</a>\n");
   }
-  const std::wstring longer(5000, L'"');
-  std::string expected;
-  for (std::size_t i = 0; i < longer.size(); ++i) expected += "&quot;";
-  EXPECT_EQ(Written([&](XmlWriter& writer) {
-              EXPECT_EQ(writer.WriteStartElement(L"a"), S_OK);
-              EXPECT_EQ(writer.WriteAttribute(L"b", longer), S_OK);
-              EXPECT_EQ(writer.WriteEndDocument(), S_OK);
-            }),
-            "<a b=\"" + expected + "\"/>\n");
 }
 
 /// Wherever a character that needs care stands in a value, and wherever a value is cut into
 /// stretches.
 TEST(Writer, EscapesEveryPlaceOfAValue) {
-  struct Special {
-    std::wstring value;
-    std::string written;
-  };
-  for (const Special& special : {Special{L"&", "&amp;"}, Special{L"\u20AC", "\xE2\x82\xAC"},
-                                 Special{L"\xD83D\xDE00", "\xF0\x9F\x98\x80"}}) {
+  const std::pair<std::wstring, std::string> specials[] = {{L"&", "&amp;"},
+                                                           {L"\u00E9", "\xC3\xA9"},
+                                                           {L"\u20AC", "\xE2\x82\xAC"},
+                                                           {L"\U0001F600", "\xF0\x9F\x98\x80"},
+                                                           {L"\xD83D\xDE00", "\xF0\x9F\x98\x80"}};
+  for (const auto& [special, written] : specials) {
     for (const std::size_t size : {0U, 1U, 3U, 4U, 5U, 15U, 16U, 17U, 33U, 1023U, 1024U, 2050U}) {
       for (std::size_t at = 0; at <= size; at += size < 40 || at < 20 || at + 40 > size ? 1 : 13) {
-        std::wstring value(size, L'v');
-        std::string expected(size, 'v');
-        value.insert(at, special.value);
-        expected.insert(at, special.written);
+        const std::wstring value = std::wstring(at, L'v') + special + std::wstring(size - at, L'v');
+        const std::string expected = std::string(at, 'v') + written + std::string(size - at, 'v');
         ASSERT_EQ(Written([&](XmlWriter& writer) { writer.WriteElement(L"a", value); }),
                   "<a>" + expected + "</a>")
             << size << " " << at;
@@ -115,19 +99,20 @@ TEST(Writer, EscapesEveryPlaceOfAValue) {
 }
 
 TEST(Writer, LeavesNothingOfACallThatIsRefused) {
-  const std::wstring filler(3000, L'x');
+  const std::pair<std::wstring, HRESULT> cases[] = {{L"ok\x0B", WC_E_XMLCHARACTER},
+                                                    {L"\xFFFE", WC_E_XMLCHARACTER},
+                                                    {L"\x1", WC_E_XMLCHARACTER},
+                                                    {{L"a\0b", 3}, WC_E_XMLCHARACTER},
+                                                    {L"x\xDC00\xD800", WR_E_INVALIDSURROGATEPAIR},
+                                                    {L"\xD800", WR_E_INVALIDSURROGATEPAIR},
+                                                    {L"\xDC00\xDC00", WR_E_INVALIDSURROGATEPAIR},
+                                                    {L"\xD800\xD800", WR_E_INVALIDSURROGATEPAIR}};
   const auto written = Written([&](XmlWriter& writer) {
     EXPECT_EQ(writer.WriteStartElement(L"a"), S_OK);
-    for (const std::wstring& front : {std::wstring(), filler}) {
-      for (const std::wstring& bad : {std::wstring(L"ok\x0B"), std::wstring(L"\xFFFE"),
-                                      std::wstring(L"\x1"), std::wstring(L"a\0b", 3)}) {
-        EXPECT_EQ(writer.WriteAttribute(L"bad", front + bad), WC_E_XMLCHARACTER);
-        EXPECT_EQ(writer.WriteElement(L"bad", front + bad), WC_E_XMLCHARACTER);
-      }
-      for (const wchar_t* const bad :
-           {L"x\xDC00\xD800", L"\xD800", L"\xDC00\xDC00", L"\xD800\xD800"}) {
-        EXPECT_EQ(writer.WriteAttribute(L"bad", front + bad), WR_E_INVALIDSURROGATEPAIR);
-        EXPECT_EQ(writer.WriteElement(L"bad", front + bad), WR_E_INVALIDSURROGATEPAIR);
+    for (const auto& [bad, result] : cases) {
+      for (const std::size_t filler : {0U, 3000U}) {
+        EXPECT_EQ(writer.WriteAttribute(L"bad", std::wstring(filler, L'x') + bad), result);
+        EXPECT_EQ(writer.WriteElement(L"bad", std::wstring(filler, L'x') + bad), result);
       }
     }
     EXPECT_EQ(writer.WriteAttribute(L"x", L""), S_OK);  // still in the start tag
@@ -178,46 +163,43 @@ TEST(Writer, SurvivesARunOutOfMemory) {
 #endif
 
 TEST(Writer, StaysRefusingAfterACallThatIsNotAllowed) {
-  const Calls calls_out_of_place[] = {
-      [](XmlWriter& writer) { EXPECT_EQ(writer.WriteEnd(), WR_E_INVALIDACTION); },
-      [](XmlWriter& writer) { EXPECT_EQ(writer.WriteFullEnd(), WR_E_INVALIDACTION); },
-      [](XmlWriter& writer) { EXPECT_EQ(writer.WriteEndDocument(), WR_E_INVALIDACTION); },
-      [](XmlWriter& writer) { EXPECT_EQ(writer.WriteAttribute(L"a", L""), WR_E_INVALIDACTION); },
-      [](XmlWriter& writer) {
-        EXPECT_EQ(writer.WritePlainAttribute(L"a", ""), WR_E_INVALIDACTION);
-      },
-      [](XmlWriter& writer) { EXPECT_EQ(writer.WriteStartDocument(), WR_E_INVALIDACTION); },
-      [](XmlWriter& writer) {
-        EXPECT_EQ(writer.WriteEmptyElement(L"a"), S_OK);
-        EXPECT_EQ(writer.WriteStartElement(L"b"), WR_E_INVALIDACTION);
-      },
-      [](XmlWriter& writer) {
-        EXPECT_EQ(writer.WriteEmptyElement(L"a"), S_OK);
-        EXPECT_EQ(writer.WriteElement(L"b", L""), WR_E_INVALIDACTION);
-      },
-  };
-  for (const Calls& call : calls_out_of_place) {
-    Written([&call](XmlWriter& writer) {
-      call(writer);
-      EXPECT_EQ(writer.WriteStartElement(L"c"), WR_E_INVALIDACTION);
-      EXPECT_EQ(writer.WriteEndDocument(), WR_E_INVALIDACTION);
+  const Call start = [](XmlWriter& writer) { return writer.WriteStartElement(L"b"); };
+  const Call end = [](XmlWriter& writer) { return writer.WriteEndDocument(); };
+  const Call attribute = [](XmlWriter& writer) { return writer.WriteAttribute(L"a", L""); };
+  const Call declaration = [](XmlWriter& writer) { return writer.WriteStartDocument(); };
+  const Call line_feed = [](XmlWriter& writer) { return writer.WriteLineFeed(); };
+  const auto expect_refusal = [&](const Call& call, const Calls& before) {
+    Written([&](XmlWriter& writer) {
+      before(writer);
+      EXPECT_EQ(call(writer), WR_E_INVALIDACTION);
+      EXPECT_EQ(start(writer), WR_E_INVALIDACTION);
+      EXPECT_EQ(end(writer), WR_E_INVALIDACTION);
       SinkStream next;
       EXPECT_EQ(writer.SetOutput(&next), S_OK);
       EXPECT_EQ(writer.WriteEmptyElement(L"a"), S_OK);
       EXPECT_EQ(writer.SetOutput(nullptr), S_OK);
       EXPECT_EQ(next.text, "<a/>\n");
     });
+  };
+  for (const Call& call :
+       {Call([](XmlWriter& writer) { return writer.WriteEnd(); }),
+        Call([](XmlWriter& writer) { return writer.WriteFullEnd(); }),
+        Call([](XmlWriter& writer) { return writer.WritePlainAttribute(L"a", ""); }), end,
+        attribute, declaration}) {
+    expect_refusal(call, [](XmlWriter&) {});
   }
-  // A line feed counts as content: a declaration has to come first.
+  const Calls root = [](XmlWriter& writer) { EXPECT_EQ(writer.WriteEmptyElement(L"a"), S_OK); };
+  expect_refusal(start, root);
+  expect_refusal([](XmlWriter& writer) { return writer.WriteElement(L"b", L""); }, root);
+
   SinkStream sink;
   XmlWriter writer;
-  EXPECT_EQ(writer.WriteStartDocument(), E_UNEXPECTED);
-  EXPECT_EQ(writer.WriteStartElement(L"a"), E_UNEXPECTED);
-  EXPECT_EQ(writer.WriteAttribute(L"a", L""), E_UNEXPECTED);
-  EXPECT_EQ(writer.WriteLineFeed(), E_UNEXPECTED);
-  EXPECT_EQ(writer.WriteEndDocument(), E_UNEXPECTED);
+  for (const Call& call : {declaration, start, attribute, line_feed, end}) {
+    EXPECT_EQ(call(writer), E_UNEXPECTED);
+  }
   EXPECT_EQ(writer.Flush(), S_OK);
   ASSERT_EQ(writer.SetOutput(&sink), S_OK);
+  // A line feed counts as content: a declaration has to come first.
   EXPECT_EQ(writer.WriteLineFeed(), S_OK);
   EXPECT_EQ(writer.WriteStartDocument(), WR_E_INVALIDACTION);
   EXPECT_EQ(writer.SetOutput(nullptr), S_OK);
@@ -248,19 +230,16 @@ TEST(Writer, KeepsWhatTheStreamRefuses) {
   const std::wstring value(1000, L'v');
   // More than the writer holds back: the failure comes to light while the document is written.
   sink.capacity = 100;
+  std::string expected = "<a>\n";
   HRESULT result = S_OK;
-  int written = 0;
-  while (SUCCEEDED(result) && written < 1000) {
-    result = writer.WriteElement(L"b", value);
-    if (SUCCEEDED(result)) ++written;
+  for (int i = 0; i < 1000 && SUCCEEDED(result = writer.WriteElement(L"b", value)); ++i) {
+    expected += "  <b>" + std::string(1000, 'v') + "</b>\n";
   }
-  EXPECT_EQ(result, HRESULT_FROM_WIN32(ERROR_DISK_FULL));
-  EXPECT_EQ(writer.Flush(), HRESULT_FROM_WIN32(ERROR_DISK_FULL));
+  EXPECT_EQ(result, kDiskFull);
+  EXPECT_EQ(writer.Flush(), kDiskFull);
   sink.capacity = std::size_t{1} << 30;
   EXPECT_EQ(writer.WriteEndDocument(), S_OK);
   EXPECT_EQ(writer.Flush(), S_OK);
-  std::string expected = "<a>\n";
-  for (int i = 0; i < written; ++i) expected += "  <b>" + std::string(1000, 'v') + "</b>\n";
   EXPECT_TRUE(sink.text == expected + "</a>\n");
 }
 
@@ -268,7 +247,7 @@ TEST(Writer, KeepsWhatTheStreamRefuses) {
 /// attribute or of a line feed.
 TEST(Writer, HandsItsBlocksOverBetweenElements) {
   const std::wstring value(100'000, L'v');
-  const std::function<HRESULT(XmlWriter&)> calls[] = {
+  const Call calls[] = {
       [](XmlWriter& writer) { return writer.WriteStartElement(L"c"); },
       [](XmlWriter& writer) { return writer.WriteElement(L"c", L""); },
       [](XmlWriter& writer) { return writer.WriteEnd(); },
@@ -288,7 +267,7 @@ TEST(Writer, HandsItsBlocksOverBetweenElements) {
     EXPECT_EQ(writer.WritePlainAttribute(L"x", ""), S_OK);
     EXPECT_EQ(writer.WriteLineFeed(), S_OK);
     EXPECT_EQ(sink.text, "");
-    EXPECT_EQ(call(writer), HRESULT_FROM_WIN32(ERROR_DISK_FULL));
+    EXPECT_EQ(call(writer), kDiskFull);
     sink.capacity = std::size_t{1} << 30;
     EXPECT_EQ(call(writer), S_OK);
     EXPECT_GT(sink.text.size(), 2 * value.size());

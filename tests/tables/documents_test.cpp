@@ -116,6 +116,7 @@ TEST_P(Documents, AreReadAndWritten) {
   EXPECT_EQ(diagnostics.Take(), Texts{});
   if (!WriterEscapes()) return;
   const std::string written = WriteFile(*root);
+  EXPECT_TRUE(written.starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
 #if defined(TOLVA_OWN_XML_LAYER)
   EXPECT_EQ(FromUtf8(written), L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + example_.text());
 #endif
