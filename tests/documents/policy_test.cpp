@@ -133,53 +133,8 @@ TEST_F(InlineProxy, HasAListThatReadingFills) {
   EXPECT_EQ(domains->GetExcludeJSInjectDomainAt(1)->GetURL(&url), 0);
   EXPECT_EQ(url, L"3");
   EXPECT_EQ(domains->GetExcludeJSInjectDomainAt(2), nullptr);
-  const std::unique_ptr<IILPProtection> other(ILPProtection_CreateNewInstance());
-  EXPECT_EQ(other->SetILPInLineProxy(proxy_), 0);
   domains->RemoveAllExcludeJSInjectDomain();
   EXPECT_EQ(domains->GetExcludeJSInjectDomainCount(), 0U);
-  EXPECT_NE(WriteText(*other).find("<ExcludeDomain URL=\"3\"/>"), std::string::npos);
-}
-
-TEST(Policy, EmbedsTheActiveDirectory) {
-  Diagnostics diagnostics;
-  const std::unique_ptr<IILPClientConfiguration> root(ILPClientConfiguration_CreateNewInstance());
-  const std::unique_ptr<ClientConfig::IActiveDirectory> directory(
-      ClientConfig::ActiveDir_CreateNewInstance());
-  const std::wstring name = L"corp";
-  directory->GetDefaultDomain()->SetName(&name);
-  const auto is_written = [](const node::IElement& node) {
-    return WriteText(node).find("Name=\"corp\"") != std::string::npos;
-  };
-
-  ClientConfig::IActiveDirectory* held = nullptr;
-  EXPECT_EQ(root->GetActiveDirectory(&held), 1);
-  EXPECT_EQ(root->SetActiveDirectory(directory.get()), 0);
-  ASSERT_EQ(root->GetActiveDirectory(&held), 0);
-  EXPECT_EQ(held->GetDefaultDomain()->GetName(), name);
-  EXPECT_TRUE(is_written(*root));
-  const std::unique_ptr<IILPClientConfiguration> copy(ILPClientConfiguration_CreateNewInstance());
-  copy->CopyFrom(*root);
-  EXPECT_TRUE(is_written(*copy));
-
-  // The flag alone; any value but 0 is present, and is kept.
-  DWORD present = 9;
-  EXPECT_EQ(root->SetActiveDirectoryPresent(nullptr), 0);
-  EXPECT_EQ(root->GetActiveDirectoryPresent(nullptr), 0);
-  EXPECT_EQ(root->GetActiveDirectory(&held), 1);
-  EXPECT_FALSE(is_written(*root));
-  EXPECT_EQ(root->SetActiveDirectoryPresent(&present), 0);
-  present = 0;
-  EXPECT_EQ(root->GetActiveDirectoryPresent(&present), 0);
-  EXPECT_EQ(present, 9U);
-  EXPECT_TRUE(is_written(*root));
-  EXPECT_EQ(root->SetActiveDirectory(nullptr), 0);
-  root->GetActiveDirectoryPresent(&present);
-  EXPECT_EQ(present, 0U);
-  EXPECT_FALSE(is_written(*root));
-  const DWORD here = 1;
-  root->SetActiveDirectoryPresent(&here);
-  EXPECT_TRUE(is_written(*root)) << "absent, it keeps what it holds";
-  EXPECT_EQ(diagnostics.Take(), Texts{});
 }
 
 }  // namespace

@@ -20,27 +20,22 @@ TEST(Fields, KeepOptionalValues) {
   EXPECT_EQ(number, 77U);
   EXPECT_EQ(field.Set(&number), 0);
   EXPECT_EQ(field.Get(nullptr), 0);
-  number = 0;
-  EXPECT_EQ(field.Get(&number), 0);
-  EXPECT_EQ(number, 77U);
   EXPECT_EQ(field.Set(nullptr), 0);
   EXPECT_EQ(field.Get(nullptr), 1);
-}
 
-TEST(Fields, KeepOptionalChildren) {
-  OptionalChild<CExcludeDomains> field;
+  OptionalChild<CExcludeDomains> child;
   IExcludeDomains* domains = nullptr;
-  EXPECT_EQ(field.Get(&domains), 1);
+  EXPECT_EQ(child.Get(&domains), 1);
   EXPECT_EQ(domains, nullptr);
   CExcludeDomains other;
   const CExcludeDomain domain;
   other.AddExcludeDomain(&domain);
-  EXPECT_EQ(field.Set(&other), 0);
-  EXPECT_EQ(field.Get(&domains), 0);
-  EXPECT_EQ(field.Set(domains), 0);  // itself
+  EXPECT_EQ(child.Set(&other), 0);
+  EXPECT_EQ(child.Get(&domains), 0);
+  EXPECT_EQ(child.Set(domains), 0);  // itself
   EXPECT_EQ(domains->GetExcludeDomainCount(), 1U);
-  EXPECT_EQ(field.Set(nullptr), 0);
-  EXPECT_EQ(field.Get(nullptr), 1);
+  EXPECT_EQ(child.Set(nullptr), 0);
+  EXPECT_EQ(child.Get(nullptr), 1);
 }
 
 /// A child that is made when it is needed behaves as one that is always there, and callers may keep
@@ -112,10 +107,6 @@ TEST(Fields, KeepLists) {
   list.RemoveAt(0);
   list.RemoveAt(4);
   EXPECT_EQ(all(), L"abcd");
-  const ChildList<CExcludeDomain> copy(list);
-  list.RemoveAll();
-  EXPECT_EQ(list.Count(), 0U);
-  EXPECT_EQ(copy.Count(), 4U);
 }
 
 }  // namespace
