@@ -50,10 +50,11 @@ constexpr Name kAttributes[] = {L"Name", L"a", L"enabled", L"A1", L"x", L"y"};
 constexpr std::string_view kPlain[] = {"0", "-1", "4294967295", "true"};
 
 /// What the file should hold: start tags with their attributes, texts, end tags.
-struct Account {
-  std::vector<std::string> events;
-
-  void Add(char kind, std::string_view text = {}) { events.push_back(kind + std::string(text)); }
+struct Account : std::vector<std::string> {
+  void Add(char kind, std::string_view text = {}) { push_back(kind + std::string(text)); }
+  void AddAttribute(std::string_view name, std::string_view value) {
+    Add('a', std::string(name) + "=" + std::string(value));
+  }
   void AddText(std::string_view text) {
     if (!text.empty()) Add('t', text);
   }
@@ -73,7 +74,7 @@ std::string Trimmed(const std::string& text) {
   return start == std::string::npos ? "" : text.substr(start, end + 1 - start);
 }
 
-bool AreEqual(const std::vector<std::string>& left, const std::vector<std::string>& right) {
+bool AreEqual(const Account& left, const Account& right) {
   if (left.size() != right.size()) return false;
   for (std::size_t i = 0; i < left.size(); ++i) {
     if (left[i] == right[i]) continue;
@@ -91,30 +92,24 @@ Account ReadAccount(std::string_view document) {
   parser.SetInput(stream, false);
   stream->Release();
   Account account;
-  Buffer<char> value;
+  const auto value_of = [](std::string_view raw, own_xml::ValueKind kind) {
+    Buffer<char> value;
+    own_xml::AppendValue(raw, kind, value);
+    return std::string(value.data(), value.size());
+  };
   own_xml::ReadResult result = own_xml::ReadResult::kNode;
   while ((result = parser.Read()) == own_xml::ReadResult::kNode) {
-    value.Clear();
-    switch (parser.type()) {
-      case XmlNodeType_Element:
-        account.Add('s', parser.name().text);
-        for (const own_xml::Attribute& attribute : parser.attributes()) {
-          value.Clear();
-          own_xml::AppendValue(attribute.value, own_xml::ValueKind::kAttribute, value);
-          account.Add('a', std::string(attribute.name.text) + "=" +
-                               std::string(value.data(), value.size()));
-        }
-        if (parser.is_empty_element()) account.Add('e');
-        break;
-      case XmlNodeType_Text:
-        own_xml::AppendValue(parser.value(), own_xml::ValueKind::kText, value);
-        account.AddText({value.data(), value.size()});
-        break;
-      case XmlNodeType_EndElement:
-        account.Add('e');
-        break;
-      default:
-        break;
+    if (parser.type() == XmlNodeType_Element) {
+      account.Add('s', parser.name().text);
+      for (const own_xml::Attribute& attribute : parser.attributes()) {
+        account.AddAttribute(attribute.name.text,
+                             value_of(attribute.value, own_xml::ValueKind::kAttribute));
+      }
+      if (parser.is_empty_element()) account.Add('e');
+    } else if (parser.type() == XmlNodeType_Text) {
+      account.AddText(value_of(parser.value(), own_xml::ValueKind::kText));
+    } else if (parser.type() == XmlNodeType_EndElement) {
+      account.Add('e');
     }
   }
   Expect(result == own_xml::ReadResult::kEnd, "a document that is well-formed");
@@ -146,15 +141,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       case 1: {
         if (next_attribute == std::size(kAttributes)) break;
         const Name& name = kAttributes[next_attribute++];
-        const bool is_plain = call / 5 % 4 == 0;
-        std::wstring text = is_plain ? L"" : program.TakeText();
         const std::string_view plain = kPlain[call / 20 % std::size(kPlain)];
-        const int result =
-            is_plain ? writer.WritePlainAttribute(name, plain) : writer.WriteAttribute(name, text);
-        if (result == 0) {
-          account.Add(
-              'a', std::string(name.narrow()) + "=" + (is_plain ? std::string(plain) : Utf8(text)));
+        if (call / 5 % 4 == 0) {
+          if (writer.WritePlainAttribute(name, plain) == 0)
+            account.AddAttribute(name.narrow(), plain);
+          break;
         }
+        const std::wstring text = program.TakeText();
+        if (writer.WriteAttribute(name, text) == 0) account.AddAttribute(name.narrow(), Utf8(text));
         break;
       }
       case 2: {
@@ -168,21 +162,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       default: {
         const Name& name = kElements[program.Take(std::size(kElements))];
         const std::string_view plain = kPlain[call / 20 % std::size(kPlain)];
-        std::wstring text;
-        int result = 0;
-        switch (call / 5 % 4) {
-          case 0:
-            result = writer.WriteEmptyElement(name);
-            break;
-          case 1:
-            result = writer.WritePlainElement(name, plain);
-            text.assign(plain.begin(), plain.end());
-            break;
-          default:
-            text = program.TakeText();
-            result = writer.WriteElement(name, text);
-            break;
-        }
+        const int kind = call / 5 % 4;
+        const std::wstring text = kind == 0   ? L""
+                                  : kind == 1 ? std::wstring(plain.begin(), plain.end())
+                                              : program.TakeText();
+        const int result = kind == 0   ? writer.WriteEmptyElement(name)
+                           : kind == 1 ? writer.WritePlainElement(name, plain)
+                                       : writer.WriteElement(name, text);
         if (result == 0) {
           account.Add('s', name.narrow());
           account.AddText(Utf8(text));
@@ -196,6 +182,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   if (writer.Close() != 0) return 0;
   for (; depth != 0; --depth) account.Add('e');
-  Expect(AreEqual(account.events, ReadAccount(file.Read()).events), "what was written");
+  Expect(AreEqual(account, ReadAccount(file.Read())), "what was written");
   return 0;
 }

@@ -246,6 +246,9 @@ class ExpatReader {
 
   void SetNodeHandlers() {
     XML_Parser parser = parser_.get();
+    const auto on_text = [](void* self, const char* text, int size) {
+      NodesOf(self).AddText({text, static_cast<std::size_t>(size)});
+    };
     XML_SetElementHandler(
         parser,
         [](void* self, const char* name, const char** attributes) {
@@ -253,12 +256,8 @@ class ExpatReader {
           for (; *attributes != nullptr; ++attributes) NodesOf(self).Add(*attributes);
         },
         [](void* self, const char* name) { NodesOf(self).Begin('>', name); });
-    XML_SetCharacterDataHandler(parser, [](void* self, const char* text, int size) {
-      NodesOf(self).AddText({text, static_cast<std::size_t>(size)});
-    });
-    XML_SetDefaultHandler(parser, [](void* self, const char* blanks, int size) {
-      NodesOf(self).AddText({blanks, static_cast<std::size_t>(size)});
-    });
+    XML_SetCharacterDataHandler(parser, on_text);
+    XML_SetDefaultHandler(parser, on_text);  // white space outside the root
     XML_SetCdataSectionHandler(
         parser, [](void* self) { NodesOf(self).BeginCData(); },
         [](void* self) { NodesOf(self).EndText(); });
@@ -284,58 +283,51 @@ ExpatReader& ReaderWithNamespaces() {
   return reader;
 }
 
-enum class Encoding : std::uint8_t { kBytes, kUtf16LittleEndian, kUtf16BigEndian };
-
-Encoding EncodingOf(std::string_view document) {
-  if (document.starts_with("\xFF\xFE")) return Encoding::kUtf16LittleEndian;
-  if (document.starts_with("\xFE\xFF")) return Encoding::kUtf16BigEndian;
-  const std::size_t zero = document.substr(0, 2).find('\0');
-  if (zero == std::string_view::npos) return Encoding::kBytes;
-  return zero == 0 ? Encoding::kUtf16BigEndian : Encoding::kUtf16LittleEndian;
+/// Whether it is in UTF-16, as its first bytes tell.
+bool IsUtf16(std::string_view document) {
+  return document.starts_with("\xFF\xFE") || document.starts_with("\xFE\xFF") ||
+         document.substr(0, 2).find('\0') != std::string_view::npos;
 }
 
-std::size_t WidthOf(Encoding encoding) { return encoding == Encoding::kBytes ? 1 : 2; }
-
-/// The byte, or unit of UTF-16, at a place in the document; behind its end zero.
-char32_t UnitAt(std::string_view document, Encoding encoding, std::size_t at) {
-  if (at + WidthOf(encoding) > document.size()) return 0;
-  const char32_t first = static_cast<unsigned char>(document[at]);
-  if (encoding == Encoding::kBytes) return first;
-  const char32_t second = static_cast<unsigned char>(document[at + 1]);
-  return encoding == Encoding::kUtf16BigEndian ? first << 8 | second : second << 8 | first;
-}
-
-bool HasLoneSurrogate(std::string_view document, Encoding encoding) {
-  for (std::size_t at = 0; at < document.size(); at += 2) {
-    const char32_t unit = UnitAt(document, encoding, at);
-    if (!IsSurrogate(unit)) continue;
-    at += 2;
-    const char32_t next = UnitAt(document, encoding, at);
-    if (unit > 0xDBFF || next < 0xDC00 || next > 0xDFFF) return true;
+/// The bytes of a document, or its units of UTF-16.
+std::u32string UnitsOf(std::string_view document) {
+  if (!IsUtf16(document)) {
+    std::u32string units;
+    for (const char byte : document) units += static_cast<unsigned char>(byte);
+    return units;
   }
-  return false;
+  const bool is_big = document.starts_with('\0') || document.starts_with("\xFE\xFF");
+  std::u32string units;
+  for (std::size_t at = 0; at + 1 < document.size(); at += 2) {
+    const char32_t first = static_cast<unsigned char>(document[at]);
+    const char32_t second = static_cast<unsigned char>(document[at + 1]);
+    units += is_big ? first << 8 | second : second << 8 | first;
+  }
+  return units;
 }
 
-/// Whether U+00AA, U+00B5 or U+00BA is among the bytes or units.
-bool HasOrdinalOrMicro(std::string_view document, Encoding encoding) {
-  for (std::size_t at = 0; at < document.size(); at += WidthOf(encoding)) {
-    const char32_t unit = UnitAt(document, encoding, at);
-    if (unit == 0xAA || unit == 0xB5 || unit == 0xBA) return true;
+bool HasLoneSurrogate(const std::u32string& units) {
+  for (std::size_t at = 0; at < units.size(); ++at) {
+    if (!IsSurrogate(units[at])) continue;
+    const char32_t next = at + 1 == units.size() ? 0 : units[at + 1];
+    if (units[at] > 0xDBFF || next < 0xDC00 || next > 0xDFFF) return true;
+    ++at;
   }
   return false;
 }
 
 /// The character at a place in a document without faults.
-char32_t CharacterAt(std::string_view document, Encoding encoding, std::size_t at) {
-  if (encoding == Encoding::kBytes) {
+char32_t CharacterAt(std::string_view document, std::size_t at) {
+  if (!IsUtf16(document)) {
     std::string bytes(document.substr(at, 4));
     bytes.resize(4);
     const char* character = bytes.data();
     return TakeCodePoint(character);
   }
-  const char32_t unit = UnitAt(document, encoding, at);
-  if (!IsSurrogate(unit)) return unit;
-  return 0x10000 + ((unit - 0xD800) << 10) + (UnitAt(document, encoding, at + 2) - 0xDC00);
+  const std::u32string units = UnitsOf(document) + U'\0';
+  const char32_t unit = units[at / 2];
+  return IsSurrogate(unit) ? 0x10000 + ((unit - 0xD800) << 10) + (units[at / 2 + 1] - 0xDC00)
+                           : unit;
 }
 
 /// Whether it is known of expat why only the own parser accepts the document.
@@ -343,12 +335,10 @@ bool IsKnownRefusal(std::string_view document, const ExpatReader& expat) {
   // Expat allows in names what the fourth edition of XML 1.0 did.
   const std::size_t at = expat.error_at();
   if (expat.error() != XML_ERROR_INVALID_TOKEN || at >= document.size()) return false;
-  const Encoding encoding = EncodingOf(document);
-  const std::size_t width = WidthOf(encoding);
-  const char32_t before = at < width ? 0 : UnitAt(document, encoding, at - width);
-  const bool starts_name =
-      before < 0x80 && "</?: \t\r\n"sv.find(static_cast<char>(before)) != std::string_view::npos;
-  return IsNameCharacter(CharacterAt(document, encoding, at), starts_name);
+  const std::size_t width = IsUtf16(document) ? 2 : 1;
+  const char32_t before = at < width ? 0 : UnitsOf(document)[at / width - 1];
+  const bool starts_name = U"</?: \t\r\n"sv.find(before) != std::u32string_view::npos;
+  return IsNameCharacter(CharacterAt(document, at), starts_name);
 }
 
 /// Whether it is known of expat why it accepts a document that the own parser refuses.
@@ -357,16 +347,16 @@ bool IsKnownAcceptance(std::string_view document, HRESULT own, const ExpatReader
   if (own == SC_E_MAXELEMENTDEPTH) return true;
   // Three characters of Latin-1 may stand in expat's names unless the document is in UTF-8. No
   // edition of XML 1.0 allows them.
-  const Encoding encoding = EncodingOf(document);
-  const bool is_utf16 = encoding != Encoding::kBytes;
-  if ((is_utf16 || expat.is_latin1()) && HasOrdinalOrMicro(document, encoding)) return true;
+  const std::u32string units = UnitsOf(document);
+  const bool is_utf16 = IsUtf16(document);
+  const bool has_those = units.find_first_of(U"\u00AA\u00B5\u00BA") != std::u32string::npos;
+  if ((is_utf16 || expat.is_latin1()) && has_those) return true;
   if (!is_utf16) return false;
   // Expat takes whatever follows the first half of a surrogate pair for the second.
-  if (own == WC_E_XMLCHARACTER) return HasLoneSurrogate(document, encoding);
+  if (own == WC_E_XMLCHARACTER) return HasLoneSurrogate(units);
   // A zero byte tells expat that it is UTF-16. XML 1.0 wants a byte-order mark for that, and can do
   // without it where the document starts with a declaration.
-  const char32_t first = UnitAt(document, encoding, 0);
-  return own == WC_E_SYNTAX && first != 0xFEFF && first != '<';
+  return own == WC_E_SYNTAX && !units.starts_with(U'\uFEFF') && !units.starts_with(U'<');
 }
 
 /// Text with its control characters and what is not ASCII as hexadecimal numbers.
@@ -385,14 +375,8 @@ std::string Show(std::string_view text) {
   return shown;
 }
 
-std::string Report(std::string_view document, std::string_view what) {
-  return Show(document) + "\n  " + std::string(what);
-}
-
-std::string Code(HRESULT result) {
-  char number[16];
-  std::snprintf(number, sizeof number, "0x%08X", static_cast<unsigned>(result));
-  return number;
+std::string Report(std::string_view document, const std::string& what) {
+  return Show(document) + "\n  " + what;
 }
 
 }  // namespace
@@ -434,11 +418,11 @@ std::optional<std::string> Difference(std::string_view document) {
     if (!same) return Report(document, "the own parser reads known tags otherwise");
   }
 
-  const bool accepted = result == S_OK;
   const bool expat_accepts = expat.Read(document, false);
-  if (!accepted) {
+  if (result != S_OK) {
     if (!expat_accepts || IsKnownAcceptance(document, result, expat)) return std::nullopt;
-    return Report(document, "only the own parser refuses it: " + Code(result));
+    return Report(document, "only the own parser refuses it: " +
+                                std::to_string(static_cast<std::uint32_t>(result)));
   }
   if (!expat_accepts) {
     if (IsKnownRefusal(document, expat)) return std::nullopt;
