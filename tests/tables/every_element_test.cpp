@@ -1,7 +1,9 @@
 // What holds for every element, by its table.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cwctype>
+#include <iterator>
 #include <memory>
 #include <set>
 #include <string>
@@ -35,16 +37,23 @@ class EveryElement : public testing::TestWithParam<Element> {
   static NodePtr Make() { return NodePtr(GetParam().make()); }
   static const Schema& Table() { return *GetParam().schema; }
 
+  /// A node full of random content.
+  static NodePtr MakeFull(unsigned seed = 1) {
+    NodePtr node = Make();
+    RandomContent(seed).Fill(Table(), *node);
+    return node;
+  }
+
+  static NodePtr Copy(const NodePtr& node) { return NodePtr(GetParam().copy(*node)); }
+
   /// Whether two nodes hold the same in the row of the accessors of that name, if there is one.
   static bool RowIsEqual(const std::wstring& name, const IElement& left, const IElement& right) {
     std::vector<Attribute> attributes;
     std::vector<Child> children;
-    for (const Attribute& row : Table().attributes) {
-      if (IsNamed(row.name.c_str(), name)) attributes.push_back(row);
-    }
-    for (const Child& row : Table().children) {
-      if (IsNamed(row.name().c_str(), name)) children.push_back(row);
-    }
+    std::ranges::copy_if(Table().attributes, std::back_inserter(attributes),
+                         [&](const auto& row) { return IsNamed(row.name.c_str(), name); });
+    std::ranges::copy_if(Table().children, std::back_inserter(children),
+                         [&](const auto& row) { return IsNamed(row.name().c_str(), name); });
     const Schema one = {
         .element = L"", .dialect = Table().dialect, .attributes = attributes, .children = children};
     return AreEqual(one, left, right);
@@ -61,9 +70,8 @@ TEST_P(EveryElement, MakesANodeThatIsClear) {
 }
 
 TEST_P(EveryElement, ForgetsWhatItHoldsWhenItIsCleared) {
-  const NodePtr node = Make();
-  RandomContent(1).Fill(Table(), *node);
-  const NodePtr before(GetParam().copy(*node));
+  const NodePtr node = MakeFull();
+  const NodePtr before = Copy(node);
   node->Clear();
   EXPECT_TRUE(IsCleared(Table(), *node, before.get()));
 }
@@ -97,9 +105,8 @@ Conventions ConventionsOf(std::string_view element) {
 }
 
 TEST_P(EveryElement, IsToldOfNullManagers) {
-  const NodePtr node = Make();
-  RandomContent(1).Fill(Table(), *node);
-  const NodePtr before(GetParam().copy(*node));
+  const NodePtr node = MakeFull();
+  const NodePtr before = Copy(node);
   Diagnostics diagnostics;
   EXPECT_EQ(node->WriteToXMLMgr(nullptr), -101);
   EXPECT_EQ(node->ReadFromXMLMgr(nullptr), -101);
@@ -168,9 +175,8 @@ TEST_P(EveryElement, TakesNullForWhatIsOptionalAlone) {
     SCOPED_TRACE(testing::PrintToString(accessors.name));
     const NullResult expected = ExpectedOfNull(GetParam(), accessors.name);
     if (!expected.is_known) continue;
-    const NodePtr node = Make();
-    RandomContent(1).Fill(Table(), *node);
-    const NodePtr before(GetParam().copy(*node));
+    const NodePtr node = MakeFull();
+    const NodePtr before = Copy(node);
     Diagnostics diagnostics;
     EXPECT_EQ(accessors.set_null(*node), expected.result);
     EXPECT_EQ(diagnostics.Take(), expected.reports);
@@ -181,9 +187,8 @@ TEST_P(EveryElement, TakesNullForWhatIsOptionalAlone) {
 /// What is got from one node and set in another, one thing after the other, comes to the same.
 TEST_P(EveryElement, HasAccessorsForEverything) {
   for (unsigned seed = 0; seed < 8; ++seed) {
-    const NodePtr from = Make();
+    const NodePtr from = MakeFull(seed);
     const NodePtr to = Make();
-    RandomContent(seed).Fill(Table(), *from);
     for (const Child& row : Table().children) {
       // Absent, it cannot be told of by the accessors that some parents have.
       if (row.name() == std::wstring_view(L"ActiveDirectory")) *row.locate(*from).present = 1;
@@ -215,8 +220,7 @@ TEST_P(EveryElement, KeepsWhateverItHolds) {
 #endif
   for (unsigned seed = 0; seed < kSeeds; ++seed) {
     SCOPED_TRACE(seed);
-    const NodePtr node = Make();
-    RandomContent(seed).Fill(Table(), *node);
+    const NodePtr node = MakeFull(seed);
     const std::string written = WriteFile(*node);
 
     const TempFile file(written);
@@ -229,7 +233,7 @@ TEST_P(EveryElement, KeepsWhateverItHolds) {
     ASSERT_TRUE(AreEqual(Table(), *node, *again)) << written;
     ASSERT_EQ(WriteFile(*again), written);
 
-    const NodePtr copy(GetParam().copy(*node));
+    const NodePtr copy = Copy(node);
     ASSERT_TRUE(AreEqual(Table(), *node, *copy)) << written;
     RandomContent(seed + 1000).Fill(Table(), *node);
     ASSERT_EQ(WriteFile(*copy), written);
@@ -257,8 +261,7 @@ TEST(Items, TakeLittleMemory) {
 /// Whichever allocation fails, alone or with all that follow: std::bad_alloc is all that comes out,
 /// nothing is half done, nothing is lost, and everything can be used again.
 TEST_P(EveryElement, SurvivesARunOutOfMemory) {
-  const NodePtr whole = Make();
-  RandomContent(3).Fill(Table(), *whole);
+  const NodePtr whole = MakeFull(3);
   const TempFile file(WriteFile(*whole));
   const std::string written = file.Read();
   const std::wstring path = file.Wide();
@@ -284,11 +287,9 @@ TEST_P(EveryElement, SurvivesARunOutOfMemory) {
       if (reader->OpenFile(path.c_str()) != 0) throw std::bad_alloc();
       EXPECT_EQ(node->ReadFromXMLMgr(reader.get()), 0);
     });
-    if (!reading_fails) {
-      EXPECT_TRUE(AreEqual(Table(), *node, *whole)) << n;
-    } else {
-      EXPECT_TRUE(IsCleared(Table(), *node, nullptr)) << n;
-    }
+    EXPECT_TRUE(reading_fails ? IsCleared(Table(), *node, nullptr)
+                              : AreEqual(Table(), *node, *whole))
+        << n;
 
     const TempFile output;
     const std::wstring output_path = output.Wide();
@@ -301,7 +302,7 @@ TEST_P(EveryElement, SurvivesARunOutOfMemory) {
     EXPECT_TRUE(writing_fails || output.Read() == written) << n;
 
     NodePtr copy;
-    copying_fails = fails(n, [&] { copy.reset(GetParam().copy(*whole)); });
+    copying_fails = fails(n, [&] { copy = Copy(whole); });
     EXPECT_EQ(copy == nullptr, copying_fails) << n;
     EXPECT_TRUE(copying_fails || AreEqual(Table(), *copy, *whole)) << n;
   }

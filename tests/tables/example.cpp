@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "platform/utf.h"
 #include "support/files.h"
 
 namespace tolva::test {
@@ -47,13 +48,8 @@ std::wstring ReadDocument(const std::string& name) {
 /// Of characters up to U+FFFF.
 std::wstring FromUtf8(const std::string& bytes) {
   std::wstring text;
-  for (const char byte : bytes) {
-    const auto value = static_cast<unsigned char>(byte);
-    if (value >= 0x80 && value < 0xC0) {
-      text.back() = static_cast<wchar_t>((text.back() << 6) | (value & 0x3F));
-    } else {
-      text += static_cast<wchar_t>(value < 0x80 ? value : value & (value < 0xE0 ? 0x1F : 0x0F));
-    }
+  for (const char* at = bytes.c_str(); *at != '\0';) {
+    text += static_cast<wchar_t>(platform::TakeCodePoint(at));
   }
   return text;
 }
@@ -142,17 +138,12 @@ std::wstring Example::Path(const Element& element, const std::wstring& row) {
 Texts Example::WithParents(std::wstring report, std::size_t element, bool reading) const {
   Texts reports = {std::move(report)};
   for (const Element* at = &elements_[element]; at->row != nullptr; at = &elements_[at->parent]) {
-    const wchar_t* what = reading ? L"read require" : L"write optional";
-    switch (at->row->occurrence) {
-      case Occurrence::kRequired:
-        what = reading ? L"read require" : L"write require";
-        break;
-      case Occurrence::kRepeated:
-        what = reading ? L"read  multiple" : L"write none to multiple";
-        break;
-      case Occurrence::kOptional:
-        break;
-    }
+    const Occurrence occurrence = at->row->occurrence;
+    const wchar_t* const what = occurrence == Occurrence::kRepeated
+                                    ? reading ? L"read  multiple" : L"write none to multiple"
+                                : reading                             ? L"read require"
+                                : occurrence == Occurrence::kRequired ? L"write require"
+                                                                      : L"write optional";
     reports.push_back(std::wstring(L"XMLManager: ") + what + L" element failed. element:" +
                       at->reported_name);
   }
@@ -162,6 +153,21 @@ Texts Example::WithParents(std::wstring report, std::size_t element, bool readin
   }
   std::erase(reports, L"");
   return reports;
+}
+
+Example::ReadFault Example::Good(std::wstring document) { return {std::move(document), {}, 0}; }
+
+Example::ReadFault Example::Bad(std::wstring document, std::wstring report,
+                                std::size_t element) const {
+  return {std::move(document), WithParents(std::move(report), element, true), -101};
+}
+
+std::wstring Example::Without(std::size_t start, std::size_t end) const {
+  return std::wstring(text_).erase(start, end - start);
+}
+
+std::wstring Example::SpoiltAt(std::size_t at) const {
+  return std::wstring(text_).insert(at, L"x");
 }
 
 void Example::AddReadFaults(std::size_t index, const Attribute& attribute,
@@ -180,17 +186,13 @@ void Example::AddReadFaults(std::size_t index, const Attribute& attribute,
                                : row.type == ValueType::kEnum
                                    ? L"XMLLITEManager: read required ENUM Attribute failed." + name
                                    : malformed;
-  std::wstring without = text_;
-  without.erase(attribute.start, attribute.end - attribute.start);
-  if (row.is_optional || departures_.dispensable.contains(Path(element, NameOf(row)))) {
-    faults.push_back({without, {}, 0});
-  } else {
-    faults.push_back({without, WithParents(missing, index, true), -101});
+  const bool may_be_absent =
+      row.is_optional || departures_.dispensable.contains(Path(element, NameOf(row)));
+  const std::wstring without = Without(attribute.start, attribute.end);
+  faults.push_back(may_be_absent ? Good(without) : Bad(without, missing, index));
+  if (row.type != ValueType::kString) {
+    faults.push_back(Bad(SpoiltAt(attribute.end - 1), malformed, index));
   }
-  if (row.type == ValueType::kString) return;
-  std::wstring spoilt = text_;
-  spoilt.insert(attribute.end - 1, L"x");
-  faults.push_back({spoilt, WithParents(malformed, index, true), -101});
 }
 
 void Example::AddTextFaults(std::size_t index, std::vector<ReadFault>& faults) const {
@@ -200,23 +202,17 @@ void Example::AddTextFaults(std::size_t index, std::vector<ReadFault>& faults) c
                                   ? L"XMLManager: read required dword/bool content failed. element:"
                                   : L"XMLManager: read required string content failed. element:";
   const bool is_lenient = departures_.lenient.contains(element.reported_name);
-  std::wstring without = text_;
-  without.erase(element.inside, element.close - element.inside);
+  const std::wstring without = Without(element.inside, element.close);
   if (element.schema->content.is_optional) {
-    faults.push_back({without, {}, 0});
+    faults.push_back(Good(without));
   } else if (is_lenient && !is_number) {
     faults.push_back({without, {failed + element.reported_name}, 0});
   } else {
-    faults.push_back({without, WithParents(failed + L"Content", index, true), -101});
+    faults.push_back(Bad(without, failed + L"Content", index));
   }
   if (!is_number) return;
-  std::wstring spoilt = text_;
-  spoilt.insert(element.inside, L"x");
-  if (is_lenient) {
-    faults.push_back({spoilt, {}, 0});
-  } else {
-    faults.push_back({spoilt, WithParents(failed + element.reported_name, index, true), -101});
-  }
+  const std::wstring spoilt = SpoiltAt(element.inside);
+  faults.push_back(is_lenient ? Good(spoilt) : Bad(spoilt, failed + element.reported_name, index));
 }
 
 std::vector<Example::ReadFault> Example::ReadFaults() const {
@@ -226,15 +222,13 @@ std::vector<Example::ReadFault> Example::ReadFaults() const {
     for (const Attribute& attribute : element.attributes) AddReadFaults(i, attribute, faults);
     if (element.schema->content.locate != nullptr) AddTextFaults(i, faults);
     if (element.row == nullptr || element.row->occurrence != Occurrence::kRequired) continue;
-    std::wstring without = text_;
-    without.erase(element.start, element.end - element.start);
-    if (departures_.dispensable.contains(Path(elements_[element.parent], NameOf(*element.row)))) {
-      faults.push_back({without, {}, 0});
-    } else {
-      const std::wstring missing = L"XMLManager: sub-element " + element.reported_name;
-      faults.push_back(
-          {without, WithParents(missing + L" is missing", element.parent, true), -101});
-    }
+    const std::wstring without = Without(element.start, element.end);
+    const Element& parent = elements_[element.parent];
+    const std::wstring missing =
+        L"XMLManager: sub-element " + element.reported_name + L" is missing";
+    faults.push_back(departures_.dispensable.contains(Path(parent, NameOf(*element.row)))
+                         ? Good(without)
+                         : Bad(without, missing, element.parent));
   }
   return faults;
 }

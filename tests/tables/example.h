@@ -80,6 +80,10 @@ class Example {
   void RequireEveryRow() const;
   static std::wstring Path(const Element& element, const std::wstring& row);
   Texts WithParents(std::wstring report, std::size_t element, bool reading) const;
+  static ReadFault Good(std::wstring document);
+  ReadFault Bad(std::wstring document, std::wstring report, std::size_t element) const;
+  std::wstring Without(std::size_t start, std::size_t end) const;
+  std::wstring SpoiltAt(std::size_t at) const;
   void AddReadFaults(std::size_t index, const Attribute& attribute,
                      std::vector<ReadFault>& faults) const;
   void AddTextFaults(std::size_t index, std::vector<ReadFault>& faults) const;

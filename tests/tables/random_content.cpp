@@ -82,20 +82,23 @@ void RandomContent::Fill(const Schema& table, IElement& node) {
 
 namespace {
 
+bool IsSame(ValueType type, const void* left, const void* right) {
+  switch (type) {
+    case ValueType::kLongNumber:
+      return *static_cast<const std::uint64_t*>(left) == *static_cast<const std::uint64_t*>(right);
+    case ValueType::kString:
+      return *static_cast<const std::wstring*>(left) == *static_cast<const std::wstring*>(right);
+    default:
+      return *static_cast<const DWORD*>(left) == *static_cast<const DWORD*>(right);
+  }
+}
+
 bool AreEqual(ValueType type, const FieldRef& left, const FieldRef& right) {
   const auto is_present = [](const FieldRef& field) {
     return field.present == nullptr || *field.present != 0;
   };
-  if (is_present(left) != is_present(right)) return false;
-  if (!is_present(left)) return true;
-  switch (type) {
-    case ValueType::kLongNumber:
-      return *static_cast<std::uint64_t*>(left.value) == *static_cast<std::uint64_t*>(right.value);
-    case ValueType::kString:
-      return *static_cast<std::wstring*>(left.value) == *static_cast<std::wstring*>(right.value);
-    default:
-      return *static_cast<DWORD*>(left.value) == *static_cast<DWORD*>(right.value);
-  }
+  if (!is_present(left) || !is_present(right)) return is_present(left) == is_present(right);
+  return IsSame(type, left.value, right.value);
 }
 
 bool AreEqual(const Child& row, const ChildRef& left, const ChildRef& right) {
@@ -134,21 +137,17 @@ bool AreEqual(const Schema& table, const IElement& left, const IElement& right) 
 namespace {
 
 bool IsDefault(ValueType type, const FieldRef& field) {
-  switch (type) {
-    case ValueType::kLongNumber:
-      return *static_cast<std::uint64_t*>(field.value) == 0;
-    case ValueType::kString:
-      return static_cast<std::wstring*>(field.value)->empty();
-    default:
-      return *static_cast<DWORD*>(field.value) == 0;
-  }
+  const std::uint64_t zero = 0;
+  const std::wstring empty;
+  return type == ValueType::kString ? IsSame(type, field.value, &empty)
+                                    : IsSame(type, field.value, &zero);
 }
 
+/// `before`: what the row keeps has to be the same; null: it may be anything.
 bool IsCleared(const Attribute& row, const FieldRef& field, const FieldRef* before) {
-  const FieldRef value = {field.value, nullptr};
-  const bool value_holds =
-      !row.keeps_value ? IsDefault(row.type, field)
-                       : before == nullptr || AreEqual(row.type, value, {before->value, nullptr});
+  const bool value_holds = !row.keeps_value
+                               ? IsDefault(row.type, field)
+                               : before == nullptr || IsSame(row.type, field.value, before->value);
   if (!value_holds || field.present == nullptr) return value_holds;
   if (!row.keeps_presence) return *field.present == (row.is_present_when_clear ? 1U : 0U);
   return before == nullptr || *field.present == *before->present;
@@ -174,9 +173,10 @@ bool IsCleared(const Schema& table, IElement& node, IElement* before) {
       continue;
     }
     if (child.present != nullptr) {
-      const bool is_kept = row.keeps_presence;
-      if (!is_kept && *child.present != 0) return false;
-      if (is_kept && before != nullptr && *child.present != *old.present) return false;
+      const DWORD expected = !row.keeps_presence ? 0
+                             : before == nullptr ? *child.present
+                                                 : *old.present;
+      if (*child.present != expected) return false;
     }
     if (child.element != nullptr && !IsCleared(*row.schema, *child.element, old.element)) {
       return false;
