@@ -24,28 +24,6 @@ TEST(Policy, KeepsWhatClearLeavesAlone) {
   // A fault behind it leaves what the failed read had found.
   EXPECT_EQ(ReadText(*schedule, L"<Schedule RecurType='ONCE' Duration='x'/>"), -101);
   EXPECT_EQ(schedule->GetRecurType(), 0U);
-
-  // It outlives its parents' Clear too, and a copy takes it along.
-  const DWORD monthly = 3;
-  const std::unique_ptr<IDiscoveryJob> job(DiscoveryJob_CreateNewInstance());
-  job->GetSchedule()->SetRecurType(&monthly);
-  job->GetDiscoveryAction()->SetAction(&monthly);
-  job->Clear();
-  EXPECT_EQ(job->GetSchedule()->GetRecurType(), 3U);
-  EXPECT_EQ(job->GetDiscoveryAction()->GetAction(), 3U);
-  const std::unique_ptr<IDiscoveryJob> copy(DiscoveryJob_CreateNewInstance());
-  copy->CopyFrom(*job);
-  EXPECT_EQ(copy->GetSchedule()->GetRecurType(), 3U);
-
-  const DWORD five = 5;
-  const std::unique_ptr<IDiscoveryAction> action(DiscoveryAction_CreateNewInstance());
-  EXPECT_EQ(action->GetAction(), 0U);
-  action->SetAction(&five);
-  action->Clear();
-  EXPECT_EQ(action->GetAction(), 5U);
-  EXPECT_EQ(WriteText(*action), "<DiscoveryAction Action=\"\"/>");
-  EXPECT_EQ(ReadText(*action, L"<DiscoveryAction/>"), -101);
-  EXPECT_EQ(action->GetAction(), 5U);
 }
 
 // The inline proxy exists only within a protection.
@@ -108,16 +86,6 @@ TEST_F(InlineProxy, KeepsItsFlagsWhenItIsCleared) {
   protection_->Clear();
   EXPECT_EQ(protection_->GetILPInLineProxy(nullptr), 1);
   EXPECT_EQ(proxy_->GetIncludeApps(nullptr), 0);
-}
-
-TEST_F(InlineProxy, IsAnnouncedWhenItsProtectionIsWritten) {
-  Diagnostics diagnostics;
-  WriteText(*protection_);
-  EXPECT_EQ(diagnostics.Take(),
-            (Texts{L"XMLManager: writingelement:ILPInLineProxy",
-                   L"XMLManager: writingelement:ILPInLineProxy was sucessful"}));
-  WriteText(*proxy_);
-  EXPECT_EQ(diagnostics.Take(), Texts{});
 }
 
 TEST_F(InlineProxy, HasAListThatReadingFills) {

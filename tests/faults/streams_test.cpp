@@ -1,17 +1,12 @@
-// Documents from streams that fail, and onto disks that are full.
+// Writers that fail, and disks that are full.
 #include <gtest/gtest.h>
 
 #include <string>
-#include <utility>
-#include <vector>
 
-#include "platform/platform.h"
 #include "support/capabilities.h"
 #include "support/documents.h"
 #include "support/files.h"
 #include "support/nodes.h"
-#include "support/steps.h"
-#include "support/streams.h"
 #include "support/writer_faults.h"
 
 #if !defined(_WIN32)
@@ -23,44 +18,6 @@
 
 namespace tolva::test {
 namespace {
-
-#if defined(TOLVA_OWN_XML_LAYER)
-class FailingStreams : public testing::TestWithParam<const char*> {};
-
-/// The types of the nodes that come, and what comes behind them.
-std::pair<std::vector<int>, HRESULT> NodesOf(StackStream& stream) {
-  XmlReader reader;
-  EXPECT_EQ(reader.SetInput(&stream), S_OK);
-  std::vector<int> types;
-  XmlNodeType type = XmlNodeType_None;
-  HRESULT result = S_OK;
-  Steps steps;
-  while (steps.Take() && (result = reader.Read(&type)) == S_OK) types.push_back(type);
-  return {types, result};
-}
-
-/// A stream that fails at any byte is reported for what it is, behind the nodes before it.
-TEST_P(FailingStreams, AreReportedBehindWhatTheyGave) {
-  const std::string document = ReadDocument(GetParam());
-  TextStream whole(document);
-  const auto [all, end] = NodesOf(whole);
-  EXPECT_EQ(end, S_FALSE);
-  for (const std::size_t block : {std::size_t{13}, document.size()}) {
-    for (std::size_t at = 0; at < document.size(); ++at) {
-      TextStream stream(document, block);
-      stream.fail_at = at;
-      const auto [types, result] = NodesOf(stream);
-      ASSERT_EQ(result, E_FAIL) << at;
-      // What the failure cut off may be of another type: blanks in front of a text.
-      ASSERT_LE(types.size(), all.size());
-      for (std::size_t i = 0; i + 1 < types.size(); ++i) ASSERT_EQ(types[i], all[i]) << at;
-      ASSERT_EQ(stream.references, 1U);
-    }
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(All, FailingStreams, testing::ValuesIn(kDocuments));
-#endif
 
 /// A call of the platform's writer that fails, and works again the next time: whatever it should
 /// have written is lost, and whoever closes the document is told.

@@ -30,20 +30,6 @@ TEST(Engine, ReportsClosedManagers) {
   EXPECT_EQ(server.GetPortNumber(), 0U);
 }
 
-TEST(Engine, RefusesCharactersThatXmlDoesNotAllow) {
-  const std::wstring name(L"a\0b", 3);
-  RFConfInterface::CRFServer server;
-  server.SetHostName(&name);
-  const TempFile file;
-  const ManagerPtr writer = MakeWriter();
-  ASSERT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
-  Diagnostics diagnostics;
-  EXPECT_EQ(server.WriteToXMLMgr(writer.get(), 0, 1), -101);
-  EXPECT_EQ(tolvaGetLastError(), 0xC00CEE2BU);
-  EXPECT_EQ(diagnostics.Take(), Texts{L"XMLManager: write required string Attribute failed. "
-                                      L"element:RFServer, attr:HostName"});
-}
-
 TEST(Engine, WritesEnumValuesBeyondTheTable) {
   const DWORD seven = 7;
   GlobalConfInterface::CSetting setting;
