@@ -45,35 +45,22 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::uint8_t call = *at;
     if (++at == data + size) at = program;
     ++moves;
-    switch (call % 8) {
-      case 0:
-        reader.SkipElement();
-        break;
-      case 1:
-        Use(reader.GetText());
-        break;
-      case 2:
-        reader.FindAttributes(kAttributes);
-        Use(reader.GetAttribute(call / 8 % std::size(kAttributeRows)));
-        reader.StoreAttributeError();
-        break;
-      case 3:
-        Use(reader.GetLocalName());
-        break;
-      case 4:
-        if (reader.FinishElement() == 0) return 0;
-        break;
-      case 5:
-        if (call == 253) reader.Close();
-        break;
-      case 6:
-        tag %= std::size(kTagRows);
-        if (reader.NextNode(kTags, tag) == 0 && call > 128) return 0;
-        break;
-      default:
-        if (reader.NextNode() == 0 && call > 128) return 0;
-        break;
+    const int kind = call % 8;
+    if (kind == 0) reader.SkipElement();
+    if (kind == 1) Use(reader.GetText());
+    if (kind == 2) {
+      reader.FindAttributes(kAttributes);
+      Use(reader.GetAttribute(call / 8 % std::size(kAttributeRows)));
+      reader.StoreAttributeError();
     }
+    if (kind == 3) Use(reader.GetLocalName());
+    if (kind == 4 && reader.FinishElement() == 0) return 0;
+    if (call == 253) reader.Close();
+    if (kind == 6) {
+      tag %= std::size(kTagRows);
+      if (reader.NextNode(kTags, tag) == 0 && call > 128) return 0;
+    }
+    if (kind == 7 && reader.NextNode() == 0 && call > 128) return 0;
   }
   return 0;
 }

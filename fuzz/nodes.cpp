@@ -2,7 +2,6 @@
 // what has been written reads back and is written as it was.
 #include <cwchar>
 #include <string>
-#include <vector>
 
 #include "exports/documents.h"
 #include "support.h"
@@ -33,14 +32,6 @@ const Factory kFactories[] = {
 #include "exports/factories.def"
 #undef TOLVA_FACTORY
 };
-
-std::vector<const Factory*> FactoriesOf(std::string_view element) {
-  std::vector<const Factory*> found;
-  for (const Factory& factory : kFactories) {
-    if (factory.schema->element == element) found.push_back(&factory);
-  }
-  return found;
-}
 
 /// An optional text that is absent leaves no document.
 bool IsWritten(const MemoryFile& file, const INode& node) {
@@ -97,6 +88,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   input.Write(Text(data, size));
   tolva::xml::CXMLLiteManagerReader reader;
   if (reader.OpenFile(input.path()) != 0) return 0;
-  for (const Factory* const factory : FactoriesOf(reader.GetLocalName())) TryOne(*factory, input);
+  const std::string element(reader.GetLocalName());
+  for (const Factory& factory : kFactories) {
+    if (factory.schema->element == std::string_view(element)) TryOne(factory, input);
+  }
   return 0;
 }

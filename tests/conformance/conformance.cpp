@@ -100,41 +100,31 @@ class Catalogue {
 
 /// Where a document's type declaration is, as far as expat can tell.
 struct Doctype {
-  std::optional<std::size_t> start;
-  std::optional<std::size_t> end;
-};
-
-class DoctypeFinder {
- public:
-  Doctype Find(std::string_view document) {
-    const ExpatParser parser(XML_ParserCreate(nullptr));
-    parser_ = parser.get();
-    found_ = {};
-    XML_SetUserData(parser_, this);
+  explicit Doctype(std::string_view document) : parser(XML_ParserCreate(nullptr)) {
+    XML_SetUserData(parser.get(), this);
     // The handler for its start is called too late to know where that was, and the first word of it
     // goes to the default handler only while there is no such handler.
-    XML_SetDefaultHandler(parser_, [](void* self, const char* text, int size) {
-      auto* const finder = static_cast<DoctypeFinder*>(self);
+    XML_SetDefaultHandler(parser.get(), [](void* self, const char* text, int size) {
+      auto& found = *static_cast<Doctype*>(self);
       const std::string_view token(text, static_cast<std::size_t>(size));
-      if (token == "<!DOCTYPE" && !finder->found_.start) finder->found_.start = finder->Position();
+      if (token == "<!DOCTYPE" && !found.start) found.start = found.Position();
     });
-    XML_SetEndDoctypeDeclHandler(parser_, [](void* self) {
-      auto* const finder = static_cast<DoctypeFinder*>(self);
-      finder->found_.end =
-          finder->Position() + static_cast<std::size_t>(XML_GetCurrentByteCount(finder->parser_));
-      XML_StopParser(finder->parser_, XML_FALSE);
+    XML_SetEndDoctypeDeclHandler(parser.get(), [](void* self) {
+      auto& found = *static_cast<Doctype*>(self);
+      XML_Parser at = found.parser.get();
+      found.end = found.Position() + static_cast<std::size_t>(XML_GetCurrentByteCount(at));
+      XML_StopParser(at, XML_FALSE);
     });
-    XML_Parse(parser_, document.data(), static_cast<int>(document.size()), XML_TRUE);
-    return found_;
+    XML_Parse(parser.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
   }
 
- private:
   std::size_t Position() const {
-    return static_cast<std::size_t>(XML_GetCurrentByteIndex(parser_));
+    return static_cast<std::size_t>(XML_GetCurrentByteIndex(parser.get()));
   }
 
-  XML_Parser parser_ = nullptr;
-  Doctype found_;
+  ExpatParser parser;
+  std::optional<std::size_t> start = {};
+  std::optional<std::size_t> end = {};
 };
 
 // ---- the checks --------------------------------------------------------------------------------
@@ -149,7 +139,7 @@ class Suite {
   void Run(const Test& test) {
     const std::string document = ReadFile(folder_ + "/xmlconf/" + test.path);
     const bool well_formed = test.type == "valid" || test.type == "invalid";
-    const Doctype doctype = doctypes_.Find(document);
+    const Doctype doctype(document);
     if (doctype.start) {
       ++with_doctype;
       const HRESULT result = Judge(document);
@@ -213,7 +203,6 @@ class Suite {
   }
 
   std::string folder_;
-  DoctypeFinder doctypes_;
 };
 
 /// Lines of ID, check and reason; lines that start with '#' are remarks.
@@ -239,16 +228,16 @@ int Run(const std::string& folder, const std::string& list_path) {
   for (const Test& test : catalogue.tests) suite.Run(test);
 
   std::size_t others = 0;
-  for (const auto& [deviation, what] : suite.deviations) {
-    if (listed.contains(deviation)) continue;
+  const auto tell = [&others](const char* what, const Deviation& deviation,
+                              const std::string& why) {
     ++others;
-    std::cout << "not listed: " << deviation.first << ' ' << deviation.second << ": " << what
-              << '\n';
+    std::cout << what << ": " << deviation.first << ' ' << deviation.second << why << '\n';
+  };
+  for (const auto& [deviation, what] : suite.deviations) {
+    if (!listed.contains(deviation)) tell("not listed", deviation, ": " + what);
   }
   for (const Deviation& deviation : listed) {
-    if (suite.deviations.contains(deviation)) continue;
-    ++others;
-    std::cout << "listed, but no longer so: " << deviation.first << ' ' << deviation.second << '\n';
+    if (!suite.deviations.contains(deviation)) tell("listed, but no longer so", deviation, "");
   }
   std::cout << "conformance: " << catalogue.tests.size() << " tests: " << suite.with_doctype
             << " documents with a DTD, " << suite.without_doctype << " of these also without it, "

@@ -31,22 +31,17 @@ std::size_t DepthOf(IEndPointMessage& root) {
 TEST(MessageCatalogue, IsReadAsDeepAsTheReaderGoes) {
   TOLVA_REQUIRE(ReaderEndsTruncatedInput);
   const auto document = [](int levels) {
-    std::wstring text;
+    std::wstring starts;
+    std::wstring ends;
     for (int i = 0; i < levels; ++i) {
-      text += i % 2 == 0 ? L"<EndPointMessage SchemaVersion='1'>" : L"<EndpointLocalMsg>";
+      starts += i % 2 == 0 ? L"<EndPointMessage SchemaVersion='1'>" : L"<EndpointLocalMsg>";
+      ends.insert(0, i % 2 == 0 ? L"</EndPointMessage>" : L"</EndpointLocalMsg>");
     }
-    for (int i = levels; i-- > 0;) {
-      text += i % 2 == 0 ? L"</EndPointMessage>" : L"</EndpointLocalMsg>";
-    }
-    return text;
+    return starts + ends;
   };
   const std::unique_ptr<IEndPointMessage> root(EndPointMessage_CreateNewInstance());
   EXPECT_EQ(ReadText(*root, document(255)), 0);
   EXPECT_EQ(DepthOf(*root), 128U);
-  const std::unique_ptr<IEndPointMessage> copy(EndPointMessage_CreateNewInstance());
-  copy->CopyFrom(*root);
-  EXPECT_EQ(WriteText(*copy), WriteText(*root));
-
   tolvaSetLastError(0);
   EXPECT_EQ(ReadText(*root, document(257)), 0);
   EXPECT_EQ(tolvaGetLastError() & 0xFFFFF000U, 0xC00CE000U) << "the input broke off";

