@@ -26,8 +26,7 @@ TEST(PassingFailures, OfTheWriterAreTold) {
   const TempFile file;
   Diagnostics diagnostics;
   for (int n = 0;; ++n) {
-    const ManagerPtr writer = MakeWriter();
-    ASSERT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
+    const ManagerPtr writer = OpenWriter(file);
     const WriterFault fault(n);
     root->WriteToXMLMgr(writer.get());  // 0 where the call was for an optional attribute
     if (!WriterFault::HasStruck()) break;
@@ -55,8 +54,7 @@ std::unique_ptr<node::IElement> MakeLargePolicy() {
 
 /// Writes a node to a file: 0 when the write and `Close` both gave that.
 ConfigResult WriteAndClose(const node::IElement& root, const TempFile& file) {
-  const ManagerPtr writer = MakeWriter();
-  EXPECT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
+  const ManagerPtr writer = OpenWriter(file);
   const ConfigResult written = root.WriteToXMLMgr(writer.get());
   const ConfigResult closed = writer->Close();
   return written != 0 ? written : closed;
@@ -111,8 +109,7 @@ TEST(PassingFailures, OfAnInterruptedWriteAreNone) {
 
 TEST(FailingClose, IsTold) {
   const TempFile file;
-  const ManagerPtr writer = MakeWriter();
-  ASSERT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
+  const ManagerPtr writer = OpenWriter(file);
   ASSERT_EQ(ReadPolicy()->WriteToXMLMgr(writer.get()), 0);
   const SystemFault fault(SystemCall::kClose, 0, EIO);
   for (int again = 0; again < 2; ++again) {
@@ -129,14 +126,12 @@ TEST(FailingClose, IsTold) {
 /// there.
 void ExpectFullDisk(const node::IElement& root, const std::string& whole, std::size_t room) {
   const TempFile file;
-  const std::wstring path = file.Wide();
-  const ManagerPtr writer = MakeWriter();
+  const ManagerPtr writer = OpenWriter(file);
   ConfigResult written = 0;
   ConfigResult closed = 0;
   DWORD error = 0;
   {
     const FileSizeLimit limit(room);
-    ASSERT_EQ(writer->OpenFile(path.c_str()), 0);
     Diagnostics diagnostics;
     tolvaSetLastError(0);
     written = root.WriteToXMLMgr(writer.get());

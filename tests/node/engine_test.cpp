@@ -12,7 +12,6 @@
 #include "support/allocations.h"
 #include "support/nodes.h"
 #include "support/values.h"
-#include "support/writer_faults.h"
 
 namespace tolva::test {
 namespace {
@@ -81,25 +80,6 @@ TEST(Engine, TellsChildrenTheirPositions) {
 }
 
 #if !defined(_WIN32)
-/// The first of two losses is the one that `Close` reports.
-TEST(Engine, LosesMoreThanOnce) {
-  const RFConfInterface::CRFServer server;
-  const TempFile file;
-  const ManagerPtr writer = MakeWriter();
-  ASSERT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
-  Diagnostics ignored;
-  {
-    const WriterFault fault(0);
-    EXPECT_EQ(server.WriteToXMLMgr(writer.get(), 0, 1), -101);
-  }
-  {
-    const FailingAllocations failing(0, true);
-    EXPECT_THROW(server.WriteToXMLMgr(writer.get(), 0, 1), std::bad_alloc);
-  }
-  EXPECT_EQ(writer->Close(), -101);
-  EXPECT_EQ(tolvaGetLastError(), WriterFault::kCode);
-}
-
 TEST(Engine, GivesMemoryBackWhenItClears) {
   TolvaInterface::CFileFilter filter;
   const std::size_t held = CountAllocations().bytes;

@@ -94,13 +94,7 @@ TEST_F(Reader, SurvivesARunOutOfMemory) {
     ASSERT_LT(n, 1000U);
     TextStream stream(document, 1000);
     ASSERT_EQ(reader_.SetInput(&stream), S_OK);
-    failed = false;
-    try {
-      const FailingAllocations failing(n, n % 2 == 1);
-      ReadOn();
-    } catch (const std::bad_alloc&) {
-      failed = true;
-    }
+    failed = RunsOutOfMemory(n, n % 2 == 1, [this] { ReadOn(); });
     // Whatever the cursor was doing, it can be asked and started again.
     AskForAll();
     ReadOn();

@@ -5,6 +5,7 @@
 #if !defined(_WIN32)
 
 #include <cstddef>
+#include <new>
 
 namespace tolva::test {
 
@@ -28,6 +29,18 @@ class FailingAllocations {
   FailingAllocations& operator=(const FailingAllocations&) = delete;
   ~FailingAllocations();
 };
+
+/// Whether an operation runs out of memory when the n-th allocation fails.
+template <class Operation>
+bool RunsOutOfMemory(std::size_t n, bool and_later, Operation operation) {
+  try {
+    const FailingAllocations failing(n, and_later);
+    operation();
+  } catch (const std::bad_alloc&) {
+    return true;
+  }
+  return false;
+}
 
 }  // namespace tolva::test
 

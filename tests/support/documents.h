@@ -31,10 +31,7 @@ inline std::string ReadDocument(const std::string& name) {
 inline std::unique_ptr<TolvaInterface::IILPClientConfiguration> ReadPolicy() {
   std::unique_ptr<TolvaInterface::IILPClientConfiguration> root(
       TolvaInterface::ILPClientConfiguration_CreateNewInstance());
-  const std::filesystem::path path = TOLVA_DOCUMENTS "/policy.xml";
-  const ManagerPtr reader = MakeReader();
-  EXPECT_EQ(reader->OpenFile(path.wstring().c_str()), 0);
-  EXPECT_EQ(root->ReadFromXMLMgr(reader.get()), 0);
+  EXPECT_EQ(ReadFile(*root, TOLVA_DOCUMENTS "/policy.xml"), 0);
   return root;
 }
 

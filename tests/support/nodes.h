@@ -19,11 +19,23 @@ inline ConfigResult ReadText(node::IElement& node, std::wstring_view document) {
   return node.ReadFromXMLMgr(reader.get());
 }
 
+/// Reads a node from a file that can be opened.
+inline ConfigResult ReadFile(node::IElement& node, const std::filesystem::path& path) {
+  const ManagerPtr reader = MakeReader();
+  EXPECT_EQ(reader->OpenFile(path.wstring().c_str()), 0);
+  return node.ReadFromXMLMgr(reader.get());
+}
+
+inline ManagerPtr OpenWriter(const TempFile& file) {
+  ManagerPtr writer = MakeWriter();
+  EXPECT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
+  return writer;
+}
+
 /// Writes a node to a file and returns the file's text.
 inline std::string WriteFile(const node::IElement& node) {
   const TempFile file;
-  const ManagerPtr writer = MakeWriter();
-  EXPECT_EQ(writer->OpenFile(file.Wide().c_str()), 0);
+  const ManagerPtr writer = OpenWriter(file);
   EXPECT_EQ(node.WriteToXMLMgr(writer.get()), 0);
   EXPECT_EQ(writer->Close(), 0);
   return file.Read();

@@ -3,8 +3,7 @@
 
 #include <tolva/node/node.h>
 
-#include "support/files.h"
-#include "support/managers.h"
+#include "support/nodes.h"
 #include "xml/writer_fault.h"
 
 namespace tolva::test {
@@ -26,8 +25,7 @@ class WriterFault {
 /// The reports when the n-th call (from 0) of the writing of a node fails.
 inline Texts ReportsOfFault(const node::IElement& node, int n, ConfigResult* result = nullptr) {
   const TempFile file;
-  const ManagerPtr writer = MakeWriter();
-  writer->OpenFile(file.Wide().c_str());
+  const ManagerPtr writer = OpenWriter(file);
   Diagnostics diagnostics;
   const WriterFault fault(n);
   const ConfigResult written = node.WriteToXMLMgr(writer.get());

@@ -120,11 +120,8 @@ TEST_P(Documents, AreReadAndWritten) {
 #if defined(TOLVA_OWN_XML_LAYER)
   EXPECT_EQ(FromUtf8(written), L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + example_.text());
 #endif
-  const TempFile file(written);
   const auto again = Make();
-  const ManagerPtr reader = MakeReader();
-  ASSERT_EQ(reader->OpenFile(file.Wide().c_str()), 0);
-  ASSERT_EQ(again->ReadFromXMLMgr(reader.get()), 0);
+  ASSERT_EQ(ReadFile(*again, TempFile(written).path()), 0);
   EXPECT_EQ(WriteFile(*again), written);
 }
 

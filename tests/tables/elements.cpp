@@ -11,16 +11,10 @@ namespace tolva::test {
 namespace {
 
 /// What a getter of something optional stores.
-template <class Getter>
-struct Stored;
 template <class C, class T>
-struct Stored<ConfigResult (C::*)(T*)> {
-  using Type = T;
-};
+T Stored(ConfigResult (C::*)(T*));
 template <class C, class T>
-struct Stored<ConfigResult (C::*)(T*) const> {
-  using Type = T;
-};
+T Stored(ConfigResult (C::*)(T*) const);
 
 template <class T>
 ConfigResult SetTo(T& value, auto set) {
@@ -38,7 +32,7 @@ ConfigResult Transfer(I& from, I& to, Getter getter, Setter setter) {
     auto value = (from.*getter)();
     return SetTo(value, set);
   } else {
-    typename Stored<Getter>::Type value{};
+    decltype(Stored(getter)) value{};
     if ((from.*getter)(nullptr) != 0) return (to.*setter)(nullptr);
     EXPECT_EQ((from.*getter)(&value), 0);
     return SetTo(value, set);

@@ -223,12 +223,9 @@ TEST_P(EveryElement, KeepsWhateverItHolds) {
     const NodePtr node = MakeFull(seed);
     const std::string written = WriteFile(*node);
 
-    const TempFile file(written);
     const NodePtr again = Make();
-    const ManagerPtr reader = MakeReader();
     Diagnostics diagnostics;
-    ASSERT_EQ(reader->OpenFile(file.Wide().c_str()), 0);
-    ASSERT_EQ(again->ReadFromXMLMgr(reader.get()), 0) << written;
+    ASSERT_EQ(ReadFile(*again, TempFile(written).path()), 0) << written;
     EXPECT_EQ(diagnostics.Take(), Texts{});
     ASSERT_TRUE(AreEqual(Table(), *node, *again)) << written;
     ASSERT_EQ(WriteFile(*again), written);
@@ -266,13 +263,7 @@ TEST_P(EveryElement, SurvivesARunOutOfMemory) {
   const std::string written = file.Read();
   const std::wstring path = file.Wide();
   const auto fails = [](std::size_t n, auto operation) {
-    try {
-      const FailingAllocations failing(n, n % 2 == 1);
-      operation();
-    } catch (const std::bad_alloc&) {
-      return true;
-    }
-    return false;
+    return RunsOutOfMemory(n, n % 2 == 1, operation);
   };
   const std::size_t held = CountAllocations().bytes;
   bool reading_fails = true;

@@ -193,14 +193,10 @@ TEST_F(ManagerWriter, IsClosedWhenMemoryRunsOutInOpenFile) {
   for (std::size_t n = 0; failed; ++n) {
     CXMLLiteManagerWriter fresh;
     for (CXMLLiteManagerWriter* const writer : {&fresh, &writer_}) {
-      failed = false;
       tolvaSetLastError(0);
-      try {
-        const FailingAllocations failing(n);
-        failed = writer->OpenFile(path.c_str()) != 0;
-      } catch (const std::bad_alloc&) {
-        failed = true;
-      }
+      ConfigResult result = 0;
+      failed = RunsOutOfMemory(n, false, [&] { result = writer->OpenFile(path.c_str()); }) ||
+               result != 0;
       if (!failed) continue;
       EXPECT_EQ(writer->StartElement(L"a"), -101);
       EXPECT_EQ(tolvaGetLastError(), 0x8000FFFFU);
@@ -218,14 +214,11 @@ TEST_F(ManagerWriter, RemembersThatMemoryRanOut) {
   const std::wstring value(1'000'000, L'v');
   Open();
   ASSERT_EQ(writer_.StartElement(L"a"), 0);
-  bool has_thrown = false;
-  try {
-    const FailingAllocations failing(0);
-    writer_.WriteAttribute(L"b", value);
-  } catch (const std::bad_alloc&) {
-    has_thrown = true;
+  EXPECT_TRUE(RunsOutOfMemory(0, false, [&] { writer_.WriteAttribute(L"b", value); }));
+  {
+    const WriterFault fault(0);  // it is the first loss that is told
+    EXPECT_EQ(writer_.WriteAttribute(L"c", L""), -101);
   }
-  EXPECT_TRUE(has_thrown);
   EXPECT_EQ(writer_.Close(), -101);
   EXPECT_EQ(tolvaGetLastError(), 0x8007000EU);
   EXPECT_TRUE(Holds("<a/>"));
