@@ -16,7 +16,8 @@ using ClientConfig::IActiveDirectory;
 constexpr DWORD kOne = 1;
 const std::wstring kName = L"caf\u00E9.example";
 const std::string kDirectory =
-    "<ActiveDirectory><DefaultDomain Enabled=\"1\" Name=\"caf\xC3\xA9.example\"/></ActiveDirectory>";
+    "<ActiveDirectory><DefaultDomain Enabled=\"1\" "
+    "Name=\"caf\xC3\xA9.example\"/></ActiveDirectory>";
 
 std::unique_ptr<IActiveDirectory> MakeDirectory() {
   std::unique_ptr<IActiveDirectory> directory(ClientConfig::ActiveDir_CreateNewInstance());
@@ -128,19 +129,6 @@ TEST(NgConfiguration, KeepsTheReservedSettingToItself) {
   EXPECT_EQ(copy->GetReservedSetting(&found), 0);
   EXPECT_EQ(management->SetReservedSetting(nullptr), 0);
   EXPECT_EQ(management->GetReservedSetting(nullptr), 1);
-}
-
-TEST(ProxyConfiguration, BringsTelemetryBack) {
-  using namespace ProxyClientConfig;
-  const std::unique_ptr<IClientSetting> setting(ClientSetting_CreateNewInstance());
-  DWORD telemetry = 9;
-  EXPECT_EQ(setting->GetEnableTelemetry(&telemetry), 0);
-  EXPECT_EQ(telemetry, 0U);
-  EXPECT_EQ(setting->SetEnableTelemetry(nullptr), 0);
-  EXPECT_EQ(setting->GetEnableTelemetry(&telemetry), 1);
-  EXPECT_EQ(WriteText(*setting).find("EnableTelemetry"), std::string::npos);
-  setting->Clear();
-  EXPECT_EQ(setting->GetEnableTelemetry(&telemetry), 0);
 }
 
 TEST(ProxyConfiguration, HandsTheActiveDirectoryOut) {

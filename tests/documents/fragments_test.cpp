@@ -156,12 +156,6 @@ TEST(Fragments, OfAttributes) {
        "DisplayHTTPSBlockMsg=\"0\" HTTPSBlockMsgInterval=\"0\" DisplayFTPBlockMsg=\"0\" "
        "FTPBlockMsgInterval=\"0\" UITimeout=\"0\"/></ClientSetting>"},
   });
-  ExpectAll<RFConfInterface::ClientSetting_CreateNewInstance>({
-      {L"<ClientSetting DisableFiltering='1'><UserInterface UISilentMode='1' UITimeout='2'/>"
-       L"</ClientSetting>",
-       "<ClientSetting EnableTelemetry=\"0\" DisableFiltering=\"1\"><UserInterface "
-       "UISilentMode=\"1\" UITimeout=\"2\"/></ClientSetting>"},
-  });
 }
 
 }  // namespace
