@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 #include <tolva/tolva.h>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
+#include "support/capabilities.h"
 #include "support/nodes.h"
 
 namespace tolva::test {
@@ -156,6 +158,28 @@ TEST(Fragments, OfAttributes) {
        "DisplayHTTPSBlockMsg=\"0\" HTTPSBlockMsgInterval=\"0\" DisplayFTPBlockMsg=\"0\" "
        "FTPBlockMsgInterval=\"0\" UITimeout=\"0\"/></ClientSetting>"},
   });
+}
+
+/// Those that XML allows, but for most of the planes beyond the first, and values that need care.
+TEST(Fragments, OfEveryCharacter) {
+  TOLVA_REQUIRE(WriterEscapes);
+  std::wstring all = L"\U00010000\U0001FFFF\U000FFFFF\U0010FFFF";
+  for (std::uint32_t c = 0x20; c < 0xFFFE; ++c) {
+    if (c < 0xD800 || c > 0xDFFF) all += static_cast<wchar_t>(c);
+  }
+  using namespace CpsAnalysisDetailsConf;
+  const std::unique_ptr<ClientConfig::IDefaultDomain> domain(
+      ClientConfig::DefaultDomain_CreateNewInstance());
+  const std::unique_ptr<Iname> name(name_CreateNewInstance());
+  for (const std::wstring& value :
+       {std::wstring(L"\t\r\n"), std::wstring(L" "), std::wstring(L"\r\n x \r"), all}) {
+    domain->SetName(&value);
+    EXPECT_EQ(ReadFile(*domain, TempFile(WriteFile(*domain)).path()), 0);
+    EXPECT_EQ(domain->GetName(), value);
+    name->SetContent(&value);
+    EXPECT_EQ(ReadFile(*name, TempFile(WriteFile(*name)).path()), 0);
+    EXPECT_EQ(name->GetContent(), value);
+  }
 }
 
 }  // namespace

@@ -1,10 +1,11 @@
 // Writers that fail, and disks that are full.
 #include <gtest/gtest.h>
+#include <tolva/tolva.h>
 
+#include <memory>
 #include <string>
 
 #include "support/capabilities.h"
-#include "support/documents.h"
 #include "support/files.h"
 #include "support/nodes.h"
 #include "support/writer_faults.h"
@@ -18,6 +19,13 @@
 
 namespace tolva::test {
 namespace {
+
+std::unique_ptr<TolvaInterface::IILPClientConfiguration> ReadPolicy() {
+  std::unique_ptr<TolvaInterface::IILPClientConfiguration> root(
+      TolvaInterface::ILPClientConfiguration_CreateNewInstance());
+  EXPECT_EQ(ReadFile(*root, TOLVA_DOCUMENTS "/policy.xml"), 0);
+  return root;
+}
 
 /// A call of the platform's writer that fails, and works again the next time: whatever it should
 /// have written is lost, and whoever closes the document is told.

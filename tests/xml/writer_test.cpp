@@ -13,9 +13,7 @@
 #include "support/capabilities.h"
 #include "support/files.h"
 #include "support/managers.h"
-#include "support/values.h"
 #include "support/writer_faults.h"
-#include "xml/reader.h"
 
 namespace tolva::test {
 namespace {
@@ -239,42 +237,6 @@ TEST_F(ManagerWriter, ReportsAFullDisk) {
 }
 
 #endif
-
-/// The characters that XML allows, but for most of the planes beyond the first.
-std::wstring EveryCharacter() {
-  std::wstring text = L"\U00010000\U0001FFFF\U000FFFFF\U0010FFFF";
-  for (std::uint32_t c = 0x20; c < 0xFFFE; ++c) {
-    if (c < 0xD800 || c > 0xDFFF) text += static_cast<wchar_t>(c);
-  }
-  return text;
-}
-
-TEST_F(ManagerWriter, WritesWhatTheReaderReadsBack) {
-  TOLVA_REQUIRE(WriterEscapes);
-  const std::wstring values[] = {L"\t\r\n", L" ", L"\r\n x \r", EveryCharacter()};
-  Open();
-  ASSERT_EQ(writer_.StartElement(L"all"), 0);
-  for (const std::wstring& value : values) {
-    ASSERT_EQ(writer_.StartElement(L"one"), 0);
-    ASSERT_EQ(writer_.WriteAttribute(L"v", value), 0);
-    ASSERT_EQ(writer_.WriteElement(L"text", value), 0);
-    ASSERT_EQ(writer_.EndElement(End::kEndTag), 0);
-  }
-  ASSERT_EQ(writer_.Close(), 0);
-  static constexpr struct Row { Name name; } kRows[] = {{L"v"}};
-  const Names names(std::span<const Row>(kRows), &Row::name);
-  xml::CXMLLiteManagerReader reader;
-  ASSERT_EQ(reader.OpenFile(file_.Wide().c_str()), 0);
-  for (const std::wstring& value : values) {
-    ASSERT_EQ(reader.NextNode(), 1);
-    reader.FindAttributes(names);
-    EXPECT_EQ(Wide(reader.GetAttribute(0)), value);
-    ASSERT_EQ(reader.NextNode(), 1);
-    EXPECT_EQ(Wide(reader.GetText()), value);
-    reader.FinishElement();
-    reader.NextNode();
-  }
-}
 
 }  // namespace
 }  // namespace tolva::test
