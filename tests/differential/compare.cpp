@@ -301,7 +301,7 @@ std::u32string UnitsOf(std::string_view document) {
   for (std::size_t at = 0; at + 1 < document.size(); at += 2) {
     const char32_t first = static_cast<unsigned char>(document[at]);
     const char32_t second = static_cast<unsigned char>(document[at + 1]);
-    units += is_big ? first << 8 | second : second << 8 | first;
+    units.push_back(is_big ? first << 8 | second : second << 8 | first);
   }
   return units;
 }

@@ -50,14 +50,6 @@ TEST(Fragments, OfTheActiveDirectory) {
        L"Enabled='1'/><DefaultDomain Name='2nd'>text<y/></DefaultDomain></ActiveDirectory>",
        "<ActiveDirectory><DefaultDomain Enabled=\"0\" Name=\"2nd\"/></ActiveDirectory>"},
       {L"<activeDirectory><DefaultDomain Name='x'/></activeDirectory>", nullptr, {}, -102},
-      // What is malformed breaks the input off. Nothing after the root is looked at.
-      {L"<ActiveDirectory><DefaultDomain Name='&e;'/></ActiveDirectory>", nullptr,
-       Missing(L"DefDomain"), -101},
-      {L"<ActiveDirectory><DefaultDomain Name='x' Name='y'/></ActiveDirectory>", nullptr,
-       Missing(L"DefDomain"), -101},
-      {L"<!DOCTYPE a [<!ENTITY e 'x'>]><ActiveDirectory/>", nullptr, {}, -102},
-      {L"<ActiveDirectory><DefaultDomain Name='x'/></ActiveDirectory>&<",
-       "<ActiveDirectory><DefaultDomain Enabled=\"0\" Name=\"x\"/></ActiveDirectory>"},
   });
   // Signed numbers saturate, unsigned ones keep their low half.
   ExpectAll<DefaultDomain_CreateNewInstance>({
@@ -67,6 +59,20 @@ TEST(Fragments, OfTheActiveDirectory) {
   ExpectAll<NGConfInterface::NGUser_CreateNewInstance>({
       {L"<NGUser Name='' EnableTrayIconMenu='8589934593'/>",
        "<NGUser Name=\"\" EnableTrayIconMenu=\"1\"/>"},
+  });
+}
+
+/// It breaks the input off. Nothing after the root is looked at.
+TEST(Fragments, OfWhatIsMalformed) {
+  TOLVA_REQUIRE(ReaderEndsTruncatedInput);
+  ExpectAll<ClientConfig::ActiveDir_CreateNewInstance>({
+      {L"<ActiveDirectory><DefaultDomain Name='&e;'/></ActiveDirectory>", nullptr,
+       Missing(L"DefDomain"), -101},
+      {L"<ActiveDirectory><DefaultDomain Name='x' Name='y'/></ActiveDirectory>", nullptr,
+       Missing(L"DefDomain"), -101},
+      {L"<!DOCTYPE a [<!ENTITY e 'x'>]><ActiveDirectory/>", nullptr, {}, -102},
+      {L"<ActiveDirectory><DefaultDomain Name='x'/></ActiveDirectory>&<",
+       "<ActiveDirectory><DefaultDomain Enabled=\"0\" Name=\"x\"/></ActiveDirectory>"},
   });
 }
 

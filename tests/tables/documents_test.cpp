@@ -114,9 +114,9 @@ TEST_P(Documents, AreReadAndWritten) {
   Diagnostics diagnostics;
   ASSERT_EQ(ReadText(*root, example_.text()), 0);
   EXPECT_EQ(diagnostics.Take(), Texts{});
-  if (!WriterEscapes()) return;
   const std::string written = WriteFile(*root);
-  EXPECT_TRUE(written.starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
+  EXPECT_NE(written.find("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"), std::string::npos);
+  if (!WriterEscapes()) return;
 #if defined(TOLVA_OWN_XML_LAYER)
   EXPECT_EQ(FromUtf8(written), L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + example_.text());
 #endif
