@@ -1,0 +1,90 @@
+// Documents that were made to do harm, through the exported functions.
+#include <gtest/gtest.h>
+#include <tolva/tolva.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "support/capabilities.h"
+#include "support/nodes.h"
+
+namespace tolva::test {
+namespace {
+
+std::string Repeat(std::string_view piece, std::size_t count) {
+  std::string text;
+  while (count-- != 0) text += piece;
+  return text;
+}
+
+TEST(HostileDocuments, AreRefusedOrRead) {
+  TOLVA_REQUIRE(ReaderEndsTruncatedInput);
+  struct Case {
+    const char* what;
+    std::string document;
+    ConfigResult result;
+    Texts reports;
+    std::wstring name;  ///< of the domain, afterwards
+  };
+  const auto document = [](const std::string& inside) {
+    return "<ActiveDirectory>" + inside + "</ActiveDirectory>";
+  };
+  const std::string domain = "<DefaultDomain Name='x'/>";
+  const Texts missing{L"XMLManager: sub-element DefDomain is missing"};
+  const Texts no_name{
+      L"XMLManager: read required string Attribute failed. element:DefaultDomain, attr:Name",
+      L"XMLManager: read require element failed. element:DefDomain"};
+  constexpr std::size_t kLarge = std::size_t{4} << 20;
+  constexpr std::size_t kLargest = std::size_t{64} << 20;
+  std::string attributes;
+  for (int i = 0; i < 100'000; ++i) attributes += " a" + std::to_string(i) + "='1'";
+
+  const std::vector<Case> cases = {
+      {"255 levels", document(Repeat("<a>", 255) + Repeat("</a>", 255) + domain), 0, {}, L"x"},
+      {"257 levels", document(Repeat("<a>", 256) + Repeat("</a>", 256) + domain), -101, missing,
+       L""},
+      {"a long value",
+       document("<DefaultDomain Name='" + std::string(kLargest, 'x') + "'/>"),
+       0,
+       {},
+       std::wstring(kLargest, L'x')},
+      {"a long name", document("<" + std::string(kLarge, 'x') + "/>" + domain), 0, {}, L"x"},
+      {"a long number",
+       document("<DefaultDomain Name='x' Enabled='" + std::string(kLarge, '0') + "'/>"),
+       0,
+       {},
+       L"x"},
+      {"many attributes", document("<DefaultDomain" + attributes + " Name='x'/>"), 0, {}, L"x"},
+      {"twin attributes", document("<DefaultDomain Name='x'" + attributes + " Name='y'/>"), -101,
+       missing, L""},
+      {"a document type", "<!DOCTYPE a [<!ENTITY e 'x'>]>" + document(domain), -102, {}, L""},
+      {"an entity", document("<DefaultDomain Name='&e;'/>"), -101, missing, L""},
+      {"malformed UTF-8 in a value", document("<DefaultDomain Name='\xC3\x28'/>"), -101, missing,
+       L""},
+      {"malformed UTF-8 behind", document(domain + "\xFF"), 0, {}, L"x"},
+      {"a zero in a value", document(std::string("<DefaultDomain Name='a\0b'/>", 27)), -101,
+       missing, L""},
+      {"a zero in front", std::string(1, '\0') + document(domain), -102, {}, L""},
+      {"two roots", document(domain) + document(domain), 0, {}, L"x"},
+      {"no end", "<ActiveDirectory>" + domain + "<a><b>", 0, {}, L"x"},
+      {"no domain", "<ActiveDirectory><a><b>", -101, missing, L""},
+      {"no name", document("<DefaultDomain/>") + "<", -101, no_name, L""},
+      {"UTF-7", "<?xml version='1.0' encoding='UTF-7'?>" + document(domain), -102, {}, L""},
+  };
+  for (const Case& one : cases) {
+    SCOPED_TRACE(one.what);
+    const TempFile file(one.document);
+    const std::unique_ptr<ClientConfig::IActiveDirectory> root(
+        ClientConfig::ActiveDir_CreateNewInstance());
+    const ManagerPtr reader = MakeReader();
+    Diagnostics diagnostics;
+    ASSERT_EQ(reader->OpenFile(file.Wide().c_str()), 0);
+    EXPECT_EQ(root->ReadFromXMLMgr(reader.get()), one.result);
+    EXPECT_EQ(diagnostics.Take(), one.reports);
+    EXPECT_TRUE(root->GetDefaultDomain()->GetName() == one.name);
+  }
+}
+
+}  // namespace
+}  // namespace tolva::test
