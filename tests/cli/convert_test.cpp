@@ -6,32 +6,22 @@
 #include <regex>
 
 #include "cli/layout.h"
-#include "cli/run.h"
-#include "cli/text.h"
-#include "support/files.h"
+#include "cli/run_on.h"
 
 namespace tolva::test {
 namespace {
 
 using namespace cli;
 
+/// The name of the file is left out.
 Outcome Convert(const std::string& to, std::string_view bytes,
-                const std::vector<std::string>& options = {}) {
+                std::vector<std::string> options = {}) {
   const TempFile file(bytes);
-  std::vector<std::string> arguments = {"convert", "--to", to, cli::NameOf(file.path())};
-  arguments.insert(arguments.end(), options.begin(), options.end());
-  Outcome outcome = RunTool(arguments);
+  options.insert(options.end(), {"--to", to});
+  Outcome outcome = RunOn(file, "convert", options);
   const std::size_t at = outcome.err.find(cli::NameOf(file.path()));
   if (at != std::string::npos) outcome.err.erase(at, cli::NameOf(file.path()).size());
   return outcome;
-}
-
-/// ":line:column: ", as the tool has it, of what is at the offset.
-std::string PlaceOf(std::string_view text, std::size_t offset) {
-  const std::string_view before = text.substr(0, offset);
-  const auto line = std::ranges::count(before, '\n') + 1;
-  const std::size_t column = Columns(before.substr(before.rfind('\n') + 1)) + 1;
-  return ":" + std::to_string(line) + ":" + std::to_string(column) + ": ";
 }
 
 TEST(Convert, GoesThereAndBack) {

@@ -10,19 +10,15 @@
 #include "cli/layout.h"
 #include "cli/line_diff.h"
 #include "cli/load.h"
-#include "cli/run.h"
-#include "cli/text.h"
-#include "support/files.h"
+#include "cli/run_on.h"
 
 namespace tolva::test {
 namespace {
 
 using namespace cli;
 
-Outcome Fmt(std::vector<std::string> options, const TempFile& file) {
-  options.insert(options.begin(), "fmt");
-  options.push_back(cli::NameOf(file.path()));
-  return RunTool(options);
+Outcome Fmt(const std::vector<std::string>& options, const TempFile& file) {
+  return RunOn(file, "fmt", options);
 }
 
 TEST(Fmt, GivesOneFormWhateverTheLayout) {
@@ -46,7 +42,7 @@ TEST(Fmt, GivesOneFormWhateverTheLayout) {
       const bool differs = changed != expected;
       EXPECT_EQ(Fmt({"--check"}, file).status, differs ? 1 : 0);
       EXPECT_EQ(Fmt({"--diff"}, file).status, differs ? 1 : 0);
-      EXPECT_EQ(RunTool({"diff", cli::NameOf(own.path()), cli::NameOf(file.path())}).status, 0);
+      EXPECT_EQ(RunTool({"diff", NameOf(own.path()), NameOf(file.path())}).status, 0);
       EXPECT_EQ(Fmt({"-i"}, file).status, 0);
       EXPECT_EQ(file.Read(), expected);
     }
@@ -99,7 +95,7 @@ TEST(Fmt, RefusesToLoseAnything) {
       {"|<!-- é -->\n" + root(kDomain), "this comment would be lost"},
       {root("é" + kDomain).insert(18, "|"), "text in 'ActiveDirectory' is ignored"},
       {root(kDomain + "|<!-- é -->"), "this comment would be lost"},
-      {root(kDomain) + "\n<!---->", "this comment would be lost"},
+      {root(kDomain) + "\n|<!---->", "this comment would be lost"},
       {root(kDomain + "\n |<?p é?>"), "this processing instruction would be lost"},
       {root(kDomain, " |xmlns='é'"), "the attribute 'xmlns' would be lost"},
       {root(kDomain, " |xmlns:xsi='x' xsi:y='z'"), "the attribute 'xmlns:xsi' would be lost"},
@@ -119,21 +115,11 @@ TEST(Fmt, RefusesToLoseAnything) {
       {violation("<severity>é|<b/></severity>"), "element 'b'"},
   };
   for (const auto& [marked, what] : losses) {
-    std::string text = marked;
-    std::size_t mark = text.find('|');
-    if (mark == std::string::npos) mark = text.rfind("<!");
-    if (text[mark] == '|') text.erase(mark, 1);
-    const std::string before = text.substr(0, mark);
-    const std::string line = before.substr(before.rfind('\n') + 1);
-    const TempFile file(text);
-    const std::string place = cli::NameOf(file.path()) + ":" +
-                              std::to_string(std::ranges::count(before, '\n') + 1) + ":" +
-                              std::to_string(Columns(line) + 1) + ": ";
     SCOPED_TRACE(marked);
-    for (const char* const verb : {"fmt", "convert"}) {
-      std::vector<std::string> arguments = {verb, cli::NameOf(file.path())};
-      if (arguments[0] == "convert") arguments.insert(arguments.end(), {"--to", "json"});
-      const Outcome refused = RunTool(arguments);
+    const std::string text = Replaced(marked, "|", "");
+    const TempFile file(text);
+    const std::string place = NameOf(file.path()) + PlaceOf(text, marked.find('|'));
+    for (const Outcome& refused : {Fmt({}, file), RunOn(file, "convert", {"--to", "json"})}) {
       EXPECT_EQ(refused.status, 2);
       EXPECT_EQ(refused.out, "");
       const std::size_t at = refused.err.find(place);
@@ -152,12 +138,13 @@ TEST(Fmt, RefusesToLoseAnything) {
 TEST(Fmt, KnowsSeveralFilesAndWhatCannotBe) {
   const TempFile folder;
   std::filesystem::create_directories(folder.path());
-  const auto name = [&](const char* file) { return cli::NameOf(folder.path() / file); };
+  const auto name = [&](const char* file) { return NameOf(folder.path() / file); };
   const std::string good = RunTool({"new", "ci"}).out;
-  std::ofstream(folder.path() / "a.xml", std::ios::binary) << good;
-  std::ofstream(folder.path() / "b.xml", std::ios::binary) << good << "\n";
-  std::ofstream(folder.path() / "c.xml", std::ios::binary) << "<html><!-- x --></html>";
-  const Outcome checked = RunTool({"fmt", "--check", "-r", cli::NameOf(folder.path())});
+  const std::pair<const char*, std::string> files[] = {
+      {"a.xml", good}, {"b.xml", good + "\n"}, {"c.xml", "<html><!-- x --></html>"}};
+  for (const auto& [file, text] : files)
+    std::ofstream(PathOf(name(file)), std::ios::binary) << text;
+  const Outcome checked = RunTool({"fmt", "--check", "-r", NameOf(folder.path())});
   EXPECT_EQ(checked.out, name("b.xml") + "\n");
   EXPECT_EQ(checked.status, 1);
   const Outcome worst = RunTool({"fmt", "-i", name("c.xml"), name("b.xml"), name("none.xml")});
@@ -205,37 +192,36 @@ TEST(Fmt, ShowsNoSecretsInADiff) {
   EXPECT_NE(Fmt({"--diff", "--drop", "--show-secrets"}, file).out.find("hush!"), std::string::npos);
 }
 
+std::string TakeLine(std::string_view& text) {
+  const std::string line(text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1));
+  text.remove_prefix(line.size());
+  return line;
+}
+
 /// Does what a unified diff says.
-std::string Patched(const std::string& before, std::string_view diff) {
-  std::vector<std::string> lines;
-  for (std::size_t at = 0; at < before.size();) {
-    const std::size_t end = std::min(before.find('\n', at), before.size() - 1) + 1;
-    lines.push_back(before.substr(at, end - at));
-    at = end;
-  }
+std::string Patched(std::string_view before, std::string_view diff) {
   std::string after;
   std::size_t done = 0;
   while (!diff.empty()) {
-    std::string line(diff.substr(0, diff.find('\n') + 1));
-    diff.remove_prefix(line.size());
+    std::string line = TakeLine(diff);
     if (line.starts_with("---") || line.starts_with("+++")) continue;
     if (diff.starts_with("\\ ")) {
       line.pop_back();
-      diff.remove_prefix(diff.find('\n') + 1);
+      TakeLine(diff);
     }
     if (line.starts_with("@@ -")) {
-      const std::size_t from = std::stoul(line.substr(4));
       const bool is_empty = line.substr(line.find(','), 3) == ",0 ";
-      while (done < from - (is_empty ? 0 : 1)) after += lines[done++];
+      const std::size_t until = std::stoul(line.substr(4)) - (is_empty ? 0 : 1);
+      for (; done < until; ++done) after += TakeLine(before);
       continue;
     }
     if (line[0] != '+') {
-      EXPECT_EQ(lines.at(done++), line.substr(1));
+      EXPECT_EQ(TakeLine(before), line.substr(1));
+      ++done;
     }
     if (line[0] != '-') after += line.substr(1);
   }
-  while (done < lines.size()) after += lines[done++];
-  return after;
+  return after + std::string(before);
 }
 
 TEST(LineDiff, LeadsFromOneTextToTheOther) {

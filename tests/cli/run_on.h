@@ -1,6 +1,11 @@
 // The tool run on a file of the test's own.
 #pragma once
 
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "cli/run.h"
 #include "cli/text.h"
 #include "support/files.h"
@@ -16,6 +21,14 @@ inline Outcome RunOn(const TempFile& file, const std::string& verb,
 /// Puts `by` in the place of `what`, which is there.
 inline std::string Replaced(std::string text, const std::string& what, const std::string& by) {
   return text.replace(text.find(what), what.size(), by);
+}
+
+/// ":line:column: ", as the tool has it, of what is at the offset.
+inline std::string PlaceOf(std::string_view text, std::size_t offset) {
+  const std::string_view before = text.substr(0, offset);
+  const auto line = std::ranges::count(before, '\n') + 1;
+  const std::size_t column = cli::Columns(before.substr(before.rfind('\n') + 1)) + 1;
+  return ":" + std::to_string(line) + ":" + std::to_string(column) + ": ";
 }
 
 }  // namespace tolva::test
