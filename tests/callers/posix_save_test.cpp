@@ -14,10 +14,11 @@
 #include <new>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include "callers/folder.h"
 #include "support/allocations.h"
 #include "support/file_size_limit.h"
-#include "support/files.h"
 #include "support/system_faults.h"
 
 namespace tolva::support {
@@ -26,30 +27,16 @@ namespace {
 namespace fs = std::filesystem;
 using test::SystemCall;
 using test::SystemFault;
-using test::TempFile;
 
 constexpr uid_t kNobody = 65534;
 
-class PosixSave : public testing::Test {
+class PosixSave : public testing::Test, protected test::Folder {
  protected:
-  PosixSave() { fs::create_directory(folder_.path()); }
-
-  fs::path In(const char* name) const { return folder_.path() / name; }
-  std::string Content(const char* name) const { return TempFile::ReadFile(In(name)); }
-
   struct stat About(const char* name) const {
     struct stat about {};
     EXPECT_EQ(stat(In(name).c_str(), &about), 0);
     return about;
   }
-
-  std::size_t Count() const {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator(folder_.path()), fs::directory_iterator()));
-  }
-
- private:
-  TempFile folder_;
 };
 
 TEST_F(PosixSave, KeepsLinks) {
@@ -64,7 +51,7 @@ TEST_F(PosixSave, KeepsLinks) {
   fs::create_symlink("loop", In("circle"));
   fs::create_symlink("circle", In("loop"));
   EXPECT_EQ(SaveBytes("new", In("loop")).error, 1921U);
-  EXPECT_EQ(Count(), 5U);
+  EXPECT_EQ(Count(), 5);
 }
 
 TEST_F(PosixSave, KeepsModeAndOwner) {
@@ -146,7 +133,7 @@ TEST_F(PosixSave, RefusesWhatIsNotToBeReplaced) {
               "The file cannot be replaced: its owner, mode or access list cannot be kept.");
     EXPECT_EQ(Content("of-others"), "old");
   }
-  EXPECT_EQ(Count(), 4U);
+  EXPECT_EQ(Count(), 4);
 }
 
 std::unique_ptr<ClientConfig::IActiveDirectory> MakeDomain(const std::wstring& name) {
@@ -160,12 +147,10 @@ TEST_F(PosixSave, SurvivesEveryFailingCall) {
   const auto root = MakeDomain(L"new");
   ASSERT_TRUE(Save(*root, In("whole")));
   const std::string whole = Content("whole");
-  const SystemCall calls[] = {SystemCall::kOpen,        SystemCall::kRead,   SystemCall::kWrite,
-                              SystemCall::kClose,       SystemCall::kStat,   SystemCall::kFsync,
-                              SystemCall::kRename,      SystemCall::kFchown, SystemCall::kFchmod,
-                              SystemCall::kSetAttribute};
+  using enum SystemCall;
   for (const bool as_bytes : {false, true}) {
-    for (const SystemCall call : calls) {
+    for (const SystemCall call :
+         {kOpen, kRead, kWrite, kClose, kStat, kFsync, kRename, kFchown, kFchmod, kSetAttribute}) {
       bool has_struck = true;
       int n = 0;
       for (; has_struck; ++n) {
@@ -187,7 +172,7 @@ TEST_F(PosixSave, SurvivesEveryFailingCall) {
         // A file that was only read may be closed as it likes.
         ASSERT_TRUE(!has_struck || !report || call == SystemCall::kClose) << n;
         ASSERT_TRUE(report || report.error == 1117) << n << ": " << report.message;
-        ASSERT_EQ(Count(), 2U) << n;
+        ASSERT_EQ(Count(), 2) << n;
       }
       // The library's own calls are not seen: `Save` itself only reads.
       const bool is_used = as_bytes || call != SystemCall::kWrite;
@@ -220,49 +205,55 @@ TEST_F(PosixSave, SurvivesFailingAllocations) {
     } catch (const std::bad_alloc&) {
     }
     ASSERT_EQ(Content("file") == "old", failed) << n;
-    ASSERT_EQ(Count(), 1U) << n;
+    ASSERT_EQ(Count(), 1) << n;
   }
   // Under valgrind all allocations are its own, and none fails.
   EXPECT_TRUE(n > 30 || test::CountAllocations().calls == 0) << n;
 }
 
 TEST_F(PosixSave, TellsAFullDisk) {
+  const auto root = MakeDomain(L"new");
+  ASSERT_TRUE(Save(*root, In("file")));
+  const std::string whole = Content("file");
   ASSERT_TRUE(SaveBytes("old", In("file")));
-  {
-    const test::FileSizeLimit limit(100);
-    for (const SaveReport& report : {Save(*MakeDomain(std::wstring(1000, L'x')), In("file")),
-                                     SaveBytes(std::string(1000, 'x'), In("file"))}) {
-      EXPECT_EQ(report.outcome, SaveOutcome::kNotWritten);
-      EXPECT_NE(report.error, 0U);
-    }
+  std::vector<SaveReport> reports;
+  for (std::size_t room = 0; room < whole.size(); ++room) {
+    const test::FileSizeLimit limit(room);
+    reports.push_back(Save(*root, In("file")));
+    reports.push_back(SaveBytes(whole, In("file")));
+    ASSERT_EQ(Content("file"), "old") << room;
+    ASSERT_EQ(Count(), 1) << room;
   }
   {
     const SystemFault fault(SystemCall::kClose, 0, EIO);  // as some file systems tell it
-    EXPECT_EQ(SaveBytes("new", In("file")).outcome, SaveOutcome::kNotWritten);
+    reports.push_back(SaveBytes("new", In("file")));
+  }
+  for (const SaveReport& report : reports) {
+    EXPECT_EQ(report.outcome, SaveOutcome::kNotWritten);
+    EXPECT_NE(report.error, 0U);
   }
   EXPECT_EQ(Content("file"), "old");
-  EXPECT_EQ(Count(), 1U);
 }
 
 /// A process that saves in a loop is killed: the file is one of the two, every time.
 TEST_F(PosixSave, SurvivesAKill) {
   const auto first = MakeDomain(L"first");
-  const auto second = MakeDomain(std::wstring(5000, L'x'));
-  ASSERT_TRUE(Save(*first, In("first")) && Save(*second, In("second")) && Save(*first, In("file")));
+  const std::string second(5000, 'x');
+  ASSERT_TRUE(Save(*first, In("first")) && Save(*first, In("file")));
   std::size_t left_over = 0;
   for (int i = 0; i < 100; ++i) {
     const pid_t child = fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
       for (bool saved = true;;) {
-        saved = saved && Save(*second, In("file")) && Save(*first, In("file"));
+        saved = saved && SaveBytes(second, In("file")) && Save(*first, In("file"));
       }
     }
     usleep(static_cast<useconds_t>(1000 + i * 137));
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     const std::string content = Content("file");
-    ASSERT_TRUE(content == Content("first") || content == Content("second")) << i;
+    ASSERT_TRUE(content == Content("first") || content == second) << i;
     for (const auto& entry : fs::directory_iterator(In("."))) {
       if (entry.path().extension() == ".tmp") left_over += fs::remove(entry.path()) ? 1U : 0U;
     }

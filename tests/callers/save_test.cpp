@@ -5,38 +5,20 @@
 #include <string>
 #include <vector>
 
+#include "callers/folder.h"
 #include "support/capabilities.h"
-#include "support/files.h"
 
 namespace tolva::support {
 namespace {
 
 namespace fs = std::filesystem;
 using ClientConfig::IActiveDirectory;
-using test::TempFile;
-
-/// A folder of a test's own.
-class Folder {
- public:
-  Folder() { fs::create_directory(folder_.path()); }
-
-  fs::path operator/(const char* name) const { return folder_.path() / name; }
-  const fs::path& path() const { return folder_.path(); }
-
-  /// How many files are there.
-  std::size_t Count() const {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator(folder_.path()), fs::directory_iterator()));
-  }
-
- private:
-  TempFile folder_;
-};
+using test::Folder;
 
 TEST(Save, KeepsEveryDocument) {
   TOLVA_REQUIRE(WriterEscapes);
   const Folder folder;
-  const fs::path file = folder.path() / PathFromUtf8("Z\xC3\xBCrich-\xE6\x97\xA5\xE6\x9C\xAC.xml");
+  const fs::path file = folder.In(PathFromUtf8("Z\xC3\xBCrich-\xE6\x97\xA5\xE6\x9C\xAC.xml"));
   for (const DocumentKind* const kind : kDocuments) {
     const auto example = fs::path(TOLVA_DOCUMENTS) / (std::string(kind->name) + ".xml");
     const auto [root, loaded] = Load(*kind, example);
@@ -46,7 +28,7 @@ TEST(Save, KeepsEveryDocument) {
     EXPECT_EQ(saved.message, "");
     const auto [again, reloaded] = Load(*kind, file);
     ASSERT_TRUE(reloaded) << reloaded.message;
-    EXPECT_EQ(folder.Count(), 1U);
+    EXPECT_EQ(folder.Count(), 1);
   }
   EXPECT_EQ(PathToUtf8(file.filename()), "Z\xC3\xBCrich-\xE6\x97\xA5\xE6\x9C\xAC.xml");
 }
@@ -54,25 +36,25 @@ TEST(Save, KeepsEveryDocument) {
 /// An attribute that reads as present when it is absent is no difference.
 TEST(Save, AcceptsWhatReadingSupplies) {
   const Folder folder;
-  const fs::path file = folder / "ci.xml";
+  const fs::path file = folder.In("ci.xml");
   const auto root = MakeNode(&CIConfInterface::ICIClientConfiguration_CreateNewInstance);
   root->GetClientSetting()->SetEnableTelemetry(nullptr);
   const SaveReport report = Save(*root, file);
   EXPECT_TRUE(report) << report.message;
-  EXPECT_EQ(TempFile::ReadFile(file).find("EnableTelemetry"), std::string::npos);
+  EXPECT_EQ(test::TempFile::ReadFile(file).find("EnableTelemetry"), std::string::npos);
 }
 
 /// What cannot be written, or not be read back as it is, leaves the file as it was.
 void ExpectRefused(const DocumentKind& kind, const node::INode& root, SaveOutcome outcome,
                    const std::string& words) {
   const Folder folder;
-  const fs::path file = folder / "document.xml";
+  const fs::path file = folder.In("document.xml");
   ASSERT_TRUE(SaveBytes("old", file));
   const SaveReport report = Save(kind, root, file);
   EXPECT_EQ(report.outcome, outcome) << report.message;
   EXPECT_NE(report.message.find(words), std::string::npos) << report.message;
-  EXPECT_EQ(TempFile::ReadFile(file), "old");
-  EXPECT_EQ(folder.Count(), 1U);
+  EXPECT_EQ(test::TempFile::ReadFile(file), "old");
+  EXPECT_EQ(folder.Count(), 1);
 }
 
 TEST(Save, RefusesWhatWouldNotReadBack) {
@@ -120,33 +102,34 @@ TEST(Save, RefusesWhatHasNoWrittenForm) {
 
 TEST(SaveBytes, ReplacesWhatMayBeReplaced) {
   const Folder folder;
-  const fs::path file = folder / "file";
+  const fs::path file = folder.In("file");
   const std::string large(3'000'000, 'x');
   for (const std::string& bytes : {std::string(), large, std::string("a\0b", 3)}) {
     const SaveReport report = SaveBytes(bytes, file);
     EXPECT_TRUE(report) << report.message;
-    EXPECT_EQ(TempFile::ReadFile(file), bytes);
+    EXPECT_EQ(test::TempFile::ReadFile(file), bytes);
   }
   const auto refused = [&folder](const fs::path& path) {
-    const std::size_t count = folder.Count();
+    const std::ptrdiff_t count = folder.Count();
     const SaveReport report = SaveBytes("new", path);
     EXPECT_EQ(folder.Count(), count);
     EXPECT_TRUE(report.outcome != SaveOutcome::kTargetRefused || report.error != 0);
     return report.outcome == SaveOutcome::kTargetRefused ? report.message : "";
   };
-  EXPECT_EQ(refused(folder.path()), "The file cannot be replaced: it is a directory.");
-  EXPECT_EQ(refused(folder.path() / ""), "The file cannot be replaced: it is a directory.");
+  fs::create_directory(folder.In("sub"));
+  EXPECT_EQ(refused(folder.In("sub")), "The file cannot be replaced: it is a directory.");
+  EXPECT_EQ(refused(folder.In("sub/")), "The file cannot be replaced: it is a directory.");
   EXPECT_NE(refused(""), "");
   EXPECT_NE(refused(PathFromUtf8(std::string("a\0b", 3))), "");
-  EXPECT_FALSE(SaveBytes("new", folder / "none" / "file"));
+  EXPECT_FALSE(SaveBytes("new", folder.In("none/file")));
 
-  fs::create_hard_link(file, folder / "other");
+  fs::create_hard_link(file, folder.In("other"));
   EXPECT_EQ(refused(file), "The file cannot be replaced: it has further hard links.");
   SaveOptions options;
   options.break_hard_links = true;
   EXPECT_TRUE(SaveBytes("new", file, options));
-  EXPECT_EQ(TempFile::ReadFile(file), "new");
-  EXPECT_EQ(TempFile::ReadFile(folder / "other"), std::string("a\0b", 3));
+  EXPECT_EQ(test::TempFile::ReadFile(file), "new");
+  EXPECT_EQ(folder.Content("other"), std::string("a\0b", 3));
 }
 
 }  // namespace
