@@ -52,8 +52,6 @@ TEST(JsonForm, SaysWhatIsWrongWhere) {
             "x:1:2: '/' has no place for 'InstalConfig'; did you mean 'InstallConfig'?");
   EXPECT_EQ(FaultOf(R"({"InstallConfig": {}})", "ng"),
             "x:1:2: '/' has no place for 'InstallConfig'; its member is 'INGClientConfiguration'");
-  EXPECT_EQ(FaultOf(R"({"InstallConfig": {"Feture": {}}})"),
-            "x:1:20: '/InstallConfig' has no place for 'Feture'; did you mean 'Feature'?");
   EXPECT_EQ(in_feature(R"("ILPEnable": 1)"),
             "x:2:14: '/InstallConfig/Feature' needs 'DiscoveryEnable'");
   EXPECT_EQ(in_feature("\"ILPEnable\":\t2147483648"),

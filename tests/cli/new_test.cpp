@@ -2,27 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
-#include "cli/text.h"
-#include "support/nodes.h"
+#include "cli/load.h"
 
 namespace tolva::test {
 namespace {
 
 using namespace cli;
 
-/// Reads a document to its end and writes it again.
 std::string WrittenAgain(const Document& document, const std::string& text) {
-  const TempFile file(text);
-  const auto node = document.make();
-  const ManagerPtr reader = MakeReader();
-  Diagnostics diagnostics;
-  EXPECT_EQ(reader->OpenFile(file.Wide().c_str()), 0);
-  EXPECT_EQ(node->ReadFromXMLMgr(reader.get()), 0);
-  EXPECT_EQ(tolvaReadToEnd(reader.get()), 0);
-  EXPECT_EQ(diagnostics.Take(), Texts{});
-  return WriteFile(*node);
+  return WrittenForm(document, *LoadBytes(text, "new").root);
 }
 
 std::string WithoutComments(std::string text) {

@@ -39,13 +39,10 @@ TEST(Paths, NameStepsAndWhichItemIsMeant) {
 }
 
 TEST(Places, ThatAreNotThereHaveNeighbours) {
-  EXPECT_EQ(FaultOf("Polcy/Log"), "there is no document 'Polcy'; did you mean 'policy'?");
   EXPECT_EQ(FaultOf("MaxLogSise"),
             "there is no document 'MaxLogSise'; did you mean 'policy/Log/MaxLogSize'?");
   EXPECT_EQ(FaultOf("policy/Log/MaxLogSise"),
             "'policy/Log' has no 'MaxLogSise'; did you mean 'MaxLogSize'?");
-  EXPECT_EQ(FaultOf("policy/Location"),
-            "'policy' has no 'Location'; did you mean 'policy/LocationArray/Location'?");
   EXPECT_EQ(FaultOf("policy/Log/\x1B"), "'policy/Log' has no '\\x1B'; it has MaxLogSize");
   EXPECT_EQ(FaultOf("policy/SN/x"), "'policy/SN' is an attribute: nothing is in it");
   EXPECT_EQ(FaultOf("message-catalogue/Message/Content/x"),
