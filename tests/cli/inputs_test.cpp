@@ -4,9 +4,7 @@
 
 #include <fstream>
 
-#include "cli/session.h"
-#include "cli/text.h"
-#include "support/files.h"
+#include "cli/run_on.h"
 
 namespace tolva::test {
 namespace {
@@ -40,16 +38,6 @@ class Inputs : public testing::Test {
     return names;
   }
 
-  static std::string ReadAll(const Input& input) {
-    const auto stream = OpenInput(input);
-    std::string text(100, '\0');
-    ULONG size = 0;
-    const HRESULT result = stream->Read(text.data(), static_cast<ULONG>(text.size()), &size);
-    if (FAILED(result)) return ReasonOf(result);
-    text.resize(size);
-    return text;
-  }
-
   const TempFile root_;
   std::vector<std::string> reports_;
 };
@@ -80,15 +68,9 @@ TEST_F(Inputs, LeadNowhereInCircles) {
   EXPECT_THROW(OpenInput({.name = In("loop.xml")}), Trouble);
 }
 
-TEST_F(Inputs, AreOpened) {
-  EXPECT_EQ(ReadAll({.name = In("b/deep/d.xml")}), "b/deep/d.xml");
-  try {
-    OpenInput({.name = In("no\u009B")});
-    ADD_FAILURE() << "a file that is not there";
-  } catch (const Trouble& trouble) {
-    EXPECT_EQ(std::string(trouble.what()),
-              "'" + In("no\\xC2\\x9B") + "' cannot be read: the file does not exist");
-  }
+TEST_F(Inputs, ThatAreNotThere) {
+  EXPECT_EQ(RunTool({"get", In("no\u009B"), "Name"}).err,
+            "tolva: '" + In("no\\xC2\\x9B") + "' cannot be read: the file does not exist\n");
 }
 
 }  // namespace
