@@ -1,8 +1,10 @@
 // The tool's view of the tables, and the sentences of the headers.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
+#include "cli/places.h"
 #include "cli/tables.h"
 #include "cli/text.h"
 #include "cli/wording.h"
@@ -12,17 +14,14 @@ namespace {
 
 using namespace cli;
 
-/// The interface of an element's class, by the comment that names the element.
-std::vector<const ClassSentence*> ClassesOf(const Document& document, const Element& element) {
-  const std::string space(document.space);
-  std::vector<const ClassSentence*> found;
-  for (const std::string& name : {space, std::string("ClientConfig")}) {
-    for (const ClassSentence& one : AllClasses()) {
-      const bool is_in_space = one.interface_name.starts_with(name + "::");
-      if (found.empty() && is_in_space && one.element == element.name) found.push_back(&one);
-    }
+/// A class of a namespace for an element, by the comment that names the element; null: there is
+/// none.
+const ClassSentence* ClassOf(std::string_view space, const Element& element) {
+  for (const ClassSentence& one : AllClasses()) {
+    const bool is_in_space = one.interface_name.starts_with(std::string(space) + "::");
+    if (is_in_space && one.element == element.name) return &one;
   }
-  return found;
+  return nullptr;
 }
 
 /// Every row has a comment, which says the same as the table; its sentence may be empty.
@@ -33,20 +32,18 @@ TEST(Sentences, AgreeWithTheTables) {
     for (const auto& element : document.elements) {
       SCOPED_TRACE(std::string(document.name) + " " + element->id);
       EXPECT_FALSE(element->sentence.empty());
-      const auto classes = ClassesOf(document, *element);
-      ASSERT_EQ(classes.size(), 1U);
-      const auto check = [&](const std::string& name, Occurrence occurrence,
-                             std::string_view sentence) {
-        const RowSentence* const row = FindRow(*classes[0], name);
-        ASSERT_NE(row, nullptr) << name;
-        EXPECT_EQ(row->occurrence, occurrence) << name;
+      const ClassSentence* sentences_of = ClassOf(document.space, *element);
+      if (sentences_of == nullptr) sentences_of = ClassOf("ClientConfig", *element);
+      ASSERT_NE(sentences_of, nullptr);
+      const auto check = [&](const auto& one) {
+        const RowSentence* const row = FindRow(*sentences_of, one.name);
+        ASSERT_NE(row, nullptr) << one.name;
+        EXPECT_EQ(row->occurrence, one.occurrence) << one.name;
         ++rows;
-        if (!sentence.empty()) ++sentences;
+        sentences += one.sentence.empty() ? 0U : 1U;
       };
-      for (const Attribute& one : element->attributes) {
-        check(one.name, one.occurrence, one.sentence);
-      }
-      for (const Child& one : element->children) check(one.name, one.occurrence, one.sentence);
+      std::ranges::for_each(element->attributes, check);
+      std::ranges::for_each(element->children, check);
     }
   }
   EXPECT_GT(sentences * 10, rows * 9);
@@ -80,25 +77,14 @@ TEST(Tables, SayWhatElementsMean) {
   EXPECT_TRUE(ids.contains("ExcludeDomains.ExcludeDomain"));
   EXPECT_TRUE(ids.contains("ExcludeJSInjectionDomains.ExcludeDomain"));
 
-  const auto element = [](const char* document, std::string_view id) -> const Element& {
-    for (const auto& one : FindDocument(document)->elements) {
-      if (one->id == id) return *one;
-    }
-    throw std::runtime_error("no such element");
-  };
-  const Element& proxy = element("policy", "ILPInlineProxy");
-  EXPECT_EQ(proxy.FindAttribute("Enable")->when_absent, "1");
-  EXPECT_EQ(element("ci", "ClientSetting").FindAttribute("EnableTelemetry")->when_absent, "0");
-  const Attribute& enabled = *element("policy", "DefaultDomain").FindAttribute("Enabled");
-  EXPECT_EQ(enabled.occurrence, Occurrence::kOptional);
-  EXPECT_EQ(enabled.value.greatest, 2147483647U);
-  EXPECT_TRUE(element("policy", "FileFilter").FindAttribute("MinSize")->value.IsLong());
-  EXPECT_TRUE(element("policy", "PrimaryKey").FindAttribute("Key")->is_secret);
-  EXPECT_EQ(NamesOfItem(element("policy", "LocalProxy")), (std::vector<std::string>{"IP", "Port"}));
-  EXPECT_EQ(NamesOfItem(element("analysis-details", "violation")),
+  const std::string proxy = "policy/LocationArray/Location/ILPProtection/ILPInlineProxy/";
+  const Place size = FindPlace("policy/Discovery/DiscoveryJobs/DiscoveryJob/FileFilter/MinSize");
+  EXPECT_TRUE(size.attribute->value.IsLong());
+  EXPECT_EQ(FindPlace(proxy + "Enable").attribute->when_absent, "1");
+  EXPECT_EQ(NamesOfItem(*FindPlace(proxy + "LocalProxies/LocalProxy").element),
+            (std::vector<std::string>{"IP", "Port"}));
+  EXPECT_EQ(NamesOfItem(*FindPlace("analysis-details/violations/violation").element),
             (std::vector<std::string>{"name"}));
-  EXPECT_FALSE(element("analysis-details", "customDisplayText").is_text_required);
-  EXPECT_TRUE(element("analysis-details", "name").is_text_required);
 }
 
 /// Items of a list are told apart by something, but for lists of lists and of what has no name.

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "cli/run.h"
-#include "support/files.h"
+#include "cli/layout.h"
+#include "cli/run_on.h"
 
 namespace tolva::test {
 namespace {
@@ -31,36 +31,31 @@ TEST(Text, IsPrintedWithoutWhatTerminalsObey) {
 
 /// Whatever verb prints it. Files get what there is.
 TEST(Text, OfDocumentsIsShownOnTerminals) {
-  const std::string turn = ToUtf8(std::wstring(1, wchar_t{0x202E}));
-  const std::string document = "<ActiveDirectory><DefaultDomain Enabled=\"1\" Name=\"\u009B" +
-                               turn + "\u00FC\"/></ActiveDirectory>";
-  std::string wide = "\xFF\xFE";
-  for (const wchar_t c : ToWide(document)) {
-    wide += {static_cast<char>(c & 0xFF), static_cast<char>(c >> 8)};
-  }
-  for (const std::string& bytes : {document, wide}) {
-    const TempFile file(bytes);
-    const std::string name = NameOf(file.path());
-    const TempFile json(RunTool({"convert", name, "--to", "json"}).out);
-    const std::string json_name = NameOf(json.path());
-    const std::vector<std::string> path = {"get", name, "DefaultDomain/Name"};
-    const std::vector<std::string> set = {"set", name, "DefaultDomain/Enabled=0"};
-    for (const std::vector<std::string>& verb : {path,
-                                                 set,
-                                                 {"get", name, "DefaultDomain", "--format", "json"},
-                                                 {"fmt", name, "-o", "-"},
-                                                 {"convert", name, "--to", "json"},
-                                                 {"convert", json_name, "--to", "xml"}}) {
+  const std::string turn = "\xE2\x80\xAE";  // U+202E
+  const std::string document =
+      "<?xml version='1.0' encoding='UTF-8'?><ActiveDirectory><DefaultDomain Enabled=\"1\" "
+      "Name=\"\u009B" +
+      turn + "\u00FC\"/></ActiveDirectory>";
+  for (const unsigned seed : {0U, 2U}) {  // UTF-8, UTF-16
+    const TempFile file(FormEncoder(FormOfSeed(seed)).Encode(document));
+    const TempFile json(RunOn(file, "convert", {"--to", "json"}).out);
+    const auto show = [&](const TempFile& input, std::vector<std::string> arguments) {
+      arguments.insert(arguments.begin() + 1, NameOf(input.path()));
       TerminalOutput out;
       TextOutput err;
-      EXPECT_EQ(cli::Run(verb, out, err), 0) << err.text();
-      const std::string& shown = out.text();
-      EXPECT_EQ(shown.find("\u009B"), std::string::npos) << verb[0];
-      EXPECT_EQ(shown.find(turn), std::string::npos) << verb[0];
-      EXPECT_EQ(shown.find('\0'), std::string::npos) << verb[0];
-      EXPECT_NE(shown.find("\u00FC"), std::string::npos) << verb[0];
-    }
-    EXPECT_EQ(RunTool(path).out, "\u009B" + turn + "\u00FC\n");
+      EXPECT_EQ(cli::Run(arguments, out, err), 0) << err.text();
+      for (const std::string& raw : {std::string("\u009B"), turn, std::string(1, '\0')}) {
+        EXPECT_EQ(out.text().find(raw), std::string::npos) << arguments[0];
+      }
+      EXPECT_NE(out.text().find("\u00FC"), std::string::npos) << arguments[0];
+    };
+    show(file, {"get", "DefaultDomain/Name"});
+    show(file, {"get", "DefaultDomain", "--format", "json"});
+    show(file, {"set", "DefaultDomain/Enabled=0"});
+    show(file, {"fmt", "-o", "-"});
+    show(file, {"convert", "--to", "json"});
+    show(json, {"convert", "--to", "xml"});
+    EXPECT_EQ(RunOn(file, "get", {"DefaultDomain/Name"}).out, "\u009B" + turn + "\u00FC\n");
   }
 }
 
