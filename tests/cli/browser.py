@@ -5,6 +5,7 @@ import json
 import pathlib
 import re
 import subprocess
+import tempfile
 import urllib.request
 
 
@@ -74,23 +75,27 @@ class Browser:
             raise AssertionError(what)
 
 
-def try_page(file, use, folder=None):
-    """Opens a page in wide and narrow windows, light and dark. `use` gets the first of them; the folder,
-    if any, gets screenshots."""
-    for name, width, dark in (('wide', 1400, False), ('narrow', 500, False), ('dark', 1000, True)):
-        with Browser(width, 1000, dark) as browser:
-            browser.open(file.as_uri())
-            if name == 'wide':
-                use(browser)
-            unfold = "document.getElementById('unfold')"
-            browser.run(f"if ({unfold}) {unfold}.click()")
-            browser.expect('it is no wider than the window',
-                           'return document.documentElement.scrollWidth <= innerWidth')
-            browser.expect('it follows the system\'s colours',
-                           "const ground = getComputedStyle(document.body).backgroundColor;"
-                           "return (ground.match(/\\d+/)[0] < 128) === arguments[0]", dark)
-            problems = browser.problems()
-            if problems:
-                raise AssertionError(problems)
-            if folder:
-                browser.screenshot(pathlib.Path(folder) / f'{name}.png')
+def try_page(command, status, use, folder=None):
+    """Opens the page that a command writes in wide and narrow windows, light and
+    dark. `use` gets the first of them; the folder, if any, gets screenshots."""
+    with tempfile.TemporaryDirectory() as temporary:
+        file = pathlib.Path(temporary) / 'page.html'
+        made = subprocess.run([*command, '-o', file], check=False)
+        if made.returncode != status:
+            raise AssertionError(made.returncode)
+        for name, width, dark in (('wide', 1400, False), ('narrow', 500, False), ('dark', 1000, True)):
+            with Browser(width, 1000, dark) as browser:
+                browser.open(file.as_uri())
+                if name == 'wide':
+                    use(browser)
+                browser.run("document.getElementById('unfold')?.click()")
+                browser.expect('it is no wider than the window',
+                               'return document.documentElement.scrollWidth <= innerWidth')
+                browser.expect('it follows the system\'s colours',
+                               "const ground = getComputedStyle(document.body).backgroundColor;"
+                               "return (ground.match(/\\d+/)[0] < 128) === arguments[0]", dark)
+                problems = browser.problems()
+                if problems:
+                    raise AssertionError(problems)
+                if folder:
+                    browser.screenshot(pathlib.Path(folder) / f'{name}.png')

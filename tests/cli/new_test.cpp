@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <regex>
+
 #include "cli/load.h"
 
 namespace tolva::test {
@@ -13,14 +15,6 @@ std::string WrittenAgain(const Document& document, const std::string& text) {
   return WrittenForm(document, *LoadBytes(text, "new").root);
 }
 
-std::string WithoutComments(std::string text) {
-  for (std::size_t start = 0; (start = text.find("<!--")) != std::string::npos;) {
-    const std::size_t line = text.rfind('\n', start) + 1;
-    text.erase(line, text.find("-->\n", start) + 4 - line);
-  }
-  return text;
-}
-
 TEST(NewDocument, IsInTheFormThatTheLibraryWrites) {
   for (const Document& document : Documents()) {
     SCOPED_TRACE(std::string(document.name));
@@ -28,7 +22,8 @@ TEST(NewDocument, IsInTheFormThatTheLibraryWrites) {
     EXPECT_EQ(WrittenAgain(document, least), least);
     EXPECT_EQ(least.find("<!--"), std::string::npos);
     const std::string full = NewDocument(document, NewContent::kEverything);
-    EXPECT_EQ(WrittenAgain(document, full), WithoutComments(full));
+    static const std::regex kComment(" *<!--[^>]*-->\n");
+    EXPECT_EQ(WrittenAgain(document, full), std::regex_replace(full, kComment, ""));
   }
 }
 

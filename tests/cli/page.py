@@ -3,10 +3,7 @@
   page.py <tolva> [folder for screenshots]
 """
 
-import pathlib
-import subprocess
 import sys
-import tempfile
 
 from browser import try_page
 
@@ -70,14 +67,6 @@ def use(browser):
     browser.expect('all folds', "return !document.querySelector('.element[open]')")
 
 
-def main():
-    tolva, *folder = sys.argv[1:]
-    with tempfile.TemporaryDirectory() as temporary:
-        file = pathlib.Path(temporary) / 'page.html'
-        subprocess.run([tolva, 'schema', 'html', '-o', file], check=True)
-        try_page(file, use, *folder)
-    return 0
-
-
 if __name__ == '__main__':
-    sys.exit(main())
+    tolva, *screenshots = sys.argv[1:]
+    try_page([tolva, 'schema', 'html'], 0, use, *screenshots)
