@@ -141,13 +141,6 @@ INSTANTIATE_TEST_SUITE_P(All, CheckedExample,
 
 std::string Domain(const std::string& inside) { return "<ActiveDirectory>\n" + inside; }
 
-std::string WholeDomain(const std::string& inside) { return Domain(inside) + "</ActiveDirectory>"; }
-
-std::string Message(const std::string& inside) {
-  return "<EndPointMessage SchemaVersion='1'><Message ID='1'>\n" + inside +
-         "</Message></EndPointMessage>";
-}
-
 /// Documents with a bar before what the finding is about.
 const std::pair<Code, std::string> kPlaces[] = {
     {Code::kNotWellFormed, Domain("<DefaultDomain Enabled='1' Name='é'/>|</b>")},
@@ -166,22 +159,22 @@ const std::pair<Code, std::string> kPlaces[] = {
     {Code::kNotWellFormed, "<!-- é --|>"},
     {Code::kDtd, "<!-- é -->|<!DOCTYPE ActiveDirectory>"},
     {Code::kUnknownRoot, "<!-- é -->|<ActiveDirectroy/>"},
-    {Code::kMissingAttribute, WholeDomain("<!-- é -->|<DefaultDomain Enabled='1'/>")},
-    {Code::kMissingChild, "<!-- é -->|" + WholeDomain("<!-- x -->")},
-    {Code::kBadNumber, WholeDomain("<DefaultDomain Name='é' Enabled='|x1'/>")},
-    {Code::kNumberRange, WholeDomain("<DefaultDomain Name='é' Enabled='|2147483648'/>")},
-    {Code::kUnknownAttribute, WholeDomain("<DefaultDomain Name='é' Enabled='1' |name='x'/>")},
-    {Code::kUnknownElement, WholeDomain("<DefaultDomain Name='é'/>|<b><c/>x</b>")},
-    {Code::kDuplicateChild, WholeDomain("<DefaultDomain Name='é'/>\n\n|<DefaultDomain Name='é'/>")},
-    {Code::kTextIgnored, WholeDomain("<DefaultDomain Name='é' Enabled='1'/>\n\n |éé")},
+    {Code::kMissingAttribute, InDomain("<!-- é -->|<DefaultDomain Enabled='1'/>")},
+    {Code::kMissingChild, "<!-- é -->|" + InDomain("<!-- x -->")},
+    {Code::kBadNumber, InDomain("<DefaultDomain Name='é' Enabled='|x1'/>")},
+    {Code::kNumberRange, InDomain("<DefaultDomain Name='é' Enabled='|2147483648'/>")},
+    {Code::kUnknownAttribute, InDomain("<DefaultDomain Name='é' Enabled='1' |name='x'/>")},
+    {Code::kUnknownElement, InDomain("<DefaultDomain Name='é'/>|<b><c/>x</b>")},
+    {Code::kDuplicateChild, InDomain("<DefaultDomain Name='é'/>\n\n|<DefaultDomain Name='é'/>")},
+    {Code::kTextIgnored, InDomain("<DefaultDomain Name='é' Enabled='1'/>\n\n |éé")},
     {Code::kBadEnum,
      "<analysisDetails transactionID='é' version=''><additionalData><destinations>"
      "<addresses>\n<address value='é' type='|x'/></addresses></destinations>"
      "<extractedContents/></additionalData></analysisDetails>"},
-    {Code::kMissingContent, Message("<Content>é</Content>|<Description> </Description>")},
-    {Code::kContentCut, Message("<Content>é|<!-- x -->y</Content><Description>x</Description>")},
-    {Code::kContentCut, Message("<Content>é</Content><Description>é|<b>x</b></Description>")},
-    {Code::kNotReadBack, Message("<Content>é</Content>|<Description><![CDATA[]]></Description>")},
+    {Code::kMissingContent, InMessage("<Content>é</Content>|<Description> </Description>")},
+    {Code::kContentCut, InMessage("<Content>é|<!-- x -->y</Content><Description>x</Description>")},
+    {Code::kContentCut, InMessage("<Content>é</Content><Description>é|<b>x</b></Description>")},
+    {Code::kNotReadBack, InMessage("<Content>é</Content>|<Description><![CDATA[]]></Description>")},
 };
 
 /// In each encoding, with either line end, and whatever blocks the document comes in.

@@ -97,11 +97,7 @@ TEST(Convert, SaysWhereJsonIsWrong) {
 }
 
 TEST(Convert, RefusesWhatXmlCannotHold) {
-  const std::string xml =
-      "<analysisDetails transactionID='x' version=''><violations maxMatches='1'><violation>"
-      "<name>n</name><severity/><numOfMatches>1</numOfMatches><detectedValues/></violation>"
-      "</violations><additionalData><destinations/><extractedContents/></additionalData>"
-      "</analysisDetails>";
+  const std::string xml = InViolation("<severity/>");
   const std::string json = Convert("json", xml, {"--drop"}).out;
   const Outcome refused = Convert("xml", json);
   EXPECT_EQ(refused.status, 2);

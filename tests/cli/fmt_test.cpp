@@ -76,43 +76,28 @@ TEST(Fmt, ChecksWhatItWrites) {
 const std::string kDomain = "<DefaultDomain Name='x' Enabled='1'/>";
 
 TEST(Fmt, RefusesToLoseAnything) {
-  const auto root = [](const std::string& inside, const std::string& attributes = "") {
-    return "<ActiveDirectory" + attributes + ">\n" + inside + "</ActiveDirectory>";
-  };
-  const auto message = [](const std::string& inside) {
-    return "<EndPointMessage SchemaVersion='1'><Message ID='1'>\n" + inside +
-           "</Message></EndPointMessage>";
-  };
-  const auto violation = [](const std::string& inside) {
-    return "<analysisDetails transactionID='x' version=''><violations maxMatches='1'><violation>\n"
-           "<name>n</name>" +
-           inside +
-           "<numOfMatches>1</numOfMatches><detectedValues/></violation></violations>"
-           "<additionalData><destinations/><extractedContents/></additionalData>"
-           "</analysisDetails>";
-  };
   const std::pair<std::string, const char*> losses[] = {
-      {"|<!-- é -->\n" + root(kDomain), "this comment would be lost"},
-      {root("é" + kDomain).insert(18, "|"), "text in 'ActiveDirectory' is ignored"},
-      {root(kDomain + "|<!-- é -->"), "this comment would be lost"},
-      {root(kDomain) + "\n|<!---->", "this comment would be lost"},
-      {root(kDomain + "\n |<?p é?>"), "this processing instruction would be lost"},
-      {root(kDomain, " |xmlns='é'"), "the attribute 'xmlns' would be lost"},
-      {root(kDomain, " |xmlns:xsi='x' xsi:y='z'"), "the attribute 'xmlns:xsi' would be lost"},
-      {root(kDomain, " |xml:lang='é'"), "attribute 'xml:lang' of 'ActiveDirectory'"},
-      {root("<|xml:DefaultDomain Name='x' Enabled='1'/>"), "the prefix of 'xml:DefaultDomain'"},
-      {root("<DefaultDomain Name='é' |name='' Enabled='1'/>"), "did you mean 'Name'?"},
-      {root(kDomain + "|<Unknown><a/></Unknown>"), "element 'Unknown' of 'ActiveDirectory'"},
-      {root(kDomain + "\n|" + kDomain), "has another 'DefaultDomain'"},
-      {root("<DefaultDomain Name='é' Enabled='|4294967297'/>"), "is read as 2147483647"},
-      {message("<Content>é|<!-- x -->y</Content><Description>d</Description>"),
+      {"|<!-- é -->\n" + InDomain(kDomain), "this comment would be lost"},
+      {InDomain("é" + kDomain).insert(18, "|"), "text in 'ActiveDirectory' is ignored"},
+      {InDomain(kDomain + "|<!-- é -->"), "this comment would be lost"},
+      {InDomain(kDomain) + "\n|<!---->", "this comment would be lost"},
+      {InDomain(kDomain + "\n |<?p é?>"), "this processing instruction would be lost"},
+      {InDomain(kDomain, " |xmlns='é'"), "the attribute 'xmlns' would be lost"},
+      {InDomain(kDomain, " |xmlns:xsi='x' xsi:y='z'"), "the attribute 'xmlns:xsi' would be lost"},
+      {InDomain(kDomain, " |xml:lang='é'"), "attribute 'xml:lang' of 'ActiveDirectory'"},
+      {InDomain("<|xml:DefaultDomain Name='x' Enabled='1'/>"), "the prefix of 'xml:DefaultDomain'"},
+      {InDomain("<DefaultDomain Name='é' |name='' Enabled='1'/>"), "did you mean 'Name'?"},
+      {InDomain(kDomain + "|<Unknown><a/></Unknown>"), "element 'Unknown' of 'ActiveDirectory'"},
+      {InDomain(kDomain + "\n|" + kDomain), "has another 'DefaultDomain'"},
+      {InDomain("<DefaultDomain Name='é' Enabled='|4294967297'/>"), "is read as 2147483647"},
+      {InMessage("<Content>é|<!-- x -->y</Content><Description>d</Description>"),
        "is read only up to here"},
-      {message("<Content>é|<![CDATA[ ]]></Content><Description>d</Description>"), "this space"},
-      {message("|<Content><![CDATA[]]></Content><Description>d</Description>"),
+      {InMessage("<Content>é|<![CDATA[ ]]></Content><Description>d</Description>"), "this space"},
+      {InMessage("|<Content><![CDATA[]]></Content><Description>d</Description>"),
        "the empty text of"},
-      {violation("|<policyID/>"), "the empty element 'policyID' would be lost"},
-      {violation("|<policyID><![CDATA[]]></policyID>"), "the empty text of"},
-      {violation("<severity>é|<b/></severity>"), "element 'b'"},
+      {InViolation("|<policyID/>"), "the empty element 'policyID' would be lost"},
+      {InViolation("|<policyID><![CDATA[]]></policyID>"), "the empty text of"},
+      {InViolation("<severity>é|<b/></severity>"), "element 'b'"},
   };
   for (const auto& [marked, what] : losses) {
     SCOPED_TRACE(marked);

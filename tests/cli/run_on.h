@@ -23,6 +23,25 @@ inline std::string Replaced(std::string text, const std::string& what, const std
   return text.replace(text.find(what), what.size(), by);
 }
 
+// Documents around what a test is about.
+
+inline std::string InDomain(const std::string& inside, const std::string& attributes = "") {
+  return "<ActiveDirectory" + attributes + ">\n" + inside + "</ActiveDirectory>";
+}
+
+inline std::string InMessage(const std::string& inside) {
+  return "<EndPointMessage SchemaVersion='1'><Message ID='1'>\n" + inside +
+         "</Message></EndPointMessage>";
+}
+
+inline std::string InViolation(const std::string& inside) {
+  return "<analysisDetails transactionID='x' version=''><violations maxMatches='1'><violation>\n"
+         "<name>n</name>" +
+         inside +
+         "<numOfMatches>1</numOfMatches><detectedValues/></violation></violations>"
+         "<additionalData><destinations/><extractedContents/></additionalData></analysisDetails>";
+}
+
 /// ":line:column: ", as the tool has it, of what is at the offset.
 inline std::string PlaceOf(std::string_view text, std::size_t offset) {
   const std::string_view before = text.substr(0, offset);
