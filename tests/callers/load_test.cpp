@@ -5,6 +5,7 @@
 #include <atomic>
 #include <string>
 #include <thread>
+#include <tuple>
 
 #include "support/capabilities.h"
 #include "support/files.h"
@@ -20,25 +21,17 @@ const std::wstring kDomain =
     L"<ActiveDirectory><DefaultDomain Name='corp.example'/></ActiveDirectory>";
 const std::filesystem::path kDocumentsFolder = TOLVA_DOCUMENTS;
 
-/// What came of an Active Directory document.
-struct Account {
-  LoadOutcome outcome;
-  ConfigResult result;
-  DWORD error;
-  std::string message;
-};
+/// What came of an Active Directory document: outcome, result, error, message.
+using Account = std::tuple<LoadOutcome, ConfigResult, DWORD, std::string>;
 
 void Expect(const Loaded<IActiveDirectory>& loaded, const Account& account) {
   const LoadReport& report = loaded.report;
-  EXPECT_EQ(report.outcome, account.outcome) << account.message;
-  EXPECT_EQ(report.result, account.result) << account.message;
-  EXPECT_EQ(report.error, account.error) << account.message;
-  EXPECT_EQ(report.message, account.message);
-  EXPECT_EQ(!report, account.outcome != LoadOutcome::kLoaded);
-  const bool has_root =
-      account.outcome == LoadOutcome::kLoaded || account.outcome == LoadOutcome::kDamaged;
-  EXPECT_EQ(loaded.root != nullptr, has_root) << account.message;
-  EXPECT_TRUE(report.outcome != LoadOutcome::kRefused || !report.diagnostics.empty());
+  EXPECT_EQ(Account(report.outcome, report.result, report.error, report.message), account);
+  const LoadOutcome outcome = report.outcome;
+  EXPECT_EQ(!report, outcome != LoadOutcome::kLoaded);
+  const bool has_root = outcome == LoadOutcome::kLoaded || outcome == LoadOutcome::kDamaged;
+  EXPECT_EQ(loaded.root != nullptr, has_root) << report.message;
+  EXPECT_TRUE(outcome != LoadOutcome::kRefused || !report.diagnostics.empty());
 }
 
 void ExpectBytes(const std::string& bytes, const Account& account) {

@@ -1,6 +1,5 @@
 """A headless Chromium, driven through chromedriver."""
 
-import base64
 import json
 import pathlib
 import re
@@ -66,18 +65,14 @@ class Browser:
         """What the browser has complained about since the last call."""
         return [entry['message'] for entry in self._call('POST', '/se/log', {'type': 'browser'})]
 
-    def screenshot(self, file):
-        with open(file, 'wb') as image:
-            image.write(base64.b64decode(self._call('GET', '/screenshot')))
-
     def expect(self, what, script, *arguments):
         if self.run(script, *arguments) is not True:
             raise AssertionError(what)
 
 
-def try_page(command, status, use, folder=None):
+def try_page(command, status, use):
     """Opens the page that a command writes in wide and narrow windows, light and
-    dark. `use` gets the first of them; the folder, if any, gets screenshots."""
+    dark. `use` gets the first of them."""
     with tempfile.TemporaryDirectory() as temporary:
         file = pathlib.Path(temporary) / 'page.html'
         made = subprocess.run([*command, '-o', file], check=False)
@@ -97,5 +92,3 @@ def try_page(command, status, use, folder=None):
                 problems = browser.problems()
                 if problems:
                     raise AssertionError(problems)
-                if folder:
-                    browser.screenshot(pathlib.Path(folder) / f'{name}.png')

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 """Opens the page that `tolva diff` makes in a headless Chromium and uses it:
-  diff_page.py <tolva> <example policy> [folder for screenshots]
+  diff_page.py <tolva> <example policy>
 """
 
 import pathlib
@@ -70,11 +70,11 @@ def use(browser):
 
 
 def main():
-    tolva, example, *folder = sys.argv[1:]
+    tolva, example = sys.argv[1:]
     with tempfile.TemporaryDirectory() as temporary:
         new = pathlib.Path(temporary) / 'new.xml'
         new.write_text(edited(pathlib.Path(example).read_text(encoding='utf-8')), encoding='utf-8')
-        try_page([tolva, 'diff', '--format', 'html', example, new], 1, use, *folder)
+        try_page([tolva, 'diff', '--format', 'html', example, new], 1, use)
 
 
 if __name__ == '__main__':

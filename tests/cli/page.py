@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 """Opens the HTML page of a tool in a headless Chromium and uses it:
-  page.py <tolva> [folder for screenshots]
+  page.py <tolva>
 """
 
 import sys
@@ -68,5 +68,4 @@ def use(browser):
 
 
 if __name__ == '__main__':
-    tolva, *screenshots = sys.argv[1:]
-    try_page([tolva, 'schema', 'html'], 0, use, *screenshots)
+    try_page([sys.argv[1], 'schema', 'html'], 0, use)
