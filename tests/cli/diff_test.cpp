@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <random>
 #include <set>
+#include <sstream>
 
 #include "cli/align.h"
 #include "cli/json.h"
@@ -232,13 +234,16 @@ std::string Told(const std::string& from, const std::string& to) {
   return text.substr(0, text.find_last_of('\n', text.size() - 2) + 1);
 }
 
-/// A catalogue with messages "ID:Description", and localised ones.
-std::string Catalogue(const std::vector<std::string>& messages, const std::string& localised = "") {
+/// A catalogue with messages, each its ID and ":Description", and localised ones.
+std::string Catalogue(const std::string& messages, const std::string& localised = "") {
   std::string text = "<EndPointMessage SchemaVersion='1'>";
-  for (const std::string& message : messages) {
-    const std::size_t colon = message.find(':');
-    text += "<Message ID='" + message.substr(0, colon) + "'><Content>c</Content><Description>" +
-            message.substr(colon + 1) + "</Description></Message>";
+  std::istringstream words(messages);
+  std::string id;
+  std::string description;
+  while (std::getline(words, id, ':') && words >> description) {
+    words >> std::ws;
+    text += "<Message ID='" + id + "'><Content>c</Content><Description>" + description +
+            "</Description></Message>";
   }
   return text + localised + "</EndPointMessage>";
 }
@@ -252,27 +257,18 @@ TEST(Diff, TellsOneEditAsOneChange) {
   EXPECT_EQ(Told(kPolicy, Replaced(kPolicy, " SerialNumber=\"4C530001261215105\"", "")),
             "- " + device + "[DeviceName=\"Company stick\"]/SerialNumber: \"4C530001261215105\"\n");
 
-  using Items = std::vector<std::string>;
-  const std::tuple<Items, Items, std::string> cases[] = {
-      {{"1:a", "2:b", "3:c", "4:d"},
-       {"2:b", "3:c", "4:d", "1:a"},
-       "> Message[ID=\"1\"]: from place 1 to 4\n"},
-      {{"1:a", "2:b", "3:c", "4:d"},
-       {"1:a", "2:b", "9:c", "4:d"},
-       "~ Message[ID=\"3\"]/ID: 3 -> 9\n"},  // the same, under another name
-      {{"1:a", "2:b", "3:c", "4:d"},
-       {"2:b", "3:c", "4:d", "9:a"},
+  const std::array<const char*, 3> cases[] = {
+      {"1:a 2:b 3:c 4:d", "2:b 3:c 4:d 1:a", "> Message[ID=\"1\"]: from place 1 to 4\n"},
+      // The same, under another name.
+      {"1:a 2:b 3:c 4:d", "1:a 2:b 9:c 4:d", "~ Message[ID=\"3\"]/ID: 3 -> 9\n"},
+      {"1:a 2:b 3:c 4:d", "2:b 3:c 4:d 9:a",
        "- Message[ID=\"1\"]: 2 elements in it\n+ Message[ID=\"9\"]: 2 elements in it\n"},
-      {{"1:a", "2:b", "3:c", "4:d"},
-       {"4:e", "1:a", "2:b", "3:c"},
+      {"1:a 2:b 3:c 4:d", "4:e 1:a 2:b 3:c",
        "> Message[ID=\"4\"]: from place 4 to 1\n"
        "~ Message[ID=\"4\"]/Description: \"d\" -> \"e\"\n"},
       // Names that several items share.
-      {{"1:a", "1:a", "1:b", "1:a", "2:a"},
-       {"1:a", "1:a", "1:x", "1:a", "2:a"},
-       "~ Message[3]/Description: \"b\" -> \"x\"\n"},
-      {{"1:a", "1:a", "1:b", "1:a", "2:a"},
-       {"1:n", "1:a", "1:a", "1:b", "1:a", "2:a"},
+      {"1:a 1:a 1:b 1:a 2:a", "1:a 1:a 1:x 1:a 2:a", "~ Message[3]/Description: \"b\" -> \"x\"\n"},
+      {"1:a 1:a 1:b 1:a 2:a", "1:n 1:a 1:a 1:b 1:a 2:a",
        "+ Message[1]: ID=\"1\", 2 elements in it\n"},
   };
   for (const auto& [from, to, told] : cases) EXPECT_EQ(Told(Catalogue(from), Catalogue(to)), told);
@@ -280,16 +276,16 @@ TEST(Diff, TellsOneEditAsOneChange) {
 
 TEST(Diff, MatchesItemsWithoutNames) {
   const auto localised = [](const std::string& catalogues) {
-    return Catalogue({}, "<EndpointLocalMsg>" + catalogues + "</EndpointLocalMsg>");
+    return Catalogue("", "<EndpointLocalMsg>" + catalogues + "</EndpointLocalMsg>");
   };
   const std::string list = "EndpointLocalMsg[1]/EndPointMessage";
-  const std::string a = Catalogue({"1:a", "2:a", "3:a"});
-  const std::string b = Catalogue({"4:b"});
-  const std::string c = Catalogue({"5:c", "6:c"});
-  EXPECT_EQ(Told(localised(a + b + c), localised(a + Catalogue({"7:n"}) + c)),
+  const std::string a = Catalogue("1:a 2:a 3:a");
+  const std::string b = Catalogue("4:b");
+  const std::string c = Catalogue("5:c 6:c");
+  EXPECT_EQ(Told(localised(a + b + c), localised(a + Catalogue("7:n") + c)),
             "- " + list + "[2]/Message[ID=\"4\"]: 2 elements in it\n" +  //
                 "+ " + list + "[2]/Message[ID=\"7\"]: 2 elements in it\n");
-  EXPECT_EQ(Told(localised(a + b + c), localised(b + c + Catalogue({"1:a", "2:x", "3:a"}))),
+  EXPECT_EQ(Told(localised(a + b + c), localised(b + c + Catalogue("1:a 2:x 3:a"))),
             "> " + list + "[1]: from place 1 to 3\n~ " + list +
                 "[1]/Message[ID=\"2\"]/Description: \"a\" -> \"x\"\n");
 }
@@ -320,8 +316,8 @@ TEST(Diff, KeepsSecrets) {
 TEST(Diff, ShowsLongValuesAroundTheDifference) {
   const std::string left(300, 'l');
   const std::string right(300, 'r');
-  const std::string told = Told(Catalogue({"1:" + left + "old\xC3\xA4" + right}),
-                                Catalogue({"1:" + left + "old\xC3\xB6&#x202E;" + right}));
+  const std::string told = Told(Catalogue("1:" + left + "old\xC3\xA4" + right),
+                                Catalogue("1:" + left + "old\xC3\xB6&#x202E;" + right));
   EXPECT_EQ(told,
             "~ Message[ID=\"1\"]/Description:\n"
             "    - \"…lllllllllllllold\xC3\xA4rrrrrrrrrrrrrrrr…\"\n"

@@ -1,14 +1,19 @@
 // The tool as a whole: statuses, streams and options that verbs have in common.
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <nlohmann/json.hpp>
 
+#include "cli/files.h"
+#include "cli/interrupt.h"
 #include "cli/places.h"
+#include "cli/progress.h"
 #include "cli/run_on.h"
 
 namespace tolva::test {
 namespace {
 
+using namespace cli;
 using Json = nlohmann::ordered_json;
 
 TEST(Tool, SaysHowItIsUsed) {
@@ -59,8 +64,8 @@ TEST(Tool, ColoursOnRequest) {
 /// Whatever the width, no line is longer, unless a single word is.
 TEST(Explain, FitsTheTerminal) {
   for (const std::size_t width : {40U, 60U, 80U, 200U}) {
-    for (const cli::Document& document : cli::Documents()) {
-      cli::ForEachPlace(document, [&](const cli::Place& place) {
+    for (const Document& document : Documents()) {
+      ForEachPlace(document, [&](const Place& place) {
         const std::string path = std::string(document.name) + "/" + place.path;
         const Outcome outcome = RunTool({"explain", path}, width);
         EXPECT_EQ(outcome.status, 0);
@@ -70,7 +75,7 @@ TEST(Explain, FitsTheTerminal) {
           rest.remove_prefix(line.size() + 1);
           const std::size_t start = line.find_first_not_of(' ');
           const bool is_word = line.find(' ', start) == std::string_view::npos;
-          EXPECT_TRUE(cli::Columns(line) <= width || is_word) << width << ": " << line;
+          EXPECT_TRUE(Columns(line) <= width || is_word) << width << ": " << line;
           EXPECT_FALSE(line.ends_with(' ')) << line;
         }
       });
@@ -100,7 +105,7 @@ TEST(Explain, TellsProgramsEverything) {
 
 TEST(Destination, KeepsWhatIsThere) {
   const TempFile file;
-  const std::string path = cli::NameOf(file.path());
+  const std::string path = NameOf(file.path());
   EXPECT_EQ(RunTool({"new", "ci", "-o", path}).status, 0);
   const std::string made = RunTool({"new", "ci", "-o", "-"}).out;
   EXPECT_EQ(RunTool({"new", "ng", "-o", path}).err,
@@ -112,12 +117,12 @@ TEST(Destination, KeepsWhatIsThere) {
 }
 
 /// A stream whose reader has gone, or whose disk is full.
-class BrokenStream final : public cli::Stream {
+class BrokenStream final : public Stream {
  public:
   explicit BrokenStream(bool is_closed) : is_closed_(is_closed) {}
   void Write(std::string_view /*text*/) override {
-    if (is_closed_) throw cli::ClosedPipe();
-    throw cli::Trouble("the output cannot be written");
+    if (is_closed_) throw ClosedPipe();
+    throw Trouble("the output cannot be written");
   }
 
  private:
@@ -134,6 +139,42 @@ TEST(Tool, EndsQuietlyWhenNobodyReads) {
   EXPECT_EQ(err.text(), "tolva: the output cannot be written\n");
   EXPECT_EQ(cli::Run({"explain"}, full, full), 2);
 }
+
+TEST(Progress, IsALineOnATerminal) {
+  TerminalOutput terminal;
+  Progress progress(terminal, {.bytes = 200, .files = 3}, std::chrono::seconds(0));
+  progress.Add({.bytes = 50, .files = 1});
+  EXPECT_EQ(terminal.text(), "\r\x1B[K25 %, 1 of 3 files");
+  terminal.Clear();
+  progress.StepAside([&] { terminal.Write("text"); });
+  progress.StepAside([&] { terminal.Write("more"); });
+  EXPECT_EQ(terminal.text(), "\r\x1B[Ktextmore");
+
+  Progress later(terminal, {}, std::chrono::hours(1));
+  TextOutput file;
+  Progress unseen(file, {}, std::chrono::seconds(0));
+  for (Progress* const silent : {&later, &unseen}) silent->Add({.bytes = 1});
+  EXPECT_EQ(terminal.text(), "\r\x1B[Ktextmore");
+  EXPECT_EQ(file.text(), "");
+}
+
+#if !defined(_WIN32)
+TEST(Interrupt, EndsAReadAndNotTheProcess) {
+  TerminalOutput terminal;
+  Progress progress(terminal, {});
+  const auto stream = Watch(*StreamOf("text").Get(), progress);
+  char byte = 0;
+  ULONG count = 0;
+  CatchInterrupt();
+  EXPECT_EQ(stream->Read(&byte, 1, &count), S_OK);
+  std::raise(SIGINT);
+  EXPECT_EQ(ReasonOf(stream->Read(&byte, 1, &count)), "it was interrupted");
+  std::signal(SIGINT, SIG_DFL);
+  std::signal(SIGTERM, SIG_DFL);
+  CatchInterrupt();
+  EXPECT_FALSE(IsInterrupted());
+}
+#endif
 
 }  // namespace
 }  // namespace tolva::test

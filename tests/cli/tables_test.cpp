@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <set>
 
+#include "cli/new.h"
 #include "cli/places.h"
 #include "cli/session.h"
 #include "cli/tables.h"
@@ -100,6 +101,24 @@ TEST(Tables, NameTheItemsOfLists) {
     }
   }
   EXPECT_EQ(nameless, (std::set<std::string>{"EndpointLocalMsg", "TimeSlot", "addresses"}));
+}
+
+TEST(NewDocument, HasEverythingOnRequest) {
+  for (const Document& document : Documents()) {
+    const std::string full = NewDocument(document, NewContent::kEverything);
+    const std::string least = NewDocument(document, NewContent::kRequired);
+    for (const auto& element : document.elements) {
+      SCOPED_TRACE(element->id);
+      EXPECT_NE(full.find("<" + element->name), std::string::npos);
+      for (const Attribute& attribute : element->attributes) {
+        EXPECT_NE(full.find(" " + attribute.name + "=\""), std::string::npos) << attribute.name;
+        for (const std::string& text : attribute.value.texts) {
+          EXPECT_NE(full.find(text), std::string::npos) << text;
+        }
+      }
+    }
+    EXPECT_LT(least.size(), full.size());
+  }
 }
 
 // ---- places ------------------------------------------------------------------------------------
