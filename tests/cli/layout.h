@@ -96,7 +96,7 @@ class Layout {
           Attribute(attribute.substr(0, attribute.size() - 2), Take(rest, rest.find('"'))));
       Take(rest, 1);
     }
-    if (respells_ && Perhaps()) std::ranges::shuffle(attributes, random_);
+    if (respells_ && Perhaps()) std::shuffle(attributes.begin(), attributes.end(), random_);
     for (const std::string& attribute : attributes) {
       result += (Perhaps() ? "\n  " : " ") + attribute;
     }
@@ -115,8 +115,9 @@ class Layout {
 
   /// Some characters as references, or a text as a section.
   std::string Text(std::string_view text, bool may_be_section = true) {
-    const bool is_plain = std::ranges::all_of(
-        text, [](char c) { return c != '&' && static_cast<unsigned char>(c) < 0x80; });
+    const bool is_plain = std::all_of(text.begin(), text.end(), [](char c) {
+      return c != '&' && static_cast<unsigned char>(c) < 0x80;
+    });
     if (may_be_section && is_plain && Perhaps()) {
       return "<![CDATA[" + std::string(text) + "]]>";
     }

@@ -45,7 +45,7 @@ inline std::string InViolation(const std::string& inside) {
 /// ":line:column: ", as the tool has it, of what is at the offset.
 inline std::string PlaceOf(std::string_view text, std::size_t offset) {
   const std::string_view before = text.substr(0, offset);
-  const auto line = std::ranges::count(before, '\n') + 1;
+  const auto line = std::count(before.begin(), before.end(), '\n') + 1;
   const std::size_t column = cli::Columns(before.substr(before.rfind('\n') + 1)) + 1;
   return ":" + std::to_string(line) + ":" + std::to_string(column) + ": ";
 }

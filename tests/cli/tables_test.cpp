@@ -1,7 +1,6 @@
 // The tool's view of the tables, the sentences of the headers, and paths into documents.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
 #include "cli/new.h"
@@ -44,8 +43,8 @@ TEST(Sentences, AgreeWithTheTables) {
         ++rows;
         sentences += one.sentence.empty() ? 0U : 1U;
       };
-      std::ranges::for_each(element->attributes, check);
-      std::ranges::for_each(element->children, check);
+      for (const Attribute& one : element->attributes) check(one);
+      for (const Child& one : element->children) check(one);
     }
   }
   EXPECT_GT(sentences * 10, rows * 9);
