@@ -143,7 +143,8 @@ TEST_F(Checked, TellsTheRestWhenAFileCannotBeRead) {
 
 /// Whatever a document and its name contain.
 TEST_F(Checked, SendsNothingRawToATerminal) {
-  const std::string turn = "\xE2\x80\xAE";  // U+202E, which turns the direction of writing
+  // U+202E, which turns the direction of writing.
+  const std::string turn = cli::ToUtf8(std::wstring(1, wchar_t{0x202E}));
   const std::string name = "evil\u009B" + turn + ".xml";
   Add("evil.xml",
       "<ActiveDirectory><DefaultDomain Enabled='&#x9B;&#x202E;x&#10;' "

@@ -127,8 +127,9 @@ TEST(Fmt, KnowsSeveralFilesAndWhatCannotBe) {
   const std::string good = RunTool({"new", "ci"}).out;
   const std::pair<const char*, std::string> files[] = {
       {"a.xml", good}, {"b.xml", good + "\n"}, {"c.xml", "<html><!-- x --></html>"}};
-  for (const auto& [file, text] : files)
+  for (const auto& [file, text] : files) {
     std::ofstream(PathOf(name(file)), std::ios::binary) << text;
+  }
   const Outcome checked = RunTool({"fmt", "--check", "-r", NameOf(folder.path())});
   EXPECT_EQ(checked.out, name("b.xml") + "\n");
   EXPECT_EQ(checked.status, 1);
@@ -178,7 +179,7 @@ TEST(Fmt, ShowsNoSecretsInADiff) {
 }
 
 std::string TakeLine(std::string_view& text) {
-  const std::string line(text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1));
+  std::string line(text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1));
   text.remove_prefix(line.size());
   return line;
 }

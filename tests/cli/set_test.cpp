@@ -270,6 +270,9 @@ TEST(Set, FollowsTheLayout) {
             "<Message ID='2'><Content>a]=b</Content></Message>");
   EXPECT_EQ(Catalogue("<Message ID='007'/><Message ID='7x'/>", {"Message[ID=\"07\"]/ID=8"}),
             "<Message ID='8'/><Message ID='7x'/>");
+  EXPECT_EQ(Catalogue("<Message ID='1'/>",
+                      {"Message/ID=2", "--add", "Message", "--remove", "Message[1]"}),
+            "<Message ID=\"0\"><Content>Content</Content>" + text + "</Message>");
   EXPECT_EQ(Catalogue(start + first + end, {"--remove", "Message"}),
             "\r\n\t<!-- all -->\r\n\t" + end);
 }

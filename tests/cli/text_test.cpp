@@ -31,7 +31,7 @@ TEST(Text, IsPrintedWithoutWhatTerminalsObey) {
 
 /// Whatever verb prints it. Files get what there is.
 TEST(Text, OfDocumentsIsShownOnTerminals) {
-  const std::string turn = "\xE2\x80\xAE";  // U+202E
+  const std::string turn = ToUtf8(std::wstring(1, wchar_t{0x202E}));
   const std::string document =
       "<?xml version='1.0' encoding='UTF-8'?><ActiveDirectory><DefaultDomain Enabled=\"1\" "
       "Name=\"\u009B" +
