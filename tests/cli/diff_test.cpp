@@ -52,7 +52,7 @@ Json Mixed(Json from, const Json& other, std::mt19937& random) {
   if (!from.is_structured()) return happens(8) ? other : from;
   if (from.is_object()) {
     Json result = Json::object();
-    for (auto& [name, value] : from.items()) {
+    for (const auto& [name, value] : from.items()) {
       const bool is_required = other.contains(name);
       if (is_required) result[name] = Mixed(value, other[name], random);
       if (!is_required && !happens(12)) result[name] = value;
