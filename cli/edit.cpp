@@ -485,8 +485,9 @@ void Editor::Remove(std::string_view path) {
   const std::size_t end = EndOfLine(content, index + 1);
   SourceContent* const before = index == 0 ? nullptr : &content[index - 1];
   const bool is_last = end == index + 1 || content[index + 1].kind == Kind::kSpace;
-  const bool has_line = before != nullptr && end - index <= 2 && is_last &&
-                        StartsLine(content, end) && IndentAt(content, index).has_value();
+  const bool has_line = before != nullptr && before->kind == Kind::kSpace && end - index <= 2 &&
+                        is_last && StartsLine(content, end) &&
+                        IndentAtEnd(before->text).has_value();
   std::size_t removed = 1;
   if (has_line) {
     removed = end - index;

@@ -1,5 +1,4 @@
 // Calls of the writer in any order: what succeeded stands in the file, and nothing else.
-#include <algorithm>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -143,8 +142,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const Name& name = kAttributes[next_attribute++];
         const std::string_view plain = kPlain[call / 20 % std::size(kPlain)];
         if (call / 5 % 4 == 0) {
-          if (writer.WritePlainAttribute(name, plain) == 0)
-            account.AddAttribute(name.narrow(), plain);
+          const bool is_written = writer.WritePlainAttribute(name, plain) == 0;
+          if (is_written) account.AddAttribute(name.narrow(), plain);
           break;
         }
         const std::wstring text = program.TakeText();

@@ -15,7 +15,7 @@ results=build/results
 rm -rf "$results"
 mkdir -p "$results"
 start=$SECONDS
-: "${CMAKE_BUILD_PARALLEL_LEVEL:=$(nproc)}"  # two parts are built at a time
+: "${CMAKE_BUILD_PARALLEL_LEVEL:=$(nproc)}"  # ninja starts two more, for each of the two parts
 export CMAKE_BUILD_PARALLEL_LEVEL
 
 count_check() { # <passed: yes|no> <name>

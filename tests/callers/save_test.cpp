@@ -3,7 +3,6 @@
 #include <tolva/support.h>
 
 #include <string>
-#include <vector>
 
 #include "callers/folder.h"
 #include "support/capabilities.h"

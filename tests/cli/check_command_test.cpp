@@ -103,8 +103,7 @@ TEST_F(Checked, TellsOnceWhereADocumentEnds) {
        "1:21: error: the end tag 'b' does not match the start tag 'a' [not-well-formed]"},
       {declared + "encoding='EBCDIC'?><ActiveDirectory/>",
        "1:31: error: the encoding 'EBCDIC' is not supported; UTF-8, UTF-16, ISO-8859-1 and "
-       "US-ASCII "
-       "are [encoding]"},
+       "US-ASCII are [encoding]"},
       {"<?xml version='1.0.0' ?><ActiveDirectory/>",
        "1:16: error: the XML declaration is malformed here [not-well-formed]"},
       {declared + "standalone='maybe' ?><ActiveDirectory/>",

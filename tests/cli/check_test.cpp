@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 #include <random>
-#include <set>
+#include <regex>
 
 #include "cli/check_walk.h"
 #include "cli/layout.h"
@@ -92,7 +92,11 @@ TEST_P(CheckedExample, IsFine) {
   EXPECT_TRUE(Check(text).empty());
   EXPECT_TRUE(Check(text, 1).empty());
   for (const auto content : {cli::NewContent::kRequired, cli::NewContent::kEverything}) {
-    EXPECT_TRUE(Check(cli::NewDocument(document(), content)).empty());
+    const std::string made = cli::NewDocument(document(), content);
+    EXPECT_TRUE(Check(made).empty());
+    // But for comments, it has the form that the library writes.
+    const std::string written = cli::WrittenForm(document(), *cli::LoadBytes(made, "new").root);
+    EXPECT_EQ(std::regex_replace(made, std::regex(R"(\n *<!--[\s\S]*?-->)"), ""), written);
   }
 }
 

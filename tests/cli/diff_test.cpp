@@ -365,8 +365,15 @@ TEST(Align, FindsALongestCommonSubsequence) {
     for (Sequence* const one : {&left, &right}) {
       std::ranges::generate(*one, [&] { return static_cast<std::uint32_t>(random() % kinds); });
     }
+    const auto pairs = Align(left, right);
+    for (std::size_t k = 0; k < pairs.size(); ++k) {
+      ASSERT_EQ(left.at(pairs[k].first), right.at(pairs[k].second));
+      if (k == 0) continue;
+      ASSERT_LT(pairs[k - 1].first, pairs[k].first);
+      ASSERT_LT(pairs[k - 1].second, pairs[k].second);
+    }
     const std::size_t longest = LengthOfLongestCommon(left, right);
-    ASSERT_GE(Align(left, right).size(), size == 20 ? longest : longest / 2) << size;
+    ASSERT_GE(pairs.size(), size == 20 ? longest : longest / 2) << size;
   }
 }
 

@@ -69,8 +69,10 @@ TEST_F(Inputs, LeadNowhereInCircles) {
 }
 
 TEST_F(Inputs, ThatAreNotThere) {
-  EXPECT_EQ(RunTool({"get", In("no\u009B"), "Name"}).err,
+  const auto ran = RunTool({"get", In("no\u009B"), "Name"});
+  EXPECT_EQ(ran.err,
             "tolva: '" + In("no\\xC2\\x9B") + "' cannot be read: the file does not exist\n");
+  EXPECT_EQ(ran.status, 2);
 }
 
 }  // namespace

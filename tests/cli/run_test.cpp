@@ -108,8 +108,9 @@ TEST(Destination, KeepsWhatIsThere) {
   const std::string path = NameOf(file.path());
   EXPECT_EQ(RunTool({"new", "ci", "-o", path}).status, 0);
   const std::string made = RunTool({"new", "ci", "-o", "-"}).out;
-  EXPECT_EQ(RunTool({"new", "ng", "-o", path}).err,
-            "tolva: '" + path + "' exists; --force replaces it\n");
+  const auto refused = RunTool({"new", "ng", "-o", path});
+  EXPECT_EQ(refused.err, "tolva: '" + path + "' exists; --force replaces it\n");
+  EXPECT_EQ(refused.status, 2);
   EXPECT_EQ(RunTool({"new", "ng", "-o", path + "/x"}).status, 2);
   EXPECT_EQ(file.Read(), made);
   EXPECT_EQ(RunTool({"new", "ng", "-o", path, "--force"}).status, 0);

@@ -308,6 +308,7 @@ TEST_F(SetFile, RefusesWhatCannotBe) {
       {{"--unset", "Log"}, "'Log' is an element; --remove removes it"},
       {{"--remove", "Log/MaxLogSize"}, "is an attribute; --unset removes it"},
       {{"--remove", ""}, "the root element cannot be removed"},
+      {{"--remove", "LocationArray"}, "is required"},
       {{"--add", "Log"}, "'Log' is there already"},
       {{"--add", "LocationArray/Location[Name='Office']"}, "is there already"},
       {{"--add", "LocationArray/Location[4]"}, "cannot be added: there are 2"},

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <iterator>
 #include <memory>
+#include <sstream>
 #include <utility>
 
 #include "platform/utf.h"
@@ -421,8 +422,9 @@ std::optional<std::string> Difference(std::string_view document) {
   const bool expat_accepts = expat.Read(document, false);
   if (result != S_OK) {
     if (!expat_accepts || IsKnownAcceptance(document, result, expat)) return std::nullopt;
-    return Report(document, "only the own parser refuses it: " +
-                                std::to_string(static_cast<std::uint32_t>(result)));
+    std::ostringstream code;
+    code << std::hex << static_cast<std::uint32_t>(result);
+    return Report(document, "only the own parser refuses it: " + code.str());
   }
   if (!expat_accepts) {
     if (IsKnownRefusal(document, expat)) return std::nullopt;

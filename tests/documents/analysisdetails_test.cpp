@@ -30,7 +30,9 @@ TEST(AnalysisDetails, HaveTwoFlagsForAnOptionalLeaf) {
 
   text = L"here";
   EXPECT_EQ(location->SetContent(&text), 0);
-  EXPECT_NE(WriteText(*parent).find("<location>here</location>"), std::string::npos);
+  EXPECT_EQ(WriteText(*parent),
+            "<detectedValue><value>v</value><count>1</count><location>here</location>"
+            "<context>c</context></detectedValue>");
 
   Diagnostics diagnostics;
   EXPECT_EQ(parent->SetLocation(nullptr), 0);

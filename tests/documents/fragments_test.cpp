@@ -1,5 +1,5 @@
-// Fragments of documents: what is read of them, what is reported, what is written again. What
-// follows from the tables, tests/tables tries for all elements.
+// Fragments of documents: what is read of them, what is reported, what is written again.
+// tests/tables tries what follows from the tables.
 #include <gtest/gtest.h>
 #include <tolva/tolva.h>
 
@@ -59,20 +59,6 @@ TEST(Fragments, OfTheActiveDirectory) {
   ExpectAll<NGConfInterface::NGUser_CreateNewInstance>({
       {L"<NGUser Name='' EnableTrayIconMenu='8589934593'/>",
        "<NGUser Name=\"\" EnableTrayIconMenu=\"1\"/>"},
-  });
-}
-
-/// It breaks the input off. Nothing after the root is looked at.
-TEST(Fragments, OfWhatIsMalformed) {
-  TOLVA_REQUIRE(ReaderEndsTruncatedInput);
-  ExpectAll<ClientConfig::ActiveDir_CreateNewInstance>({
-      {L"<ActiveDirectory><DefaultDomain Name='&e;'/></ActiveDirectory>", nullptr,
-       Missing(L"DefDomain"), -101},
-      {L"<ActiveDirectory><DefaultDomain Name='x' Name='y'/></ActiveDirectory>", nullptr,
-       Missing(L"DefDomain"), -101},
-      {L"<!DOCTYPE a [<!ENTITY e 'x'>]><ActiveDirectory/>", nullptr, {}, -102},
-      {L"<ActiveDirectory><DefaultDomain Name='x'/></ActiveDirectory>&<",
-       "<ActiveDirectory><DefaultDomain Enabled=\"0\" Name=\"x\"/></ActiveDirectory>"},
   });
 }
 

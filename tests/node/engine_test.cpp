@@ -11,7 +11,6 @@
 #include "rfconf/client_configuration.h"
 #include "support/allocations.h"
 #include "support/nodes.h"
-#include "support/values.h"
 
 namespace tolva::test {
 namespace {

@@ -49,5 +49,14 @@ TEST(Numbers, AreDigitsAlone) {
   EXPECT_EQ(value, 18446744073709551615U);
 }
 
+TEST(Numbers, AreWrittenWithOrWithoutASign) {
+  using node::Numbers;
+  node::NumberText text;
+  EXPECT_EQ(node::FormatNumber(2147483648, Numbers::kSigned, text), ValueOf(L"-2147483648"));
+  EXPECT_EQ(node::FormatNumber(4294967295, Numbers::kSigned, text), ValueOf(L"-1"));
+  EXPECT_EQ(node::FormatNumber(4294967295, Numbers::kUnsigned, text), ValueOf(L"4294967295"));
+  EXPECT_EQ(node::FormatLongNumber(18446744073709551615U, text), ValueOf(L"18446744073709551615"));
+}
+
 }  // namespace
 }  // namespace tolva::test

@@ -59,7 +59,7 @@ class Reader : public testing::Test {
   XmlReader reader_;
 };
 
-/// How names and values are read, tests/xml/reader_test.cpp and tests/documents show.
+/// tests/xml/reader_test.cpp and tests/documents show how names and values are read.
 TEST_F(Reader, FindsAttributesByName) {
   TextStream stream(
       "<e><e xmlns='myns' ANameThatIsLongerThanOneVector='long' b='value b' xmlns:ns='ns uri' "

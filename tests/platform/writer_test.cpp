@@ -30,7 +30,7 @@ std::string Written(const Calls& calls) {
   return sink.text.substr(std::min(kDeclaration.size(), sink.text.size()));
 }
 
-/// How whole documents are laid out, tests/tables/documents_test.cpp shows.
+/// tests/tables/documents_test.cpp shows how whole documents are laid out.
 TEST(Writer, LaysADocumentOut) {
   const auto written = Written([](XmlWriter& writer) {
     EXPECT_EQ(writer.WriteStartElement(L"ANameOfTheGreatestLengthThatATableCanHave123"), S_OK);
@@ -208,6 +208,7 @@ TEST(Writer, HandsItsBlocksOverBetweenElements) {
   const std::wstring value(100'000, L'v');
   const auto written = [&value](const Call& call, bool fails) {
     SinkStream sink;
+    SinkStream next;
     {
       XmlWriter writer;
       EXPECT_EQ(writer.SetOutput(&sink), S_OK);
@@ -227,8 +228,12 @@ TEST(Writer, HandsItsBlocksOverBetweenElements) {
       sink.capacity = std::size_t{1} << 30;
       EXPECT_EQ(call(writer), S_OK);
       EXPECT_GT(sink.text.size(), 2 * value.size());
+      EXPECT_EQ(writer.SetOutput(&next), S_OK);
+      EXPECT_EQ(sink.references, 1U);
+      EXPECT_EQ(writer.WriteStartElement(L"c"), S_OK);
     }
-    EXPECT_EQ(sink.references, 1U);
+    EXPECT_EQ(next.references, 1U);
+    EXPECT_EQ(next.text, "<c/>\n");
     EXPECT_TRUE(sink.text.ends_with("</a>\n"));
     return sink.text;
   };

@@ -5,7 +5,6 @@
 #include <cwctype>
 #include <iterator>
 #include <memory>
-#include <set>
 #include <string>
 
 #include "node/diagnostics.h"

@@ -5,7 +5,6 @@
 
 #include <filesystem>
 #include <functional>
-#include <new>
 #include <string>
 #include <utility>
 
