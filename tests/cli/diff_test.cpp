@@ -131,7 +131,7 @@ Json Applied(const Json& from, const Json& to, const Json& changes) {
     if (items.is_null()) items = Json::array();
     for (const std::size_t number : edit.gone) items.erase(number - 1);
     for (const auto& [number, item] : edit.placed) {
-      items.insert(items.begin() + static_cast<std::ptrdiff_t>(number) - 1, item);
+      items.insert(items.begin() + static_cast<std::ptrdiff_t>(number - 1), item);
     }
     if (items.empty()) Erase(result, at);
   }
