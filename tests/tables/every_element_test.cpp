@@ -1,9 +1,7 @@
 // What holds for every element, by its table.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cwctype>
-#include <iterator>
 #include <memory>
 #include <string>
 
@@ -49,10 +47,12 @@ class EveryElement : public testing::TestWithParam<Element> {
   static bool RowIsEqual(const std::wstring& name, const IElement& left, const IElement& right) {
     std::vector<Attribute> attributes;
     std::vector<Child> children;
-    std::ranges::copy_if(Table().attributes, std::back_inserter(attributes),
-                         [&](const auto& row) { return IsNamed(row.name.c_str(), name); });
-    std::ranges::copy_if(Table().children, std::back_inserter(children),
-                         [&](const auto& row) { return IsNamed(row.name().c_str(), name); });
+    for (const Attribute& row : Table().attributes) {
+      if (IsNamed(row.name.c_str(), name)) attributes.push_back(row);
+    }
+    for (const Child& row : Table().children) {
+      if (IsNamed(row.name().c_str(), name)) children.push_back(row);
+    }
     const Schema one = {
         .element = L"", .dialect = Table().dialect, .attributes = attributes, .children = children};
     return AreEqual(one, left, right);
