@@ -134,6 +134,8 @@ TEST(Parser, DeliversTheNodesOfADocument) {
       {"<a b=\"&#x10FFFF;\"/>", "<a b='\xF4\x8F\xBF\xBF'/>"},
       {"<a b='a value of more than sixteen characters > \"plain\"'/>",
        "<a b='a value of more than sixteen characters > \"plain\"'/>"},
+      {"<a xmlns:xml='http://www.w3.org/XML/1998/namespace'/>",
+       "<a xmlns:xml='http://www.w3.org/XML/1998/namespace'/>"},
       // The parts of a name, in end tags as well.
       {"<p:a xmlns:p='u' p:x=''><b><pq:c xmlns:pq='v'></pq:c></b></p:a>",
        "<p:a xmlns:p='u' p:x=''><b><pq:c xmlns:pq='v'></pq:c></b></p:a>"},
