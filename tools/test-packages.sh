@@ -5,7 +5,7 @@
 # and with pkg-config, use the tool, upgrade, remove. The archive for Windows under Wine, in a folder of
 # its own, with nothing else in the path.
 set -eu
-unset CMAKE_CXX_COMPILER_LAUNCHER  # of this system
+unset CMAKE_CXX_COMPILER_LAUNCHER  # the minimal system has no ccache
 cd "$(dirname "$0")/.."
 packages=$(realpath "${1:-build/packages}")
 work=$(mktemp -d)

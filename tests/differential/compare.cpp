@@ -423,7 +423,7 @@ std::optional<std::string> Difference(std::string_view document) {
   if (result != S_OK) {
     if (!expat_accepts || IsKnownAcceptance(document, result, expat)) return std::nullopt;
     std::ostringstream code;
-    code << std::hex << static_cast<std::uint32_t>(result);
+    code << "0x" << std::hex << static_cast<std::uint32_t>(result);
     return Report(document, "only the own parser refuses it: " + code.str());
   }
   if (!expat_accepts) {
