@@ -1,16 +1,12 @@
 // Any bytes through the tool's `check` and through the library: they agree on whether the document
 // is good and whether it can be written and read again, whatever pieces it comes in, and what is
 // found has a place in it.
-#include "cli/check_walk.h"
-
 #include <algorithm>
-#include <vector>
 
+#include "cli/findings.h"
 #include "cli/text.h"
-#include "platform/com_ptr.h"
 #include "support.h"
 #include "xml/reader.h"
-#include "xml/writer.h"
 
 namespace {
 
@@ -18,28 +14,8 @@ using namespace tolva;
 using namespace tolva::fuzz;
 using cli::Code;
 using cli::Finding;
-using Findings = std::vector<Finding>;
-
-class Collector final : public cli::FindingSink {
- public:
-  bool Count(Code /*code*/) override { return true; }
-  void Add(Finding finding) override { findings.push_back(std::move(finding)); }
-
-  Findings findings;
-};
-
-Findings Check(std::string_view document, std::size_t piece) {
-  platform::ComPtr<PieceStream> stream;
-  stream.Attach(std::make_unique<PieceStream>(document, piece).release());
-  Collector collector;
-  cli::WalkDocument(*stream.Get(), {}, collector);
-  return std::move(collector.findings);
-}
-
-bool Has(const Findings& findings, Code code) {
-  return std::ranges::any_of(findings, [code](const Finding& one) { return one.code == code; });
-}
-
+using test::Findings;
+using test::Has;
 bool IsSame(const Finding& left, const Finding& right) {
   return left.code == right.code && left.position.offset == right.position.offset &&
          left.position.line == right.position.line &&
@@ -87,12 +63,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const MemoryFile input;
   static const MemoryFile output;
   const std::string_view text = Text(data, size);
-  const Findings findings = Check(text, size + 1);
-  const Findings in_pieces = Check(text, 1 + size % 7);
+  const Findings findings = test::Check(text, size + 1);
+  const Findings in_pieces = test::Check(text, 1 + size % 7);
   Expect(std::ranges::equal(findings, in_pieces, IsSame), "the same findings, whatever the pieces");
-  bool has_error = false;
   for (const Finding& finding : findings) {
-    has_error = has_error || cli::InfoOf(finding.code).is_error;
     ExpectPlace(text, finding);
     const bool is_end = finding.code <= Code::kEncoding;  // nothing can be said of what follows
     Expect(!is_end || &finding == &findings.back(), "nothing after what ends the walk");
@@ -101,6 +75,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
 
   input.Write(text);
+  const bool has_error = test::HasError(findings);
   const cli::Document* const document = DocumentOf(input);
   if (document == nullptr) {
     Expect(has_error, "an error in what is no document");
@@ -110,10 +85,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const bool is_read = IsRead(input, *node);
   Expect(has_error != is_read, "the library's verdict");
   if (!is_read || Has(findings, Code::kDuplicateChild)) return 0;
-  xml::CXMLLiteManagerWriter writer;
-  Expect(writer.OpenFile(output.path()) == 0 && node->WriteToXMLMgr(&writer) == 0 &&
-             writer.Close() == 0,
-         "that what was read can be written");
+  Expect(IsWritten(output, *node), "that what was read can be written");
   const bool is_read_back = IsRead(output, *document->make());
   Expect(Has(findings, Code::kNotReadBack) != is_read_back, "a warning if it cannot be read again");
   return 0;

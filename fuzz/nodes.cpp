@@ -6,7 +6,6 @@
 #include "exports/documents.h"
 #include "support.h"
 #include "xml/reader.h"
-#include "xml/writer.h"
 
 namespace {
 
@@ -32,14 +31,6 @@ const Factory kFactories[] = {
 #include "exports/factories.def"
 #undef TOLVA_FACTORY
 };
-
-/// An optional text that is absent leaves no document.
-bool IsWritten(const MemoryFile& file, const INode& node) {
-  tolva::xml::CXMLLiteManagerWriter writer;
-  Expect(writer.OpenFile(file.path()) == 0, "a file to write");
-  Expect(node.WriteToXMLMgr(&writer) == 0, "that what was read can be written");
-  return writer.Close() == 0;
-}
 
 ConfigResult Read(const MemoryFile& file, INode& node) {
   tolva::xml::CXMLLiteManagerReader reader;

@@ -1,15 +1,13 @@
 // What the fuzz targets share.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 
-#include "platform/platform.h"
-#include "platform/ref_counted.h"
+#include "node/node.h"
+#include "xml/writer.h"
 
 namespace tolva::fuzz {
 
@@ -30,33 +28,19 @@ class MemoryFile {
   std::wstring path_;
 };
 
-/// A text in pieces of a size.
-class PieceStream final : public platform::RefCounted<platform::ISequentialStream> {
- public:
-  PieceStream(std::string_view text, std::size_t piece) : text_(text), piece_(piece) {}
-
-  platform::HRESULT Read(void* buffer, platform::ULONG size,
-                         platform::ULONG* count) noexcept override {
-    const std::size_t given = std::min({static_cast<std::size_t>(size), piece_, text_.size()});
-    std::copy_n(text_.data(), given, static_cast<char*>(buffer));
-    text_.remove_prefix(given);
-    *count = static_cast<platform::ULONG>(given);
-    return given == size ? platform::S_OK : platform::S_FALSE;
-  }
-  platform::HRESULT Write(const void*, platform::ULONG, platform::ULONG*) noexcept override {
-    return platform::E_NOTIMPL;
-  }
-
- private:
-  std::string_view text_;
-  std::size_t piece_;
-};
-
 /// Ends the run: what should hold does not.
 [[noreturn]] void Fail(const char* what);
 
 inline void Expect(bool holds, const char* what) {
   if (!holds) Fail(what);
+}
+
+/// Writes a node that has been read. An optional text that is absent leaves no document.
+inline bool IsWritten(const MemoryFile& file, const node::INode& node) {
+  xml::CXMLLiteManagerWriter writer;
+  Expect(writer.OpenFile(file.path()) == 0, "a file to write");
+  Expect(node.WriteToXMLMgr(&writer) == 0, "that what was read can be written");
+  return writer.Close() == 0;
 }
 
 inline std::string_view Text(const std::uint8_t* data, std::size_t size) {

@@ -3,9 +3,9 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/byte_form.h"
+#include "cli/run.h"
 #include "cli/text.h"
 #include "support.h"
-#include "tests/cli/run.h"
 
 namespace {
 

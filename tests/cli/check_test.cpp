@@ -6,47 +6,17 @@
 #include <random>
 #include <regex>
 
-#include "cli/check_walk.h"
+#include "cli/findings.h"
 #include "cli/layout.h"
 #include "cli/new.h"
 #include "cli/run_on.h"
 #include "support/nodes.h"
-#include "support/streams.h"
 #include "tables/example.h"
 
 namespace tolva::test {
 namespace {
 
 using cli::Code;
-
-using Findings = std::vector<cli::Finding>;
-
-class Collector final : public cli::FindingSink {
- public:
-  explicit Collector(Findings& findings) : findings_(findings) {}
-  bool Count(Code /*code*/) override { return true; }
-  void Add(cli::Finding finding) override { findings_.push_back(std::move(finding)); }
-
- private:
-  Findings& findings_;
-};
-
-Findings Check(std::string_view bytes, std::size_t block = 1 << 16) {
-  TextStream stream(bytes, block);
-  Findings findings;
-  Collector collector(findings);
-  cli::WalkDocument(stream, {}, collector);
-  return findings;
-}
-
-bool Has(const Findings& findings, Code code) {
-  return std::ranges::any_of(findings, [code](const auto& one) { return one.code == code; });
-}
-
-bool HasError(const Findings& findings) {
-  return std::ranges::any_of(findings,
-                             [](const auto& one) { return cli::InfoOf(one.code).is_error; });
-}
 
 // ---- the verdict -------------------------------------------------------------------------------
 
