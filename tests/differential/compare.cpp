@@ -1,14 +1,11 @@
 #include "differential/compare.h"
 
-#include <expat.h>
 #include <strings.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <iterator>
-#include <memory>
-#include <sstream>
 #include <utility>
 
 #include "platform/utf.h"
@@ -223,10 +220,6 @@ class ExpatReader {
   const std::string& nodes() const { return nodes_.text(); }
 
  private:
-  struct Deleter {
-    void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
-  };
-
   static Nodes& NodesOf(void* self) { return static_cast<ExpatReader*>(self)->nodes_; }
 
   /// Expat does not look at the number of the version, and follows a declared encoding even when a
@@ -271,7 +264,7 @@ class ExpatReader {
                                         });
   }
 
-  std::unique_ptr<XML_ParserStruct, Deleter> parser_;
+  ExpatParser parser_;
   Nodes nodes_;
   bool is_latin1_ = false;
   bool has_mark_ = false;  ///< the document starts with UTF-8's byte-order mark
@@ -290,45 +283,33 @@ bool IsUtf16(std::string_view document) {
          document.substr(0, 2).find('\0') != std::string_view::npos;
 }
 
-/// The bytes of a document, or its units of UTF-16.
-std::u32string UnitsOf(std::string_view document) {
+/// The bytes of a document, or its characters if it is in UTF-16, with lone surrogates among them.
+std::wstring UnitsOf(std::string_view document) {
   if (!IsUtf16(document)) {
-    std::u32string units;
-    for (const char byte : document) units += static_cast<unsigned char>(byte);
-    return units;
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(document.data());
+    return {bytes, bytes + document.size()};
   }
-  const bool is_big = document.starts_with('\0') || document.starts_with("\xFE\xFF");
-  std::u32string units;
+  const std::size_t low = document.starts_with('\0') || document.starts_with("\xFE\xFF") ? 1 : 0;
+  std::wstring units;
   for (std::size_t at = 0; at + 1 < document.size(); at += 2) {
-    const char32_t first = static_cast<unsigned char>(document[at]);
-    const char32_t second = static_cast<unsigned char>(document[at + 1]);
-    units.push_back(is_big ? first << 8 | second : second << 8 | first);
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(document[at + i]); };
+    units += static_cast<wchar_t>(byte(1 - low) << 8 | byte(low));
   }
-  return units;
-}
-
-bool HasLoneSurrogate(const std::u32string& units) {
-  for (std::size_t at = 0; at < units.size(); ++at) {
-    if (!IsSurrogate(units[at])) continue;
-    const char32_t next = at + 1 == units.size() ? 0 : units[at + 1];
-    if (units[at] > 0xDBFF || next < 0xDC00 || next > 0xDFFF) return true;
-    ++at;
+  std::wstring characters;
+  for (const wchar_t* unit = units.data(); unit != units.data() + units.size();) {
+    characters += static_cast<wchar_t>(TakeCodePoint(unit, units.data() + units.size()));
   }
-  return false;
+  return characters;
 }
 
 /// The character at a place in a document without faults.
 char32_t CharacterAt(std::string_view document, std::size_t at) {
-  if (!IsUtf16(document)) {
-    std::string bytes(document.substr(at, 4));
-    bytes.resize(4);
-    const char* character = bytes.data();
-    return TakeCodePoint(character);
+  if (IsUtf16(document)) {
+    return static_cast<char32_t>(UnitsOf(document)[UnitsOf(document.substr(0, at)).size()]);
   }
-  const std::u32string units = UnitsOf(document) + U'\0';
-  const char32_t unit = units[at / 2];
-  return IsSurrogate(unit) ? 0x10000 + ((unit - 0xD800) << 10) + (units[at / 2 + 1] - 0xDC00)
-                           : unit;
+  const std::string bytes(document.substr(at));
+  const char* character = bytes.c_str();
+  return TakeCodePoint(character);
 }
 
 /// Whether it is known of expat why only the own parser accepts the document.
@@ -336,9 +317,8 @@ bool IsKnownRefusal(std::string_view document, const ExpatReader& expat) {
   // Expat allows in names what the fourth edition of XML 1.0 did.
   const std::size_t at = expat.error_at();
   if (expat.error() != XML_ERROR_INVALID_TOKEN || at >= document.size()) return false;
-  const std::size_t width = IsUtf16(document) ? 2 : 1;
-  const char32_t before = at < width ? 0 : UnitsOf(document)[at / width - 1];
-  const bool starts_name = U"</?: \t\r\n"sv.find(before) != std::u32string_view::npos;
+  const std::wstring before = L'\0' + UnitsOf(document.substr(0, at));
+  const bool starts_name = L"</?: \t\r\n"sv.find(before.back()) != std::wstring_view::npos;
   return IsNameCharacter(CharacterAt(document, at), starts_name);
 }
 
@@ -348,16 +328,16 @@ bool IsKnownAcceptance(std::string_view document, HRESULT own, const ExpatReader
   if (own == SC_E_MAXELEMENTDEPTH) return true;
   // Three characters of Latin-1 may stand in expat's names unless the document is in UTF-8. No
   // edition of XML 1.0 allows them.
-  const std::u32string units = UnitsOf(document);
+  const std::wstring units = UnitsOf(document);
   const bool is_utf16 = IsUtf16(document);
-  const bool has_those = units.find_first_of(U"\u00AA\u00B5\u00BA") != std::u32string::npos;
+  const bool has_those = units.find_first_of(L"\u00AA\u00B5\u00BA") != std::wstring::npos;
   if ((is_utf16 || expat.is_latin1()) && has_those) return true;
   if (!is_utf16) return false;
   // Expat takes whatever follows the first half of a surrogate pair for the second.
-  if (own == WC_E_XMLCHARACTER) return HasLoneSurrogate(units);
+  if (own == WC_E_XMLCHARACTER) return std::ranges::any_of(units, IsSurrogate);
   // A zero byte tells expat that it is UTF-16. XML 1.0 wants a byte-order mark for that, and can do
   // without it where the document starts with a declaration.
-  return own == WC_E_SYNTAX && !units.starts_with(U'\uFEFF') && !units.starts_with(U'<');
+  return own == WC_E_SYNTAX && !units.starts_with(L'\uFEFF') && !units.starts_with(L'<');
 }
 
 /// Text with its control characters and what is not ASCII as hexadecimal numbers.
@@ -365,13 +345,9 @@ std::string Show(std::string_view text) {
   std::string shown;
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    if (byte >= 0x20 && byte < 0x7F && c != '\\') {
-      shown += c;
-      continue;
-    }
-    char number[8];
-    std::snprintf(number, sizeof number, "\\x%02X", byte);
-    shown += number;
+    char text_of[8] = {c};
+    if (byte < 0x20 || byte > 0x7E || c == '\\') std::snprintf(text_of, 8, "\\x%02X", byte);
+    shown += text_of;
   }
   return shown;
 }
@@ -398,33 +374,36 @@ bool ExpatAccepts(std::string_view document) {
   return ReaderWithNamespaces().Read(document, false);
 }
 
+HRESULT OwnFault(std::string_view document) { return OwnReader().Read(document, document.size()); }
+
 std::optional<std::string> Difference(std::string_view document) {
   static OwnReader own;
-  static OwnReader own_in_blocks;
+  static OwnReader own_by_tags;
+  static OwnReader other;
   static ExpatReader plain_expat(false);
   ExpatReader& expat = ReaderWithNamespaces();
 
-  const HRESULT result = own.Read(document, document.size() + 1);
-  for (const std::size_t block : {1U, 7U}) {
-    const bool same =
-        own_in_blocks.Read(document, block) == result && own_in_blocks.nodes() == own.nodes();
-    if (!same) return Report(document, "the own parser minds blocks of " + std::to_string(block));
+  const std::size_t whole = document.size() + 1;
+  const HRESULT result = own.Read(document, whole);
+  const auto differs = [&](std::size_t block, Way way, const OwnReader& as) {
+    return other.Read(document, block, way) != result || other.nodes() != as.nodes();
+  };
+  if (differs(1, Way::kNodes, own) || differs(7, Way::kNodes, own)) {
+    return Report(document, "the own parser minds the size of blocks");
   }
-  static OwnReader own_by_tags;
-  const bool same_by_tags = own_by_tags.Read(document, document.size() + 1, Way::kTags) == result;
-  if (!same_by_tags) return Report(document, "the own parser minds white space being skipped");
-  for (const std::size_t block : {std::size_t{1}, document.size() + 1}) {
-    const bool same = own_in_blocks.Read(document, block, Way::kKnownTags) == result &&
-                      own_in_blocks.nodes() == own_by_tags.nodes();
-    if (!same) return Report(document, "the own parser reads known tags otherwise");
+  if (own_by_tags.Read(document, whole, Way::kTags) != result) {
+    return Report(document, "the own parser minds white space being skipped");
+  }
+  if (differs(1, Way::kKnownTags, own_by_tags) || differs(whole, Way::kKnownTags, own_by_tags)) {
+    return Report(document, "the own parser reads known tags otherwise");
   }
 
   const bool expat_accepts = expat.Read(document, false);
   if (result != S_OK) {
     if (!expat_accepts || IsKnownAcceptance(document, result, expat)) return std::nullopt;
-    std::ostringstream code;
-    code << "0x" << std::hex << static_cast<std::uint32_t>(result);
-    return Report(document, "only the own parser refuses it: " + code.str());
+    char code[16];
+    std::snprintf(code, sizeof code, "0x%08X", static_cast<unsigned>(result));
+    return Report(document, std::string("only the own parser refuses it: ") + code);
   }
   if (!expat_accepts) {
     if (IsKnownRefusal(document, expat)) return std::nullopt;
