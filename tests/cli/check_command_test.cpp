@@ -3,6 +3,7 @@
 
 #include <fstream>
 #include <nlohmann/json.hpp>
+#include <regex>
 
 #include "cli/check_findings.h"
 #include "cli/check_formats.h"
@@ -57,15 +58,9 @@ class Checked : public testing::Test {
 
  private:
   /// Paths as they are written elsewhere than on Windows, in JSON too.
-  static std::string WithSlashes(std::string_view text) {
-    std::string result;
-    while (!text.empty()) {
-      const bool is_escaped = text.starts_with("\\\\");
-      const bool is_separator = is_escaped || (text[0] == '\\' && !text.starts_with("\\\""));
-      result += is_separator ? '/' : text[0];
-      text.remove_prefix(is_escaped ? 2 : 1);
-    }
-    return result;
+  static std::string WithSlashes(const std::string& text) {
+    static const std::regex kSeparator(R"re(\\\\|\\(?!"))re");
+    return std::regex_replace(text, kSeparator, "/");
   }
 };
 

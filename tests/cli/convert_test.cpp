@@ -138,12 +138,7 @@ TEST(JsonForm, IsAsDocumented) {
 }
 
 std::string FaultOf(const std::string& json, const char* type = nullptr) {
-  try {
-    FromJson(json, "x", type == nullptr ? nullptr : FindDocument(type));
-  } catch (const Trouble& trouble) {
-    return trouble.what();
-  }
-  return "none";
+  return TroubleOf([&] { FromJson(json, "x", type == nullptr ? nullptr : FindDocument(type)); });
 }
 
 TEST(JsonForm, SaysWhatIsWrongWhere) {

@@ -9,7 +9,6 @@
 #include <sstream>
 
 #include "cli/align.h"
-#include "cli/json.h"
 #include "cli/layout.h"
 #include "cli/places.h"
 #include "cli/run_on.h"
@@ -27,11 +26,6 @@ Json Sorted(Json json) {
   for (Json& one : json) one = Sorted(one);
   if (json.is_array()) std::sort(json.begin(), json.end());
   return json;
-}
-
-Json JsonOf(const std::string& bytes) {
-  const Loaded loaded = LoadBytes(bytes, "xml");
-  return Json::parse(ToJson(*loaded.document, *loaded.root).dump());
 }
 
 std::string XmlOf(const Document& document, const Json& json) {
@@ -148,12 +142,12 @@ TEST_P(DiffOf, MakesTheNewDocumentFromTheOld) {
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     const TempFile from(RandomDocument(document, seed % 10));
-    const Json old_json = JsonOf(from.Read());
-    const Json other_json = JsonOf(RandomDocument(document, 10 + seed % 9));
+    const Json old_json = ReadJson(from.Read());
+    const Json other_json = ReadJson(RandomDocument(document, 10 + seed % 9));
     Json new_json = seed % 8 == 0 ? old_json : Mixed(old_json, other_json, random);
     if (seed % 8 == 1) new_json = Sorted(new_json);
     const TempFile to(XmlOf(document, new_json));
-    new_json = JsonOf(to.Read());
+    new_json = ReadJson(to.Read());
     equal += new_json == old_json ? 1 : 0;
     for (const bool is_ordered : {true, false}) {
       const auto told = [&](const Json& json) { return is_ordered ? json : Sorted(json); };

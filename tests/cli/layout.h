@@ -2,13 +2,16 @@
 #pragma once
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 #include <random>
+#include <regex>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "cli/byte_form.h"
+#include "cli/json.h"
 #include "cli/load.h"
 #include "tables/random_content.h"
 
@@ -18,6 +21,12 @@ inline std::string RandomDocument(const cli::Document& document, unsigned seed) 
   const auto node = document.make();
   RandomContent(seed).Fill(*document.root().schema, *node);
   return WrittenForm(document, *node);
+}
+
+/// The document's JSON form.
+inline nlohmann::ordered_json ReadJson(const std::string& bytes) {
+  const cli::Loaded loaded = cli::LoadBytes(bytes, "test.xml");
+  return cli::ToJson(*loaded.document, *loaded.root);
 }
 
 /// Each encoding, with or without a byte order mark, and each line end.
@@ -55,7 +64,7 @@ class Layout {
     std::string result(Take(text, text.find('\n') + 1));
     while (!text.empty()) {
       if (text[0] == '<') {
-        result += Tag(Take(text, text.find('>') + 1));
+        result += Tag(std::string(Take(text, text.find('>') + 1)));
         continue;
       }
       const std::string_view between = Take(text, std::min(text.find('<'), text.size()));
@@ -84,33 +93,29 @@ class Layout {
     return choice < std::size(others) ? others[choice] : same;
   }
 
-  std::string Tag(std::string_view tag) {
-    const bool is_empty = tag.ends_with("/>");
-    std::string_view rest = tag.substr(0, tag.size() - (is_empty ? 2 : 1));
-    std::string result(Take(rest, std::min(rest.find(' '), rest.size())));
-    const std::string name = result.substr(1);
+  std::string Tag(const std::string& tag) {
+    static const std::regex kAttribute(R"re( ([^ =]+)="([^"]*)")re");
+    const std::string name = tag.substr(1, tag.find_first_of(" />", 2) - 1);
     std::vector<std::string> attributes;
-    while (!rest.empty()) {
-      const std::string_view attribute = Take(rest, rest.find('=') + 2).substr(1);
-      attributes.push_back(
-          Attribute(attribute.substr(0, attribute.size() - 2), Take(rest, rest.find('"'))));
-      Take(rest, 1);
+    for (std::sregex_iterator at(tag.begin(), tag.end(), kAttribute), end; at != end; ++at) {
+      attributes.push_back(Attribute(at->str(1), at->str(2)));
     }
     if (respells_ && Perhaps()) std::shuffle(attributes.begin(), attributes.end(), random_);
+    std::string result = "<" + name;
     for (const std::string& attribute : attributes) {
       result += (Perhaps() ? "\n  " : " ") + attribute;
     }
     if (Perhaps()) result += Perhaps() ? "\n" : " ";
-    if (!is_empty) return result + ">";
+    if (!tag.ends_with("/>")) return result + ">";
     return respells_ && Perhaps() ? result + "></" + name + ">" : result + "/>";
   }
 
-  std::string Attribute(std::string_view name, std::string_view value) {
-    const std::string text = respells_ ? Text(value, false) : std::string(value);
+  std::string Attribute(const std::string& name, const std::string& value) {
+    const std::string text = respells_ ? Text(value, false) : value;
     const bool is_single =
         Perhaps() && text.find_first_of(respells_ ? "'" : "'&") == std::string::npos;
     const char quote = is_single ? '\'' : '"';
-    return std::string(name) + (Perhaps() ? " = " : "=") + quote + text + quote;
+    return name + (Perhaps() ? " = " : "=") + quote + text + quote;
   }
 
   /// Some characters as references, or a text as a section.

@@ -41,4 +41,15 @@ inline Outcome RunTool(const std::vector<std::string>& arguments, std::size_t wi
   return {status, out.text(), err.text()};
 }
 
+/// What the Trouble that a call throws says, or "none".
+template <class Call>
+std::string TroubleOf(const Call& call) {
+  try {
+    call();
+  } catch (const cli::Trouble& trouble) {
+    return trouble.what();
+  }
+  return "none";
+}
+
 }  // namespace tolva::test

@@ -13,13 +13,12 @@
 #include <nlohmann/json.hpp>
 #include <set>
 
-#include "cli/json.h"
+#include "cli/layout.h"
 #include "cli/new.h"
 #include "cli/session.h"
 #include "cli/text.h"
 #include "support/nodes.h"
 #include "tables/example.h"
-#include "tables/random_content.h"
 
 namespace tolva::test {
 namespace {
@@ -38,10 +37,9 @@ class Samples {
 
   void AddRandom(unsigned count) {
     for (unsigned seed = 0; seed < count; ++seed) {
-      const auto node = document_.make();
-      RandomContent(seed).Fill(*document_.root().schema, *node);
-      Write("random", WriteFile(*node));
-      AddValue("", ToJson(document_, *node), true);
+      const std::string text = RandomDocument(document_, seed);
+      Write("random", text);
+      AddValue("", ReadJson(text), true);
     }
   }
 
@@ -58,9 +56,7 @@ class Samples {
   /// Values that take the place of each member of a new document in turn; and what comes of them is
   /// what the library accepts.
   void AddChangedMembers() {
-    const auto node = document_.make();
-    ReadText(*node, ToWide(NewDocument(document_, NewContent::kEverything)));
-    whole_ = ToJson(document_, *node);
+    whole_ = ReadJson(NewDocument(document_, NewContent::kEverything));
     AddValue("", whole_, true);
     ChangeMembers(document_.root(), Pointer("/" + document_.root().name));
   }

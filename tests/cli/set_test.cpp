@@ -9,7 +9,6 @@
 #include <random>
 
 #include "cli/edit.h"
-#include "cli/json.h"
 #include "cli/layout.h"
 #include "cli/run_on.h"
 
@@ -101,11 +100,6 @@ std::string Edited(const std::string& bytes, const std::function<void(Editor&)>&
   Editor editor(source, source.Recognise(nullptr));
   edit(editor);
   return source.Bytes();
-}
-
-Json ReadJson(const std::string& bytes) {
-  const Loaded loaded = LoadBytes(bytes, "test.xml");
-  return ToJson(*loaded.document, *loaded.root);
 }
 
 /// A change does what it says, nothing else, and can be taken back, byte for byte, whatever the
