@@ -3,16 +3,16 @@
 #include <string>
 #include <vector>
 
+#include "differential/compare.h"
 #include "platform/utf.h"
-#include "platform/xml/parser.h"
 #include "support.h"
-#include "support/streams.h"
 #include "xml/writer.h"
 
 namespace {
 
 using namespace tolva::platform;
 using namespace tolva::fuzz;
+using namespace tolva::test;
 using tolva::xml::CXMLLiteManagerWriter;
 using End = CXMLLiteManagerWriter::End;
 
@@ -48,52 +48,10 @@ class Program {
   const std::uint8_t* end_;
 };
 
-/// What the file should hold: start tags with their attributes, texts, end tags.
-struct Account {
-  std::vector<std::string> events;
-
-  void Add(char kind, std::string_view text = {}) { events.push_back(kind + std::string(text)); }
-  void AddAttribute(std::string_view name, std::string_view value) {
-    Add('a', std::string(name) + "=" + std::string(value));
-  }
-  void AddText(std::string_view text) {
-    if (!text.empty()) Add('t', text);
-  }
-};
-
 std::string Utf8(const std::wstring& text) {
   std::string utf8;
   AppendUtf8(text, utf8);
   return utf8;
-}
-
-Account ReadAccount(std::string_view document) {
-  tolva::test::TextStream stream(document);
-  own_xml::Parser parser;
-  parser.SetInput(&stream, false);
-  Account account;
-  const auto value_of = [](std::string_view raw, own_xml::ValueKind kind) {
-    Buffer<char> value;
-    own_xml::AppendValue(raw, kind, value);
-    return std::string(value.data(), value.size());
-  };
-  own_xml::ReadResult result = own_xml::ReadResult::kNode;
-  while ((result = parser.Read()) == own_xml::ReadResult::kNode) {
-    if (parser.type() == XmlNodeType_Element) {
-      account.Add('s', parser.name().text);
-      for (const own_xml::Attribute& attribute : parser.attributes()) {
-        account.AddAttribute(attribute.name.text,
-                             value_of(attribute.value, own_xml::ValueKind::kAttribute));
-      }
-      if (parser.is_empty_element()) account.Add('e');
-    } else if (parser.type() == XmlNodeType_Text) {
-      account.AddText(value_of(parser.value(), own_xml::ValueKind::kText));
-    } else if (parser.type() == XmlNodeType_EndElement) {
-      account.Add('e');
-    }
-  }
-  Expect(result == own_xml::ReadResult::kEnd, "a document that is well-formed");
-  return account;
 }
 
 }  // namespace
@@ -102,8 +60,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const MemoryFile file;
   CXMLLiteManagerWriter writer;
   if (writer.OpenFile(file.path()) != 0) return 0;
-  Account account;
-  int depth = 0;
+  Nodes expected;
+  expected.Begin('D');
+  expected.Begin('T', "\n");
+  std::vector<const Name*> open;
   std::size_t next_attribute = 0;  // an element has none of its attributes twice
   for (Program program(data, size); !program.IsOver();) {
     const std::uint8_t call = program.Take();
@@ -114,12 +74,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     };
     switch (call % 5) {
       case 0: {
-        if (depth == 255) break;  // deeper than can be read
+        if (open.size() == 255) break;  // deeper than can be read
         const Name& name = program.TakeElement();
         if (writer.StartElement(name) == 0) {
-          account.Add('s', name.narrow());
+          expected.Begin('<', name.narrow());
           next_attribute = 0;
-          ++depth;
+          open.push_back(&name);
         }
         break;
       }
@@ -129,13 +89,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const std::wstring text = take_text(kind == 0);
         const int result =
             kind == 0 ? writer.WritePlainAttribute(name, plain) : writer.WriteAttribute(name, text);
-        if (result == 0) account.AddAttribute(name.narrow(), Utf8(text));
+        if (result != 0) break;
+        expected.Add(name.narrow());
+        expected.Add(Utf8(text));
         break;
       }
       case 2: {
         if (writer.EndElement(kind % 2 == 0 ? End::kEmptyTag : End::kEndTag) == 0) {
-          account.Add('e');
-          --depth;
+          Expect(!open.empty(), "no more ends than starts");
+          expected.Begin('>', open.back()->narrow());
+          open.pop_back();
         }
         break;
       }
@@ -146,18 +109,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                            : kind == 1 ? writer.WritePlainElement(name, plain)
                                        : writer.WriteElement(name, text);
         if (result == 0) {
-          account.Add('s', name.narrow());
-          account.AddText(Utf8(text));
-          account.Add('e');
+          expected.Begin('<', name.narrow());
+          if (!text.empty()) expected.Begin('T', Utf8(text));
+          expected.Begin('>', name.narrow());
           next_attribute = std::size(kAttributes);
         }
         break;
       }
     }
-    Expect(depth >= 0, "no more ends than starts");
   }
   if (writer.Close() != 0) return 0;
-  for (; depth != 0; --depth) account.Add('e');
-  Expect(account.events == ReadAccount(file.Read()).events, "what was written");
+  for (; !open.empty(); open.pop_back()) expected.Begin('>', open.back()->narrow());
+  expected.Begin('T', "\n");
+  const std::string document = file.Read();
+  Expect(OwnFault(document) == S_OK, "a document that is well-formed");
+  Expect(OwnTags(document) == expected.text(), "what was written");
   return 0;
 }

@@ -18,51 +18,6 @@ namespace {
 using namespace std::string_view_literals;
 using own_xml::ValueKind;
 
-/// No document contains these.
-constexpr char kNode = '\1';
-constexpr char kPart = '\2';
-
-/// The nodes of a document as a text that can be compared.
-class Nodes {
- public:
-  void Clear() {
-    text_.clear();
-    in_text_ = false;
-  }
-
-  void Begin(char kind, std::string_view first = {}) {
-    text_ += kNode;
-    text_ += kind;
-    text_ += first;
-    in_text_ = false;
-  }
-
-  void Add(std::string_view part) {
-    text_ += kPart;
-    text_ += part;
-  }
-
-  /// Adds to the text before it, or to a CDATA section that has been begun.
-  void AddText(std::string_view piece) {
-    if (!in_text_) Begin('T');
-    in_text_ = true;
-    text_ += piece;
-  }
-
-  void BeginCData() {
-    Begin('C');
-    in_text_ = true;
-  }
-
-  void EndText() { in_text_ = false; }
-
-  const std::string& text() const { return text_; }
-
- private:
-  std::string text_;
-  bool in_text_ = false;
-};
-
 // ---- the own parser ----------------------------------------------------------------------------
 
 /// What a table of the library could know of the documents here.
@@ -194,7 +149,8 @@ class ExpatReader {
  public:
   /// Without namespaces, names are delivered as they stand in the document.
   explicit ExpatReader(bool namespaces)
-      : parser_(namespaces ? XML_ParserCreateNS(nullptr, kPart) : XML_ParserCreate(nullptr)) {}
+      : parser_(namespaces ? XML_ParserCreateNS(nullptr, Nodes::kPart)
+                           : XML_ParserCreate(nullptr)) {}
 
   bool Read(std::string_view document, bool with_nodes) {
     XML_Parser parser = parser_.get();
@@ -253,7 +209,7 @@ class ExpatReader {
     XML_SetCharacterDataHandler(parser, on_text);
     XML_SetDefaultHandler(parser, on_text);  // white space outside the root
     XML_SetCdataSectionHandler(
-        parser, [](void* self) { NodesOf(self).BeginCData(); },
+        parser, [](void* self) { NodesOf(self).Begin('C'); },
         [](void* self) { NodesOf(self).EndText(); });
     XML_SetCommentHandler(parser,
                           [](void* self, const char* text) { NodesOf(self).Begin('!', text); });
@@ -375,6 +331,12 @@ bool ExpatAccepts(std::string_view document) {
 }
 
 HRESULT OwnFault(std::string_view document) { return OwnReader().Read(document, document.size()); }
+
+std::string OwnTags(std::string_view document) {
+  OwnReader reader;
+  reader.Read(document, document.size(), Way::kTags);
+  return reader.nodes();
+}
 
 std::optional<std::string> Difference(std::string_view document) {
   static OwnReader own;
