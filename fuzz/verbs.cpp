@@ -12,6 +12,7 @@ namespace {
 using namespace tolva;
 using namespace tolva::fuzz;
 using Json = nlohmann::ordered_json;
+using Pointer = Json::json_pointer;
 using test::Outcome;
 
 /// The file is the argument after the verb.
@@ -55,33 +56,14 @@ void ExpectStable(const std::string& document) {
 
 // ---- get, set and diff -------------------------------------------------------------------------
 
-struct Leaf {
-  std::string path;
-  Json::json_pointer pointer;
-  Json value;
-};
-
-/// The values of a document in JSON, and the lists.
-struct Places {
-  void Collect(const Json& json, const std::string& path, const Json::json_pointer& pointer) {
-    if (!json.is_structured()) {
-      if (!json.is_null()) leaves.push_back({path, pointer, json});
-      return;
-    }
-    if (json.is_array()) lists.push_back(path);
-    std::size_t index = 0;
-    for (const auto& [key, value] : json.items()) {
-      const std::string step = json.is_array() ? "[" + std::to_string(index + 1) + "]"
-                               : path.empty()  ? key
-                                               : "/" + key;
-      Collect(value, path + step, json.is_array() ? pointer / index : pointer / key);
-      ++index;
-    }
-  }
-
-  std::vector<Leaf> leaves;
-  std::vector<std::string> lists;
-};
+/// The path of a value or an element in JSON, as the tool has it.
+std::string PathOf(const Pointer& at) {
+  if (at.parent_pointer().empty()) return "";
+  const std::string parent = PathOf(at.parent_pointer());
+  const std::string& name = at.back();
+  if (name[0] <= '9') return parent + "[" + std::to_string(std::stoul(name) + 1) + "]";
+  return parent.empty() ? name : parent + "/" + name;
+}
 
 Json JsonOf(std::string_view document) {
   static const MemoryFile file;
@@ -112,51 +94,59 @@ std::string Set(std::string_view document, std::vector<std::string> changes) {
 }
 
 /// Sets a value to another one and back.
-void TryValue(const MemoryFile& file, std::string_view bytes, const Json& json, const Leaf& leaf) {
-  const bool is_number = leaf.value.is_number();
-  const std::string text = is_number ? leaf.value.dump() : leaf.value.get<std::string>();
-  const Outcome got = Run(file, {"get", leaf.path});
+void TryValue(const MemoryFile& file, std::string_view bytes, const Json& json, const Pointer& at) {
+  const std::string path = PathOf(at);
+  const Json& value = json[at];
+  const bool is_number = value.is_number();
+  const std::string text = is_number ? value.dump() : value.get<std::string>();
+  const Outcome got = Run(file, {"get", path});
   const bool is_there = got.status == 0;
   if (is_there && got.out == text + "\n") {
-    Expect(Set(bytes, {leaf.path + "=" + text}) == bytes, "that what is there can be set");
+    Expect(Set(bytes, {path + "=" + text}) == bytes, "that what is there can be set");
   } else {
     Expect(!is_there || text.find_first_not_of("0123456789") == std::string::npos,
            "the text that the library reads");
   }
-  const Json found = Json::parse(Run(file, {"get", leaf.path, "--format", "json"}).out);
+  const Json found = Json::parse(Run(file, {"get", path, "--format", "json"}).out);
   const Json& matches = found["results"][0]["matches"];
-  Expect(matches.empty() != is_there && (!is_there || matches[0]["value"] == leaf.value),
+  Expect(matches.empty() != is_there && (!is_there || matches[0]["value"] == value),
          "the value that the library reads");
 
   const std::string other = is_number ? (text == "1" ? "2" : "1") : text + "<" + text.substr(0, 3);
-  const std::string after = Set(bytes, {leaf.path + "=" + other});
+  const std::string after = Set(bytes, {path + "=" + other});
   if (after.empty()) {
     Expect(!is_number, "that a number can be set");
     return;
   }
   Json wanted = json;
-  wanted[leaf.pointer] = is_number ? Json::parse(other) : Json(other);
+  wanted[at] = is_number ? Json::parse(other) : Json(other);
   Expect(JsonOf(after) == wanted, "that this value changes and no other");
   Expect(Diff(file, after) == 1, "a difference");
   // How a value is written may change, but only once.
-  const std::string back = Set(after, {leaf.path + "=" + text});
+  const std::string back = Set(after, {path + "=" + text});
   if (back.empty()) return;
   Expect(Diff(file, back) == 0, "the same document");
-  Expect(Set(back, {leaf.path + "=" + other, leaf.path + "=" + text}) == back, "the same bytes");
+  Expect(Set(back, {path + "=" + other, path + "=" + text}) == back, "the same bytes");
 }
 
 /// `bytes`: a document that the library reads.
 void TryChanges(const MemoryFile& file, std::string_view bytes) {
   Expect(Diff(file, bytes) == 0, "that a document is equal to itself");
   const Json json = JsonOf(bytes);
-  Places places;
-  places.Collect(json.front(), "", Json::json_pointer("/" + json.items().begin().key()));
-  const std::size_t choice = std::hash<std::string_view>()(bytes);
-  if (!places.leaves.empty()) {
-    TryValue(file, bytes, json, places.leaves[choice % places.leaves.size()]);
+  std::vector<Pointer> values;
+  std::vector<std::string> items;
+  const Json all = json.flatten();
+  for (const auto& [key, value] : all.items()) {
+    Pointer at(key);
+    if (!value.is_null()) values.push_back(at);
+    for (; !at.empty(); at.pop_back()) {
+      if (at.back() == "0") items.push_back(PathOf(at));
+    }
   }
-  if (places.lists.empty()) return;
-  const std::string item = places.lists[choice % places.lists.size()] + "[1]";
+  const std::size_t choice = std::hash<std::string_view>()(bytes);
+  if (!values.empty()) TryValue(file, bytes, json, values[choice % values.size()]);
+  if (items.empty()) return;
+  const std::string& item = items[choice % items.size()];
   const std::string added = Set(bytes, {"--add", item});
   Expect(!added.empty() && Diff(file, added) == 1, "one item more");
   Expect(Diff(file, Set(added, {"--remove", item})) == 0, "that it can be removed again");
