@@ -8,6 +8,12 @@ import tempfile
 import urllib.request
 
 
+HELPERS = """
+  const one = (selector) => document.querySelector(selector);
+  const all = (selector) => [...document.querySelectorAll(selector)];
+"""
+
+
 class Browser:
     """Starts the browser; `with` ends it."""
 
@@ -47,8 +53,9 @@ class Browser:
     def open(self, url):
         self._call('POST', '/url', {'url': url})
 
-    def run(self, script, *arguments):
-        """The value that the script returns."""
+    def run(self, value, *arguments):
+        """The value of an expression in which one(selector) and all(selector) are what a selector finds."""
+        script = HELPERS + 'return ' + value
         return self._call('POST', '/execute/sync', {'script': script, 'args': arguments})
 
     def type(self, keys):
@@ -65,8 +72,8 @@ class Browser:
         """What the browser has complained about since the last call."""
         return [entry['message'] for entry in self._call('POST', '/se/log', {'type': 'browser'})]
 
-    def expect(self, what, script, *arguments):
-        if self.run(script, *arguments) is not True:
+    def expect(self, what, condition, *arguments):
+        if self.run(condition, *arguments) is not True:
             raise AssertionError(what)
 
 
@@ -83,12 +90,11 @@ def try_page(command, status, use):
                 browser.open(file.as_uri())
                 if name == 'wide':
                     use(browser)
-                browser.run("document.getElementById('unfold')?.click()")
-                browser.expect('it is no wider than the window',
-                               'return document.documentElement.scrollWidth <= innerWidth')
+                browser.run("one('#unfold')?.click()")
+                browser.expect('it is no wider than the window', 'one(":root").scrollWidth <= innerWidth')
+                ground = 'getComputedStyle(document.body).backgroundColor'
                 browser.expect('it follows the system\'s colours',
-                               "const ground = getComputedStyle(document.body).backgroundColor;"
-                               "return (ground.match(/\\d+/)[0] < 128) === arguments[0]", dark)
+                               f'({ground}.match(/\\d+/)[0] < 128) === arguments[0]', dark)
                 problems = browser.problems()
                 if problems:
                     raise AssertionError(problems)

@@ -11,7 +11,7 @@ from browser import try_page
 
 ESCAPE = '\ue00c'
 
-SHOWN = "[...document.querySelectorAll('tr[data-kind]')].filter((row) => row.checkVisibility())"
+SHOWN = "all('tr[data-kind]').filter((row) => row.checkVisibility())"
 
 
 def edited(policy):
@@ -31,42 +31,40 @@ def edited(policy):
 
 
 def use(browser):
-    shown = browser.run(f"return {SHOWN}.map((row) => row.dataset.kind).sort().join()")
+    shown = browser.run(f"{SHOWN}.map((row) => row.dataset.kind).sort().join()")
     if shown != 'added,changed,changed,changed,moved,removed':
         raise AssertionError(shown)
-    browser.expect('the counts are at the top',
-                   "return [...document.querySelectorAll('.kind')].map((one) => one.textContent).join() ==="
-                   " '~3 changed,+1 added,−1 removed,⇅1 moved'")
+    browser.expect('the counts are at the top', "all('.kind').map(({textContent}) => textContent).join() ==="
+                                                " '~3 changed,+1 added,−1 removed,⇅1 moved'")
     browser.expect('what differs within a value is marked',
-                   "return document.querySelector('del').textContent === 'Wired' &&"
-                   " document.querySelector('ins').textContent === 'Wireless'")
+                   "one('del').textContent === 'Wired' && one('ins').textContent === 'Wireless'")
     browser.expect('text is no markup, nor turned around',
-                   "return document.querySelector('.added b').textContent === '<b>\\\\xE2\\\\x80\\\\xAE'")
-    browser.expect('secrets are not there', "return !document.documentElement.outerHTML.includes('SECRET')")
-    browser.expect('what is the same is folded', "return !document.querySelector('.same[open]')")
+                   "one('.added b').textContent === '<b>\\\\xE2\\\\x80\\\\xAE'")
+    browser.expect('secrets are not there', "!one(':root').outerHTML.includes('SECRET')")
+    browser.expect('what is the same is folded', "!one('.same[open]')")
     browser.click('.card .same > summary')
-    browser.expect('it unfolds', "return document.querySelector('.card .same .content').checkVisibility()")
+    browser.expect('it unfolds', "one('.card .same .content').checkVisibility()")
 
     browser.click('.kind.changed')
-    browser.expect('a kind is hidden', f"return {SHOWN}.length === 3")
+    browser.expect('a kind is hidden', f"{SHOWN}.length === 3")
     browser.click('.kind.changed')
     browser.type('/removablemedia')
-    browser.expect('a path is found', f"return {SHOWN}.length === 1 && {SHOWN}[0].dataset.kind === 'removed'")
+    browser.expect('a path is found', f"{SHOWN}.map((row) => row.dataset.kind).join() === 'removed'")
     browser.expect('sections without differences are gone',
-                   "return [...document.querySelectorAll('section')].filter((one) => one.checkVisibility()).length === 1")
-    browser.expect('it is told', "return document.getElementById('status').textContent.startsWith('1 of 6')")
+                   "all('section').filter((section) => section.checkVisibility()).length === 1")
+    browser.expect('it is told', "one('#status').textContent.startsWith('1 of 6')")
     browser.type('zzz')
-    browser.expect('nothing is found', "return document.getElementById('nothing').checkVisibility()")
+    browser.expect('nothing is found', "one('#nothing').checkVisibility()")
     browser.type(ESCAPE)
-    browser.expect('the filter is gone', f"return {SHOWN}.length === 6")
+    browser.expect('the filter is gone', f"{SHOWN}.length === 6")
 
     browser.type('nn')
-    browser.expect('keys go to the next difference', f"return document.activeElement === {SHOWN}[1]")
+    browser.expect('keys go to the next difference', f"document.activeElement === {SHOWN}[1]")
     browser.type('pp')
-    browser.expect('and around', f"return document.activeElement === {SHOWN}[5]")
+    browser.expect('and around', f"document.activeElement === {SHOWN}[5]")
     browser.click('#next')
-    browser.expect('so does a button', f"return document.activeElement === {SHOWN}[0]")
-    browser.expect('nothing is loaded', "return performance.getEntriesByType('resource').length === 0")
+    browser.expect('so does a button', f"document.activeElement === {SHOWN}[0]")
+    browser.expect('nothing is loaded', "performance.getEntriesByType('resource').length === 0")
 
 
 def main():

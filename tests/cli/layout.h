@@ -31,18 +31,13 @@ inline nlohmann::ordered_json ReadJson(const std::string& bytes) {
 
 /// Each encoding, with or without a byte order mark, and each line end.
 inline cli::ByteForm FormOfSeed(unsigned seed) {
-  const auto starting = [](const char* start) {
-    return platform::own_xml::DetectEncoding({start, 2});
-  };
-  const auto declared = [](const char* declaration) {
-    return &platform::own_xml::DeclaredEncoding(declaration);
-  };
+  namespace own_xml = platform::own_xml;
   cli::ByteForm forms[] = {{},
                            {.has_mark = true},
-                           {.encoding = starting("\xFF\xFE")},
-                           {.encoding = starting("\xFE\xFF"), .has_mark = true},
-                           {.encoding = declared("encoding='ISO-8859-1'")},
-                           {.encoding = declared("encoding='US-ASCII'")}};
+                           {.encoding = own_xml::DetectEncoding("\xFF\xFE")},
+                           {.encoding = own_xml::DetectEncoding("\xFE\xFF"), .has_mark = true},
+                           {.encoding = &own_xml::DeclaredEncoding("encoding='ISO-8859-1'")},
+                           {.encoding = &own_xml::DeclaredEncoding("encoding='US-ASCII'")}};
   constexpr std::string_view kLineEnds[] = {"\n", "\r\n", "\r"};
   cli::ByteForm& form = forms[seed % std::size(forms)];
   form.line_end = kLineEnds[seed / std::size(forms) % std::size(kLineEnds)];
