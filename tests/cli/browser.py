@@ -73,8 +73,7 @@ class Browser:
         return [entry['message'] for entry in self._call('POST', '/se/log', {'type': 'browser'})]
 
     def expect(self, what, condition, *arguments):
-        if self.run(condition, *arguments) is not True:
-            raise AssertionError(what)
+        assert self.run(condition, *arguments) is True, what
 
 
 def try_page(command, status, use):
@@ -83,8 +82,7 @@ def try_page(command, status, use):
     with tempfile.TemporaryDirectory() as temporary:
         file = pathlib.Path(temporary) / 'page.html'
         made = subprocess.run([*command, '-o', file], check=False)
-        if made.returncode != status:
-            raise AssertionError(made.returncode)
+        assert made.returncode == status, made.returncode
         for name, width, dark in (('wide', 1400, False), ('narrow', 500, False), ('dark', 1000, True)):
             with Browser(width, 1000, dark) as browser:
                 browser.open(file.as_uri())
@@ -96,5 +94,4 @@ def try_page(command, status, use):
                 browser.expect('it follows the system\'s colours',
                                f'({ground}.match(/\\d+/)[0] < 128) === arguments[0]', dark)
                 problems = browser.problems()
-                if problems:
-                    raise AssertionError(problems)
+                assert not problems, problems

@@ -67,12 +67,12 @@ TEST(Convert, SaysWhereJsonIsWrong) {
     for (auto member = std::sregex_iterator(json.begin(), json.end(), kMember); member != end;
          ++member) {
       const auto expect = [&](std::size_t at, std::string_view old, const std::string& replacement,
-                              std::size_t place) {
+                              std::size_t offset = 0) {
         std::string text = json;
         text.replace(at, old.size(), replacement);
         const Outcome outcome = Convert("xml", text);
         ASSERT_EQ(outcome.status, 2) << text.substr(at, 100);
-        const std::string expected = "tolva: " + PlaceOf(text, place) + "'/";
+        const std::string expected = "tolva: " + PlaceOf(text, at + offset) + "'/";
         ASSERT_TRUE(outcome.err.starts_with(expected)) << outcome.err << expected;
         ++spoilt;
       };
@@ -80,19 +80,19 @@ TEST(Convert, SaysWhereJsonIsWrong) {
       const auto value_at = static_cast<std::size_t>(member->position(2));
       const std::string key = (*member)[1];
       std::string value = (*member)[2];
-      expect(key_at, key, "\"Unknown\"", key_at);
+      expect(key_at, key, "\"Unknown\"");
       const bool is_scalar = value[0] != '{' && value[0] != '[';
       if (!is_scalar) {
-        expect(value_at, value.substr(0, 1), value[0] == '[' ? "{}, \"x\": [" : "\"x\", \"x\": {",
-               value_at);
+        expect(value_at, value.substr(0, 1), value[0] == '[' ? "{}, \"x\": [" : "\"x\", \"x\": {");
         continue;
       }
       if (value.ends_with(',')) value.pop_back();
-      expect(value_at, value, "true", value_at);
-      expect(value_at, value, "[\"\"]", value_at);
-      if (value[0] != '"') expect(value_at, value, "4294967296", value_at);
-      expect(value_at, value, value + ", " + key + ": " + value, value_at + value.size() + 2);
-      if (value[0] != '"') expect(value_at, value, "1.5", value_at);
+      expect(value_at, value, "true");
+      expect(value_at, value, "[\"\"]");
+      expect(value_at, value, value + ", " + key + ": " + value, value.size() + 2);
+      if (value[0] == '"') continue;
+      expect(value_at, value, "4294967296");
+      expect(value_at, value, "1.5");
     }
   }
   EXPECT_GT(spoilt, 2000U);

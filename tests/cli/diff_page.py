@@ -32,8 +32,7 @@ def edited(policy):
 
 def use(browser):
     shown = browser.run(f"{SHOWN}.map((row) => row.dataset.kind).sort().join()")
-    if shown != 'added,changed,changed,changed,moved,removed':
-        raise AssertionError(shown)
+    assert shown == 'added,changed,changed,changed,moved,removed', shown
     browser.expect('the counts are at the top', "all('.kind').map(({textContent}) => textContent).join() ==="
                                                 " '~3 changed,+1 added,−1 removed,⇅1 moved'")
     browser.expect('what differs within a value is marked',

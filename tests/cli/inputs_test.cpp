@@ -30,10 +30,8 @@ class Inputs : public testing::Test {
     std::vector<std::string> names;
     for (const Input& input :
          FindInputs(options, [this](const std::string& text) { reports_.push_back(text); })) {
-      const fs::path path = PathOf(input.name);
-      const bool is_within = input.is_from_folder;
-      names.push_back(is_within ? NameOf(path.lexically_relative(root_.path()).generic_string())
-                                : input.name);
+      const fs::path within = PathOf(input.name).lexically_relative(root_.path());
+      names.push_back(input.is_from_folder ? NameOf(within.generic_string()) : input.name);
     }
     return names;
   }

@@ -13,6 +13,7 @@
 #include "cli/byte_form.h"
 #include "cli/json.h"
 #include "cli/load.h"
+#include "cli/text.h"
 #include "tables/random_content.h"
 
 namespace tolva::test {
@@ -115,10 +116,8 @@ class Layout {
 
   /// Some characters as references, or a text as a section.
   std::string Text(std::string_view text, bool may_be_section = true) {
-    const bool is_plain = std::all_of(text.begin(), text.end(), [](char c) {
-      return c != '&' && static_cast<unsigned char>(c) < 0x80;
-    });
-    if (may_be_section && is_plain && Perhaps()) {
+    const bool is_ascii = cli::Columns(text) == text.size();
+    if (may_be_section && is_ascii && text.find('&') == std::string_view::npos && Perhaps()) {
       return "<![CDATA[" + std::string(text) + "]]>";
     }
     std::string result;

