@@ -22,6 +22,7 @@
 #include <vector>
 
 #include "differential/compare.h"
+#include "platform/platform.h"
 
 namespace tolva::test {
 namespace {
