@@ -35,8 +35,9 @@ constexpr int kEndElement = 15;
 struct Row {
   Name name;
 };
-constexpr Row kRows[] = {{L"b"}, {L"fourth"}, {L"second"}, {L"third"}, {L"first"}};
-enum : std::size_t { kB, kFourth, kSecond, kThird, kFirst };
+constexpr Row kRows[] = {{L"b"},     {L"fourth"}, {L"second"},
+                         {L"third"}, {L"first"},  {L"ANameThatIsLongerThanOneVector"}};
+enum : std::size_t { kB, kFourth, kSecond, kThird, kFirst, kLong };
 
 class ManagerReader : public testing::Test {
  protected:
@@ -136,12 +137,16 @@ TEST_F(ManagerReader, ConvertsStrings) {
 }
 
 TEST_F(ManagerReader, FindsAttributes) {
-  Open(L"<A first='1' second='&lt;&#x32;' third=''><B/></A>");
+  Open(
+      L"<A xmlns='u' first='1' second='&lt;&#x32;' third='' xmlns:p='v' p:fourth='4' p:b=''"
+      L" ANameThatIsLongerThanOneVector='long' ANameThatIsLongerThanOneVectorAndMore=''><B/></A>");
   EXPECT_EQ(Attribute(kThird), L"");
   EXPECT_EQ(tolvaGetLastError(), 0U);
   EXPECT_EQ(Attribute(kSecond), L"<2");
   EXPECT_EQ(Attribute(kFourth), kNoValue);
   EXPECT_EQ(tolvaGetLastError(), static_cast<DWORD>(-104));
+  EXPECT_EQ(Attribute(kFirst), L"1");
+  EXPECT_EQ(Attribute(kLong), L"long");
   EXPECT_EQ(Attribute(kFirst), L"1");
   EXPECT_EQ(reader_.NextNode(), kElement);
   EXPECT_EQ(Attribute(kFirst), kNoValue);
