@@ -58,38 +58,6 @@ class TextStream final : public StackStream {
   std::size_t at_ = 0;
 };
 
-/// Gives out the same piece again and again, between a head and a tail, without holding the whole.
-class RepeatingStream final : public StackStream {
- public:
-  RepeatingStream(std::string head, std::string piece, std::size_t count, std::string tail)
-      : head_(std::move(head)), piece_(std::move(piece)), tail_(std::move(tail)), count_(count) {}
-
-  HRESULT Read(void* buffer, ULONG size, ULONG* count) noexcept override {
-    *count = 0;
-    while (*count < size && stage_ < count_ + 2) {
-      const std::string& now = stage_ == 0 ? head_ : stage_ <= count_ ? piece_ : tail_;
-      const std::size_t given =
-          std::min<std::size_t>(now.size() - offset_, static_cast<std::size_t>(size - *count));
-      std::memcpy(static_cast<char*>(buffer) + *count, now.data() + offset_, given);
-      *count += static_cast<ULONG>(given);
-      offset_ += given;
-      if (offset_ == now.size()) {
-        offset_ = 0;
-        ++stage_;
-      }
-    }
-    return *count == size ? S_OK : S_FALSE;
-  }
-
- private:
-  const std::string head_;
-  const std::string piece_;
-  const std::string tail_;
-  const std::size_t count_;
-  std::size_t stage_ = 0;
-  std::size_t offset_ = 0;
-};
-
 /// Keeps what is written, up to `capacity` bytes: then the disk is full.
 class SinkStream final : public StackStream {
  public:
