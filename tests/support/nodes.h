@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <tolva/node/node.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -47,18 +48,14 @@ inline std::string WithoutLayout(std::string_view text) {
   std::string result;
   if (text.starts_with("<?")) text.remove_prefix(text.find("?>") + 2);
   while (!text.empty()) {
-    const bool at_end_of_tag = result.empty() || result.back() == '>';
-    const std::size_t blanks = text.find_first_not_of(" \r\n");
-    const std::size_t past = blanks == std::string_view::npos ? text.size() : blanks;
-    const bool between_tags = past == text.size() || text[past] == '<';
-    if (at_end_of_tag && between_tags && past != 0) {
+    const std::size_t past = std::min(text.find_first_not_of(" \r\n"), text.size());
+    const bool precedes_tag = past == text.size() || text[past] == '<';
+    if (past != 0 && precedes_tag && (result.empty() || result.back() == '>')) {
       text.remove_prefix(past);
-    } else if (text.starts_with(" />")) {
-      text.remove_prefix(1);
-    } else {
-      result += text.front();
-      text.remove_prefix(1);
+      continue;
     }
+    if (!text.starts_with(" />")) result += text.front();
+    text.remove_prefix(1);
   }
   return result;
 }

@@ -64,9 +64,7 @@ void Example::Parse() {
   std::vector<std::size_t> open;
   for (std::size_t at = 0; (at = text_.find(L'<', at)) != std::wstring::npos;) {
     const std::size_t close = text_.find(L'>', at);
-    Require(close != std::wstring::npos, "a tag does not end", text_.substr(at));
     if (text_[at + 1] == L'/') {
-      Require(!open.empty(), "an end tag without an element", text_.substr(at));
       elements_[open.back()].close = at;
       elements_[open.back()].end = close + 1;
       open.pop_back();
@@ -76,7 +74,6 @@ void Example::Parse() {
     }
     at = close;
   }
-  Require(!elements_.empty() && open.empty(), "an element does not end", text_);
 }
 
 void Example::Open(std::size_t at, std::size_t close, std::size_t parent) {
@@ -88,7 +85,6 @@ void Example::Open(std::size_t at, std::size_t close, std::size_t parent) {
   while (text_[space] == L' ') {
     const std::size_t equals = text_.find(L'=', space);
     const std::size_t end = text_.find(L'"', equals + 2) + 1;
-    Require(space < equals && equals < end && end <= close, "an attribute does not end", name);
     const std::wstring attribute = text_.substr(space + 1, equals - space - 1);
     const node::Attribute* const row = Find(element.schema->attributes, attribute);
     Require(row != nullptr, "no row", name + L"/" + attribute);

@@ -82,72 +82,60 @@ void RandomContent::Fill(const Schema& table, IElement& node) {
 
 namespace {
 
-bool IsSame(ValueType type, const void* left, const void* right) {
+std::wstring TextOf(ValueType type, const void* value) {
   switch (type) {
     case ValueType::kLongNumber:
-      return *static_cast<const std::uint64_t*>(left) == *static_cast<const std::uint64_t*>(right);
+      return std::to_wstring(*static_cast<const std::uint64_t*>(value));
     case ValueType::kString:
-      return *static_cast<const std::wstring*>(left) == *static_cast<const std::wstring*>(right);
+      return *static_cast<const std::wstring*>(value);
     default:
-      return *static_cast<const DWORD*>(left) == *static_cast<const DWORD*>(right);
+      return std::to_wstring(*static_cast<const DWORD*>(value));
   }
 }
 
-bool AreEqual(ValueType type, const FieldRef& left, const FieldRef& right) {
-  const auto is_present = [](const FieldRef& field) {
-    return field.present == nullptr || *field.present != 0;
+/// All that a node shows, with marks that no value contains.
+std::wstring ContentOf(const Schema& table, IElement& node) {
+  std::wstring content;
+  const auto add = [&content](ValueType type, const FieldRef& field) {
+    const bool is_absent = field.present != nullptr && *field.present == 0;
+    content += is_absent ? L"\1" : TextOf(type, field.value) + L"\2";
   };
-  if (!is_present(left) || !is_present(right)) return is_present(left) == is_present(right);
-  return IsSame(type, left.value, right.value);
-}
-
-bool AreEqual(const Child& row, const ChildRef& left, const ChildRef& right) {
-  if (left.items != nullptr) {
-    if (left.items->Size() != right.items->Size()) return false;
-    for (std::size_t i = 0; i < left.items->Size(); ++i) {
-      if (!test::AreEqual(*row.schema, left.items->Item(i), right.items->Item(i))) return false;
+  for (const Attribute& row : table.attributes) add(row.type, row.locate(node));
+  if (table.content.locate != nullptr) add(table.content.type, table.content.locate(node));
+  for (const Child& row : table.children) {
+    const ChildRef child = row.locate(node);
+    if (child.items != nullptr) {
+      for (std::size_t i = 0; i < child.items->Size(); ++i) {
+        content += ContentOf(*row.schema, const_cast<IElement&>(child.items->Item(i)));
+      }
+    } else if (child.present == nullptr || *child.present != 0) {
+      content += ContentOf(*row.schema, *child.element);
     }
-    return true;
+    content += L'\3';
   }
-  if (left.present != nullptr) {
-    if ((*left.present != 0) != (*right.present != 0)) return false;
-    if (*left.present == 0) return true;
-  }
-  return test::AreEqual(*row.schema, *left.element, *right.element);
+  return content + L'\4';
 }
 
 }  // namespace
 
 bool AreEqual(const Schema& table, const IElement& left, const IElement& right) {
-  auto& a = const_cast<IElement&>(left);  // located, not changed
-  auto& b = const_cast<IElement&>(right);
-  for (const Attribute& row : table.attributes) {
-    if (!AreEqual(row.type, row.locate(a), row.locate(b))) return false;
-  }
-  if (table.content.locate != nullptr &&
-      !AreEqual(table.content.type, table.content.locate(a), table.content.locate(b))) {
-    return false;
-  }
-  for (const Child& row : table.children) {
-    if (!AreEqual(row, row.locate(a), row.locate(b))) return false;
-  }
-  return true;
+  // They are located, not changed.
+  return ContentOf(table, const_cast<IElement&>(left)) ==
+         ContentOf(table, const_cast<IElement&>(right));
 }
 
 namespace {
 
 bool IsDefault(ValueType type, const FieldRef& field) {
-  const std::uint64_t zero = 0;
-  const std::wstring empty;
-  return type == ValueType::kString ? IsSame(type, field.value, &empty)
-                                    : IsSame(type, field.value, &zero);
+  return TextOf(type, field.value) == (type == ValueType::kString ? L"" : L"0");
 }
 
 /// `before`: what the row keeps has to be the same; null: it may be anything.
 bool IsCleared(const Attribute& row, const FieldRef& field, const FieldRef* before) {
-  const bool value_holds = !row.keeps_value
-                               ? IsDefault(row.type, field)
-                               : before == nullptr || IsSame(row.type, field.value, before->value);
+  const bool value_holds =
+      !row.keeps_value
+          ? IsDefault(row.type, field)
+          : before == nullptr || TextOf(row.type, field.value) == TextOf(row.type, before->value);
   if (!value_holds || field.present == nullptr) return value_holds;
   if (!row.keeps_presence) return *field.present == (row.is_present_when_clear ? 1U : 0U);
   return before == nullptr || *field.present == *before->present;
