@@ -11,7 +11,6 @@
 
 #include <cerrno>
 #include <csignal>
-#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -199,11 +198,8 @@ TEST_F(PosixSave, SurvivesFailingAllocations) {
   ASSERT_TRUE(SaveBytes("old", file));
   std::size_t n = 0;
   for (bool failed = true; failed; ++n) {
-    try {
-      const test::FailingAllocations failing(n);
-      failed = !Save(*root, file);
-    } catch (const std::bad_alloc&) {
-    }
+    SaveReport report;
+    failed = test::RunsOutOfMemory(n, false, [&] { report = Save(*root, file); }) || !report;
     ASSERT_EQ(Content("file") == "old", failed) << n;
     ASSERT_EQ(Count(), 1) << n;
   }

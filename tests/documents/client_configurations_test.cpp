@@ -53,8 +53,10 @@ TEST(Policy, EmbedsTheActiveDirectory) {
   const std::unique_ptr<IILPClientConfiguration> root(ILPClientConfiguration_CreateNewInstance());
   IActiveDirectory* held = nullptr;
   EXPECT_EQ(root->GetActiveDirectory(&held), 1);
+  EXPECT_EQ(held, nullptr);
   EXPECT_EQ(root->SetActiveDirectory(MakeDirectory().get()), 0);
   ASSERT_EQ(root->GetActiveDirectory(&held), 0);
+  EXPECT_EQ(root->SetActiveDirectory(held), 0);  // itself
   EXPECT_EQ(held->GetDefaultDomain()->GetName(), kName);
   EXPECT_TRUE(HoldsDirectory(*root));
   const std::unique_ptr<IILPClientConfiguration> copy(ILPClientConfiguration_CreateNewInstance());

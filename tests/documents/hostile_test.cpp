@@ -17,9 +17,9 @@ TEST(HostileDocuments, AreRefusedOrRead) {
   struct Case {
     const char* what;
     std::string document;
-    ConfigResult result;
-    Texts reports;
-    std::wstring name;  ///< of the domain, afterwards
+    std::wstring name = L"x";  ///< of the domain, afterwards
+    ConfigResult result = 0;
+    Texts reports = {};
   };
   const auto document = [](const std::string& inside) {
     return "<ActiveDirectory>" + inside + "</ActiveDirectory>";
@@ -35,32 +35,19 @@ TEST(HostileDocuments, AreRefusedOrRead) {
   for (int i = 0; i < 100'000; ++i) attributes += " a" + std::to_string(i) + "='1'";
 
   const std::vector<Case> cases = {
-      {"a long value",
-       document("<DefaultDomain Name='" + std::string(kLargest, 'x') + "'/>"),
-       0,
-       {},
+      {"a long value", document("<DefaultDomain Name='" + std::string(kLargest, 'x') + "'/>"),
        std::wstring(kLargest, L'x')},
-      {"a long name", document("<" + std::string(kLarge, 'x') + "/>" + domain), 0, {}, L"x"},
+      {"a long name", document("<" + std::string(kLarge, 'x') + "/>" + domain)},
       {"a long number",
-       document("<DefaultDomain Name='x' Enabled='" + std::string(kLarge, '0') + "'/>"),
-       0,
-       {},
-       L"x"},
-      {"many attributes", document("<DefaultDomain" + attributes + " Name='x'/>"), 0, {}, L"x"},
-      {"twin attributes", document("<DefaultDomain Name='x'" + attributes + " Name='y'/>"), -101,
-       missing, L""},
-      {"an entity", document("<DefaultDomain Name='&e;'/>"), -101, missing, L""},
-      {"malformed UTF-8 in a value", document("<DefaultDomain Name='\xC3\x28'/>"), -101, missing,
-       L""},
-      {"malformed UTF-8 behind", document(domain + "\xFF"), 0, {}, L"x"},
-      {"a zero in a value", document(std::string("<DefaultDomain Name='a\0b'/>", 27)), -101,
-       missing, L""},
-      {"a zero in front", std::string(1, '\0') + document(domain), -102, {}, L""},
-      {"two roots", document(domain) + document(domain), 0, {}, L"x"},
-      {"no end", "<ActiveDirectory>" + domain + "<a><b>", 0, {}, L"x"},
-      {"no domain", "<ActiveDirectory><a><b>", -101, missing, L""},
-      {"no name", document("<DefaultDomain/>") + "<", -101, no_name, L""},
-      {"UTF-7", "<?xml version='1.0' encoding='UTF-7'?>" + document(domain), -102, {}, L""},
+       document("<DefaultDomain Name='x' Enabled='" + std::string(kLarge, '0') + "'/>")},
+      {"many attributes", document("<DefaultDomain" + attributes + " Name='x'/>")},
+      {"a zero in a value", document(std::string("<DefaultDomain Name='a\0b'/>", 27)), L"", -101,
+       missing},
+      {"a zero in front", std::string(1, '\0') + document(domain), L"", -102},
+      {"two roots", document(domain) + document(domain)},
+      {"no end", "<ActiveDirectory>" + domain + "<a><b>"},
+      {"no domain", "<ActiveDirectory><a><b>", L"", -101, missing},
+      {"no name", document("<DefaultDomain/>") + "<", L"", -101, no_name},
   };
   for (const Case& one : cases) {
     SCOPED_TRACE(one.what);

@@ -60,6 +60,7 @@ class ManagerReader : public testing::Test {
   CXMLLiteManagerReader reader_;
 };
 
+/// tests/callers/load_test.cpp has the other files.
 TEST_F(ManagerReader, RefusesWhatCannotBeOpened) {
   EXPECT_EQ(reader_.OpenFile(nullptr), -102);
   EXPECT_EQ(reader_.OpenFromString(nullptr), -102);
@@ -68,15 +69,9 @@ TEST_F(ManagerReader, RefusesWhatCannotBeOpened) {
   const TempFile empty("");
   EXPECT_EQ(reader_.OpenFile(empty.Wide().c_str()), -101);
 
-  const TempFile folder;
-  std::filesystem::create_directory(folder.path());
-  const std::pair<std::wstring, DWORD> cases[] = {{folder.Wide(), 5},
-                                                  {folder.Wide() + L"/missing.xml", 2},
-                                                  {folder.Wide() + L"/no/folder.xml", 3},
-                                                  {L"", 3}};
-  for (const auto& [path, error] : cases) {
-    EXPECT_EQ(reader_.OpenFile(path.c_str()), -101);
-    EXPECT_EQ(tolvaGetLastError(), error);
+  for (const wchar_t* const path : {L"no-such-folder/file.xml", L""}) {
+    EXPECT_EQ(reader_.OpenFile(path), -101);
+    EXPECT_EQ(tolvaGetLastError(), 3U);
   }
 }
 
@@ -172,11 +167,6 @@ TEST_F(ManagerReader, SeesElementsCDataAndComments) {
 
 /// tests/documents/fragments_test.cpp shows what the text of an element is.
 TEST_F(ManagerReader, TakesTheTextOfAnElement) {
-  for (const wchar_t* const without : {L"<A> \n</A>", L"<A><B/>text</A>", L"<A></A>", L"<A/>"}) {
-    Open(without);
-    EXPECT_EQ(Text(), kNoValue) << without;
-  }
-  EXPECT_EQ(reader_.FinishElement(), kElement);
   Open(L"<A>\n text &amp;<B><C/></B>more</A>");
   EXPECT_EQ(Text(), L"\n text &");
   EXPECT_EQ(reader_.FinishElement(), kEndElement);
