@@ -363,18 +363,6 @@ TEST(Parser, TakesHostileSizesInItsStride) {
   EXPECT_EQ(count_repeated("<?xml version='1.0'", " ", "?><a/>"), 2U);
 }
 
-TEST(Parser, ReadsAValueOf64MiB) {
-  constexpr std::size_t kSize = std::size_t{64} << 20;
-  const std::string document = "<a b='" + std::string(kSize, 'v') + "'/>";
-  TextStream stream(document);
-  Parser parser;
-  parser.SetInput(&stream, false);
-  ASSERT_EQ(parser.Read(), ReadResult::kNode);
-  ASSERT_EQ(parser.attributes().size(), 1U);
-  EXPECT_EQ(parser.attributes()[0].value.size(), kSize);
-  EXPECT_EQ(parser.Read(), ReadResult::kEnd);
-}
-
 #if !defined(_WIN32)
 
 // ---- memory ------------------------------------------------------------------------------------

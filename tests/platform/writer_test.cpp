@@ -38,8 +38,6 @@ TEST(Writer, EscapesSoThatAllCanBeReadBack) {
     std::string attribute;
     std::string text;
   };
-  std::string entities;
-  for (int i = 0; i < 5000; ++i) entities += "&lt;";
   for (const Case& one : {
            Case{L"<a href=\"x\">'&'", "&lt;a href=&quot;x&quot;&gt;'&amp;'",
                 "&lt;a href=\"x\"&gt;'&amp;'"},
@@ -48,7 +46,6 @@ TEST(Writer, EscapesSoThatAllCanBeReadBack) {
            Case{L" ", " ", "&#x20;"},
            Case{L"\n\t ", "&#xA;&#x9; ", "&#xA;\t "},
            Case{L"\uE000\uFFFD", "\xEE\x80\x80\xEF\xBF\xBD", "\xEE\x80\x80\xEF\xBF\xBD"},
-           Case{std::wstring(5000, L'<'), entities, entities},
        }) {
     EXPECT_EQ(Written([&](XmlWriter& writer) {
                 EXPECT_EQ(writer.WriteStartElement(L"a"), S_OK);
@@ -161,7 +158,7 @@ TEST(Writer, StaysRefusingAfterACallThatIsNotAllowed) {
 /// attribute or of a line feed. Nothing is lost by it.
 TEST(Writer, HandsItsBlocksOverBetweenElements) {
   const std::wstring value(100'000, L'v');
-  const auto written = [&value](const Call& call, bool fails) {
+  const auto written = [&value](const Call& call, std::initializer_list<std::size_t> capacities) {
     SinkStream sink;
     SinkStream next;
     {
@@ -174,8 +171,7 @@ TEST(Writer, HandsItsBlocksOverBetweenElements) {
       EXPECT_EQ(writer.WritePlainAttribute(L"x", ""), S_OK);
       EXPECT_EQ(writer.WriteLineFeed(), S_OK);
       EXPECT_EQ(sink.text, "");
-      for (const std::size_t capacity : {0U, 100U}) {
-        if (!fails) break;
+      for (const std::size_t capacity : capacities) {
         sink.capacity = capacity;
         EXPECT_EQ(call(writer), kDiskFull);
         EXPECT_EQ(sink.text.size(), capacity);
@@ -200,7 +196,7 @@ TEST(Writer, HandsItsBlocksOverBetweenElements) {
            Call([](XmlWriter& writer) { return writer.WriteEndDocument(); }),
            Call([](XmlWriter& writer) { return writer.Flush(); }),
        }) {
-    EXPECT_TRUE(written(call, true) == written(call, false));
+    EXPECT_TRUE(written(call, {0, 100}) == written(call, {}));
   }
 }
 

@@ -71,12 +71,18 @@ AllocationCount CountAllocations() { return {calls, bytes, peak_bytes}; }
 
 void ResetPeak() { peak_bytes = bytes.load(); }
 
-FailingAllocations::FailingAllocations(std::size_t n, bool and_later) {
+bool RunsOutOfMemory(std::size_t n, bool and_later, const std::function<void()>& operation) {
   later_calls_fail = and_later;
   calls_until_failure = n;
+  bool has_failed = false;
+  try {
+    operation();
+  } catch (const std::bad_alloc&) {
+    has_failed = true;
+  }
+  calls_until_failure = kNever;
+  return has_failed;
 }
-
-FailingAllocations::~FailingAllocations() { calls_until_failure = kNever; }
 
 }  // namespace tolva::test
 

@@ -5,7 +5,7 @@
 #if !defined(_WIN32)
 
 #include <cstddef>
-#include <new>
+#include <functional>
 
 namespace tolva::test {
 
@@ -20,27 +20,9 @@ AllocationCount CountAllocations();
 /// Starts the peak anew from what is held now.
 void ResetPeak();
 
-/// While it lives, the n-th allocation from its making on fails (0: the next), and every later one
-/// too if `and_later`.
-class FailingAllocations {
- public:
-  explicit FailingAllocations(std::size_t n, bool and_later = false);
-  FailingAllocations(const FailingAllocations&) = delete;
-  FailingAllocations& operator=(const FailingAllocations&) = delete;
-  ~FailingAllocations();
-};
-
-/// Whether an operation runs out of memory when the n-th allocation fails.
-template <class Operation>
-bool RunsOutOfMemory(std::size_t n, bool and_later, Operation operation) {
-  try {
-    const FailingAllocations failing(n, and_later);
-    operation();
-  } catch (const std::bad_alloc&) {
-    return true;
-  }
-  return false;
-}
+/// Whether an operation runs out of memory when its n-th allocation fails (0: the first), and every
+/// later one too if `and_later`.
+bool RunsOutOfMemory(std::size_t n, bool and_later, const std::function<void()>& operation);
 
 }  // namespace tolva::test
 

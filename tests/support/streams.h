@@ -32,7 +32,8 @@ class StackStream : public ISequentialStream {
   ULONG references = 1;
 };
 
-/// Gives out `text`, at most `block` bytes at a time; fails instead of reading past `fail_at`.
+/// Gives out `text`, at most `block` bytes at a time; fails instead of reading past `fail_at`, and
+/// when no reads are left.
 class TextStream final : public StackStream {
  public:
   explicit TextStream(std::string_view text,
@@ -41,7 +42,7 @@ class TextStream final : public StackStream {
 
   HRESULT Read(void* buffer, ULONG size, ULONG* count) noexcept override {
     *count = 0;
-    if (at_ >= fail_at) return E_FAIL;
+    if (at_ >= fail_at || --reads_left < 0) return E_FAIL;
     const std::size_t left = std::min(text_.size(), fail_at) - at_;
     const std::size_t given = std::min({left, block_, static_cast<std::size_t>(size)});
     if (given != 0) std::memcpy(buffer, text_.data() + at_, given);
@@ -51,6 +52,7 @@ class TextStream final : public StackStream {
   }
 
   std::size_t fail_at = std::numeric_limits<std::size_t>::max();
+  int reads_left = std::numeric_limits<int>::max();
 
  private:
   std::string_view text_;

@@ -62,9 +62,10 @@ class EveryElement : public testing::TestWithParam<Element> {
 /// By its factory, and as an item or a child that is made while its parent is read.
 TEST_P(EveryElement, MakesANodeThatIsClear) {
   const NodePtr node = Make();
-  EXPECT_TRUE(IsCleared(Table(), *node, nullptr));
+  EXPECT_TRUE(IsCleared(Table(), *node, *node));
   for (const Child& row : Table().children) {
-    EXPECT_TRUE(IsCleared(*row.schema, row.make(*node), nullptr));
+    IElement& child = row.make(*node);
+    EXPECT_TRUE(IsCleared(*row.schema, child, child));
   }
 }
 
@@ -72,7 +73,7 @@ TEST_P(EveryElement, ForgetsWhatItHoldsWhenItIsCleared) {
   const NodePtr node = MakeFull();
   const NodePtr before = Copy(node);
   node->Clear();
-  EXPECT_TRUE(IsCleared(Table(), *node, before.get()));
+  EXPECT_TRUE(IsCleared(Table(), *node, *before));
 }
 
 /// How a document words what it reports of null, and writes numbers: in one of two ways each.
@@ -277,8 +278,7 @@ TEST_P(EveryElement, SurvivesARunOutOfMemory) {
       if (reader->OpenFile(path.c_str()) != 0) throw std::bad_alloc();
       EXPECT_EQ(node->ReadFromXMLMgr(reader.get()), 0);
     });
-    EXPECT_TRUE(reading_fails ? IsCleared(Table(), *node, nullptr)
-                              : AreEqual(Table(), *node, *whole))
+    EXPECT_TRUE(reading_fails ? IsCleared(Table(), *node, *node) : AreEqual(Table(), *node, *whole))
         << n;
 
     const TempFile output;

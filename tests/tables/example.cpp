@@ -35,7 +35,8 @@ bool IsNumber(ValueType type) {
 }
 
 std::wstring ReadDocument(const std::string& name) {
-  std::wstring text = FromUtf8(TempFile::ReadFile(TOLVA_DOCUMENTS "/" + name + ".xml"));
+  std::wstring text;
+  platform::AssignWide(TempFile::ReadFile(TOLVA_DOCUMENTS "/" + name + ".xml"), text);
   // Comments are not written; nor are the line ends after them.
   for (std::size_t start = 0; (start = text.find(L"<!--")) != std::wstring::npos;) {
     text.erase(start, text.find(L"-->", start) + 4 - start);
@@ -44,15 +45,6 @@ std::wstring ReadDocument(const std::string& name) {
 }
 
 }  // namespace
-
-/// Of characters up to U+FFFF.
-std::wstring FromUtf8(const std::string& bytes) {
-  std::wstring text;
-  for (const char* at = bytes.c_str(); *at != '\0';) {
-    text += static_cast<wchar_t>(platform::TakeCodePoint(at));
-  }
-  return text;
-}
 
 Example::Example(const char* document, const node::Schema& root, const Departures& departures)
     : departures_(departures), root_(root), text_(ReadDocument(document)) {
@@ -151,8 +143,6 @@ Texts Example::WithParents(std::wstring report, std::size_t element, bool readin
   return reports;
 }
 
-Example::ReadFault Example::Good(std::wstring document) { return {std::move(document), {}, 0}; }
-
 Example::ReadFault Example::Bad(std::wstring document, std::wstring report,
                                 std::size_t element) const {
   return {std::move(document), WithParents(std::move(report), element, true), -101};
@@ -185,7 +175,7 @@ void Example::AddReadFaults(std::size_t index, const Attribute& attribute,
   const bool may_be_absent =
       row.is_optional || departures_.dispensable.contains(Path(element, NameOf(row)));
   const std::wstring without = Without(attribute.start, attribute.end);
-  faults.push_back(may_be_absent ? Good(without) : Bad(without, missing, index));
+  faults.push_back(may_be_absent ? ReadFault{without} : Bad(without, missing, index));
   if (row.type != ValueType::kString) {
     faults.push_back(Bad(SpoiltAt(attribute.end - 1), malformed, index));
   }
@@ -200,15 +190,16 @@ void Example::AddTextFaults(std::size_t index, std::vector<ReadFault>& faults) c
   const bool is_lenient = departures_.lenient.contains(element.reported_name);
   const std::wstring without = Without(element.inside, element.close);
   if (element.schema->content.is_optional) {
-    faults.push_back(Good(without));
+    faults.push_back({without});
   } else if (is_lenient && !is_number) {
-    faults.push_back({without, {failed + element.reported_name}, 0});
+    faults.push_back({without, {failed + element.reported_name}});
   } else {
     faults.push_back(Bad(without, failed + L"Content", index));
   }
   if (!is_number) return;
   const std::wstring spoilt = SpoiltAt(element.inside);
-  faults.push_back(is_lenient ? Good(spoilt) : Bad(spoilt, failed + element.reported_name, index));
+  faults.push_back(is_lenient ? ReadFault{spoilt}
+                              : Bad(spoilt, failed + element.reported_name, index));
 }
 
 std::vector<Example::ReadFault> Example::ReadFaults() const {
@@ -223,7 +214,7 @@ std::vector<Example::ReadFault> Example::ReadFaults() const {
     const std::wstring missing =
         L"XMLManager: sub-element " + element.reported_name + L" is missing";
     faults.push_back(departures_.dispensable.contains(Path(parent, NameOf(*element.row)))
-                         ? Good(without)
+                         ? ReadFault{without}
                          : Bad(without, missing, element.parent));
   }
   return faults;

@@ -14,8 +14,6 @@
 
 namespace tolva::test {
 
-std::wstring FromUtf8(const std::string& bytes);
-
 /// How a document departs from the rules. Rows are named "Element/Attribute" and "Parent/Child".
 struct Departures {
   /// What is reported instead of a derived text; empty: nothing.
@@ -41,8 +39,8 @@ class Example {
   /// A document with a fault, and what reading it has to give.
   struct ReadFault {
     std::wstring document;
-    Texts reports;
-    ConfigResult result;
+    Texts reports = {};
+    ConfigResult result = 0;
   };
 
   /// Each attribute and text removed and spoilt, each required child removed.
@@ -80,7 +78,6 @@ class Example {
   void RequireEveryRow() const;
   static std::wstring Path(const Element& element, const std::wstring& row);
   Texts WithParents(std::wstring report, std::size_t element, bool reading) const;
-  static ReadFault Good(std::wstring document);
   ReadFault Bad(std::wstring document, std::wstring report, std::size_t element) const;
   std::wstring Without(std::size_t start, std::size_t end) const;
   std::wstring SpoiltAt(std::size_t at) const;

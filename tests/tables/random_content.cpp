@@ -130,23 +130,20 @@ bool IsDefault(ValueType type, const FieldRef& field) {
   return TextOf(type, field.value) == (type == ValueType::kString ? L"" : L"0");
 }
 
-/// `before`: what the row keeps has to be the same; null: it may be anything.
-bool IsCleared(const Attribute& row, const FieldRef& field, const FieldRef* before) {
-  const bool value_holds =
-      !row.keeps_value
-          ? IsDefault(row.type, field)
-          : before == nullptr || TextOf(row.type, field.value) == TextOf(row.type, before->value);
+bool IsCleared(const Attribute& row, const FieldRef& field, const FieldRef& before) {
+  const bool value_holds = row.keeps_value
+                               ? TextOf(row.type, field.value) == TextOf(row.type, before.value)
+                               : IsDefault(row.type, field);
   if (!value_holds || field.present == nullptr) return value_holds;
-  if (!row.keeps_presence) return *field.present == (row.is_present_when_clear ? 1U : 0U);
-  return before == nullptr || *field.present == *before->present;
+  const DWORD cleared = row.is_present_when_clear ? 1 : 0;
+  return *field.present == (row.keeps_presence ? *before.present : cleared);
 }
 
 }  // namespace
 
-bool IsCleared(const Schema& table, IElement& node, IElement* before) {
+bool IsCleared(const Schema& table, IElement& node, IElement& before) {
   for (const Attribute& row : table.attributes) {
-    const FieldRef old = before == nullptr ? FieldRef() : row.locate(*before);
-    if (!IsCleared(row, row.locate(node), before == nullptr ? nullptr : &old)) return false;
+    if (!IsCleared(row, row.locate(node), row.locate(before))) return false;
   }
   if (table.content.locate != nullptr) {
     const FieldRef field = table.content.locate(node);
@@ -155,18 +152,15 @@ bool IsCleared(const Schema& table, IElement& node, IElement* before) {
   }
   for (const Child& row : table.children) {
     const ChildRef child = row.locate(node);
-    const ChildRef old = before == nullptr ? ChildRef() : row.locate(*before);
+    const ChildRef old = row.locate(before);
     if (child.items != nullptr) {
       if (child.items->Size() != 0) return false;
       continue;
     }
-    if (child.present != nullptr) {
-      const DWORD expected = !row.keeps_presence ? 0
-                             : before == nullptr ? *child.present
-                                                 : *old.present;
-      if (*child.present != expected) return false;
+    if (child.present != nullptr && *child.present != (row.keeps_presence ? *old.present : 0)) {
+      return false;
     }
-    if (child.element != nullptr && !IsCleared(*row.schema, *child.element, old.element)) {
+    if (child.element != nullptr && !IsCleared(*row.schema, *child.element, *old.element)) {
       return false;
     }
   }

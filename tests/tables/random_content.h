@@ -30,7 +30,7 @@ class RandomContent {
 bool AreEqual(const node::Schema& table, const node::IElement& left, const node::IElement& right);
 
 /// Whether a node holds nothing but defaults, not even where it cannot be seen for now, apart from
-/// what its table says that Clear keeps: this has to be what `before` has; null: anything.
-bool IsCleared(const node::Schema& table, node::IElement& node, node::IElement* before);
+/// what its table says that Clear keeps: this has to be what `before` has, which may be the node.
+bool IsCleared(const node::Schema& table, node::IElement& node, node::IElement& before);
 
 }  // namespace tolva::test
