@@ -60,11 +60,11 @@ class PlainBytes {
     return {ZeroBytes(low_ & kOnes * 0xE0), ZeroBytes(high_ & kOnes * 0xE0)};
   }
 
+  /// Space and the control characters below it, but not zero. In XML that is white space.
+  PlainBytes IsSpace() const { return {Spaces(low_), Spaces(high_)}; }
+
   /// The ASCII characters from space on.
   PlainBytes IsPrintable() const { return PlainBytes(kTops, kTops).AndNot(IsControl() | *this); }
-
-  /// 'a' to 'z' and 'A' to 'Z'.
-  PlainBytes IsLetter() const { return {Letters(low_), Letters(high_)}; }
 
   PlainBytes operator|(PlainBytes other) const { return {low_ | other.low_, high_ | other.high_}; }
 
@@ -105,11 +105,10 @@ class PlainBytes {
   /// eighth unless they are all clear, and never into the next byte.
   static Word ZeroBytes(Word word) { return ~(((word & kRests) + kRests) | word) & kTops; }
 
-  static Word Letters(Word word) {
-    const Word lower = (word | kOnes * 0x20) & kRests;
-    const Word from_a = lower + kOnes * (0x80 - 'a');
-    const Word after_z = lower + kOnes * (0x80 - 'z' - 1);
-    return from_a & ~after_z & ~word & kTops;
+  static Word Spaces(Word word) {
+    const Word rest = word & kRests;
+    const Word after_space = rest + kOnes * (0x80 - ' ' - 1);
+    return (rest + kRests) & ~after_space & ~word & kTops;
   }
 
   /// Gathers the top bits: the multiplication moves the one of byte i to bit 56 + i.

@@ -65,14 +65,13 @@ class Sse2Bytes {
     return Sse2Bytes(_mm_cmpeq_epi8(_mm_min_epu8(bytes_, _mm_set1_epi8(0x1F)), bytes_));
   }
 
+  Sse2Bytes IsSpace() const {
+    const __m128i index = _mm_sub_epi8(bytes_, _mm_set1_epi8(1));
+    return Sse2Bytes(_mm_cmpeq_epi8(_mm_min_epu8(index, _mm_set1_epi8(0x1F)), index));
+  }
+
   /// Bytes that are not ASCII are negative as signed numbers.
   Sse2Bytes IsPrintable() const { return Sse2Bytes(_mm_cmpgt_epi8(bytes_, _mm_set1_epi8(0x1F))); }
-
-  Sse2Bytes IsLetter() const {
-    const __m128i index =
-        _mm_sub_epi8(_mm_or_si128(bytes_, _mm_set1_epi8(0x20)), _mm_set1_epi8('a'));
-    return Sse2Bytes(_mm_cmpeq_epi8(_mm_min_epu8(index, _mm_set1_epi8(25)), index));
-  }
 
   Sse2Bytes operator|(Sse2Bytes other) const {
     return Sse2Bytes(_mm_or_si128(bytes_, other.bytes_));

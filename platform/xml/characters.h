@@ -57,23 +57,25 @@ const char* SkipNonAsciiName(const char* at, bool started);
 inline const char* SkipName(const char* at) {
   if (!IsClass(*at, kNameStart)) return IsAscii(*at) ? at : SkipNonAsciiName(at, false);
   ++at;
-  // Most names are up to sixteen letters.
-  at += FirstOf(~Bytes::Load(at).IsLetter().ToMask());
+  // Names come again and again, so the processor guesses where this one ends, and goes on. It would
+  // have to wait for the result of a vector comparison.
   while (IsClass(*at, kName)) ++at;
   return IsAscii(*at) ? at : SkipNonAsciiName(at, true);
+}
+
+/// Skips white space that is most often more than one character.
+inline const char* SkipIndent(const char* at) {
+  for (;; at += Bytes::kCount) {
+    const unsigned spaces = FirstOf(~Bytes::Load(at).IsSpace().ToMask());
+    if (spaces != Bytes::kCount) return at + spaces;
+  }
 }
 
 inline const char* SkipSpace(const char* at) {
   // Most often there is one space or none.
   if (!IsClass(*at, kSpace)) return at;
   ++at;
-  if (!IsClass(*at, kSpace)) return at;
-  for (;; at += Bytes::kCount) {
-    const Bytes block = Bytes::Load(at);
-    const Bytes space = block.Is(' ') | block.Is('\n') | block.Is('\r') | block.Is('\t');
-    const unsigned spaces = FirstOf(~space.ToMask());
-    if (spaces != Bytes::kCount) return at + spaces;
-  }
+  return IsClass(*at, kSpace) ? SkipIndent(at) : at;
 }
 
 /// Finds the first of the characters in `Stops`, or the zero.

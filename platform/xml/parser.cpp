@@ -1,6 +1,7 @@
 #include "platform/xml/parser.h"
 
 #include <algorithm>
+#include <cstring>
 #include <optional>
 
 #include "platform/xml/characters.h"
@@ -82,6 +83,11 @@ inline Status ReadQName(const char* at, QName& name) {
   return end == at ? NC_E_QNAMECHARACTER : kDone;
 }
 
+/// Whether an attribute that has no prefix is a namespace declaration.
+bool IsXmlns(std::string_view name) {
+  return name.size() == 5 && std::memcmp(name.data(), "xmlns", 5) == 0;
+}
+
 /// Whether a processing instruction's target is "xml" in upper or lower case.
 bool IsReservedTarget(std::string_view target) {
   return target.size() == 3 && (target[0] | 0x20) == 'x' && (target[1] | 0x20) == 'm' &&
@@ -135,6 +141,7 @@ inline Status ReadAttributeValue(const char*& at, Attribute& attribute) {
   }
   ++at;
   if (*at != '"') at = SkipSpace(at);
+  if (*at == '"' && ReadShortValue(at, attribute)) return kDone;
   if (*at == '"') return ReadQuotedValue<'"'>(at, attribute);
   if (*at == '\'') return ReadQuotedValue<'\''>(at, attribute);
   return *at == '\0' ? kMoreInput : WC_E_QUOTE;
@@ -233,21 +240,35 @@ void Parser::SetInput(ISequentialStream* stream, bool converted) {
   namespaces_.Clear();
 }
 
+/// `at` is after the '<'.
+inline Status Parser::ParseMarkup(const char* at) {
+  switch (*at) {
+    case '/':
+      // Where no element is open, this is a start tag whose name is malformed.
+      return IsOutsideRoot() ? NC_E_QNAMECHARACTER : ParseEndTag(at + 1);
+    case '?':
+      return ParseProcessingInstruction(at + 1);
+    case '!':
+      return ParseExclamation(at + 1);
+    case '\0':
+      return kMoreInput;
+    default:
+      return ParseStartTag(at);
+  }
+}
+
 /// Parses the node at `at_`.
 template <bool skips_space>
 inline Status Parser::ParseNode() {
-  if (*at_ == '<') return ParseMarkup(at_ + 1);
-  if (*at_ == '\0') return kMoreInput;
-  if (IsOutsideRoot()) return ParseOutsideRoot();
-  if constexpr (skips_space) {
-    const char* const end = SkipSpace(at_);
-    if (*end == '<') {
-      at_ = end;
-      return ParseMarkup(end + 1);
-    }
-    return ParseCharacters(end);
+  if (*at_ != '<') {
+    if (*at_ == '\0') return kMoreInput;
+    if (IsOutsideRoot()) return ParseOutsideRoot();
+    if constexpr (!skips_space) return ParseText();
+    const char* const end = SkipIndent(at_);
+    if (*end != '<') return ParseCharacters(end);
+    at_ = end;
   }
-  return ParseText();
+  return ParseMarkup(at_ + 1);
 }
 
 template <bool skips_space>
@@ -358,32 +379,17 @@ Status Parser::ParseCharacters(const char* after_space) {
 
 // ---- tags --------------------------------------------------------------------------------------
 
-/// `at` is after the '<'.
-Status Parser::ParseMarkup(const char* at) {
-  switch (*at) {
-    case '/':
-      // Where no element is open, this is a start tag whose name is malformed.
-      return IsOutsideRoot() ? NC_E_QNAMECHARACTER : ParseEndTag(at + 1);
-    case '?':
-      return ParseProcessingInstruction(at + 1);
-    case '!':
-      return ParseExclamation(at + 1);
-    case '\0':
-      return kMoreInput;
-    default:
-      return ParseStartTag(at);
-  }
-}
-
 Status Parser::ParseStartTag(const char* at) {
   if (IsOutsideRoot() && has_root_) return WC_E_ROOTELEMENT;
   if (depth_ == kMaxDepth) return SC_E_MAXELEMENTDEPTH;
 
-  Status status = ReadQName(at, name_);
+  QName name;
+  Status status = ReadQName(at, name);
+  name_ = name;
   if (!status.IsDone()) return FaultAt(at, status);
-  at = EndOf(name_.text);
+  at = EndOf(name.text);
   TagTraits traits;
-  traits.uses_namespaces = name_.prefix != 0;
+  traits.uses_namespaces = name.prefix != 0;
   if (*at != '>') {
     status = ParseAttributes(at, at, traits);
     if (!status.IsDone()) return status;
@@ -399,7 +405,7 @@ Status Parser::ParseStartTag(const char* at) {
 }
 
 inline void Parser::TagTraits::Add(const QName& attribute) {
-  if (attribute.prefix != 0 || attribute.text == "xmlns") uses_namespaces = true;
+  if (attribute.prefix != 0 || IsXmlns(attribute.text)) uses_namespaces = true;
   if (filter.MayBeDuplicate(attribute.text)) may_have_duplicates = true;
 }
 
@@ -522,7 +528,7 @@ Status Parser::ParseEndTag(const char* at) {
 
 bool Parser::ReadKnownTag(const KnownTags& tags, std::size_t& index) {
   if (result_ != ReadResult::kNode || IsOutsideRoot()) return false;
-  const char* const at = SkipSpace(at_);
+  const char* const at = IsClass(*at_, kSpace) ? SkipIndent(at_) : at_;
   if (*at != '<') return false;
   return at[1] == '/' ? ReadKnownEndTag(at + 2) : ReadKnownStartTag(at + 1, tags, index);
 }
