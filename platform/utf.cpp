@@ -185,6 +185,12 @@ void AssignWide(std::string_view utf8, std::wstring& text) {
     text = std::wstring(utf8.begin(), utf8.end());
     return;
   }
+  constexpr std::size_t kMedium = 1024;
+  if (utf8.size() <= kMedium) {
+    wchar_t wide[kMedium + Bytes::kCount];
+    text.assign(wide, Widen(utf8, wide));
+    return;
+  }
   const auto wide = std::make_unique_for_overwrite<wchar_t[]>(utf8.size() + Bytes::kCount);
   text.assign(wide.get(), Widen(utf8, wide.get()));
 }
