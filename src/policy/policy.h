@@ -27,15 +27,15 @@ class CILPProtection final : public Node<CILPProtection, IILPProtection> {
   TOLVA_OPTIONAL(DWORD, EnableTamperProtection, enableTamperProtection_);
   TOLVA_OPTIONAL_CHILD(CILPRemovableMedia, ILPRemovableMedia, ilpRemovableMedia_);
   TOLVA_OPTIONAL_CHILD(CILPRemoteMedia, ILPRemoteMedia, ilpRemoteMedia_);
-  TOLVA_OPTIONAL_CHILD(CILPClipboard, ILPClipboard, ilpClipboard_);
-  TOLVA_OPTIONAL_CHILD(CILPPrinter, ILPPrinter, ilpPrinter_);
+  TOLVA_LAZY_CHILD(CILPClipboard, ILPClipboard, ilpClipboard_);
+  TOLVA_LAZY_CHILD(CILPPrinter, ILPPrinter, ilpPrinter_);
   TOLVA_OPTIONAL_CHILD(CILPAppFile, ILPAppFile, ilpAppFile_);
   TOLVA_OPTIONAL_CHILD(CILPPrintScreen, ILPPrintScreen, ilpPrintScreen_);
-  TOLVA_OPTIONAL_CHILD(CILPWebApp, ILPWebApp, ilpWebApp_);
+  TOLVA_LAZY_CHILD(CILPWebApp, ILPWebApp, ilpWebApp_);
   TOLVA_OPTIONAL_CHILD(CILPFixedMedia, ILPFixedMedia, ilpFixedMedia_);
   TOLVA_OPTIONAL_CHILD(CILPEmail, ILPEmail, ilpEmail_);
   TOLVA_OPTIONAL_CHILD(CILPOpticalMedia, ILPOpticalMedia, ilpOpticalMedia_);
-  TOLVA_OPTIONAL_CHILD(CILPInLineProxy, ILPInLineProxy, ilpInLineProxy_);
+  TOLVA_LAZY_CHILD(CILPInLineProxy, ILPInLineProxy, ilpInLineProxy_);
 };
 
 class CLocation final : public Node<CLocation, ILocation> {
