@@ -105,11 +105,12 @@ char* PutCharacter(const wchar_t*& at, const wchar_t* end, char* to, HRESULT& re
   return nullptr;
 }
 
-/// Stores a block of a value. Returns how many characters at its front are written as they are.
-std::ptrdiff_t StorePlain(Bytes block, char* to) {
-  const Bytes markup = block.Is('<') | block.Is('>') | block.Is('&') | block.Is('"');
+/// Stores a block of a value. Returns a bit for each character that is written as it is.
+Mask StorePlain(Bytes block, char* to) {
+  // '<' and '>' differ in one bit, '"' and '&' in another.
+  const Bytes markup = (block | Bytes::Fill(2)).Is('>') | (block | Bytes::Fill(4)).Is('&');
   block.Store(to);
-  return FirstOf(~block.IsPrintable().AndNot(markup).ToMask());
+  return block.IsPrintable().AndNot(markup).ToMask();
 }
 
 /// Writes a stretch of a value up to `stop`, escaped for its place. There is room for all of it. A
@@ -119,21 +120,35 @@ char* PutStretch(const wchar_t*& at, const wchar_t* stop, const wchar_t* end, ch
                  HRESULT& result) {
   constexpr auto kCount = static_cast<std::ptrdiff_t>(Bytes::kCount);
   constexpr std::ptrdiff_t kFew = 4;
+  const wchar_t* plain = at;  // from here to `at` all is written as it is
   while (at < stop) {
     // Whole blocks are steps of a known size, so that the next does not wait for the count.
+    const std::ptrdiff_t left = stop - at;
     std::ptrdiff_t count = 0;
-    if (stop - at >= kCount) {
-      count = StorePlain(Bytes::LoadNarrowed(at), to);
-      if (count == kCount) {
+    if (left >= kCount) {
+      const Mask mask = StorePlain(Bytes::LoadNarrowed(at), to);
+      if (mask == kAllBytes) {
         to += kCount;
         at += kCount;
         continue;
       }
-    } else if (stop - at >= kFew) {
-      count = StorePlain(Bytes::LoadFourNarrowed(at), to);
-      if (count == kFew) {
-        to += kFew;
-        at += kFew;
+      count = FirstOf(~mask);
+    } else if (stop - plain >= kCount) {
+      // The last block also has characters that are written already.
+      const std::ptrdiff_t again = kCount - left;
+      const Mask mask = StorePlain(Bytes::LoadNarrowed(at - again), to - again);
+      if (mask == kAllBytes) {
+        at = stop;
+        return to + left;
+      }
+      count = FirstOf(~mask) - again;
+    } else if (stop - plain >= kFew) {
+      const std::ptrdiff_t again = std::max<std::ptrdiff_t>(kFew - left, 0);
+      const std::ptrdiff_t step = kFew - again;
+      count = FirstOf(~StorePlain(Bytes::LoadFourNarrowed(at - again), to - again)) - again;
+      if (count == step) {
+        to += step;
+        at += step;
         continue;
       }
     }
@@ -141,6 +156,7 @@ char* PutStretch(const wchar_t*& at, const wchar_t* stop, const wchar_t* end, ch
     at += count;
     to = PutCharacter<place>(at, end, to, result);
     if (to == nullptr) return nullptr;
+    plain = at;
   }
   return to;
 }
