@@ -65,13 +65,21 @@ TEST(Writer, EscapesEveryPlaceOfAValue) {
                                                            {L"\u20AC", "\xE2\x82\xAC"},
                                                            {L"\U0001F600", "\xF0\x9F\x98\x80"},
                                                            {L"\xD83D\xDE00", "\xF0\x9F\x98\x80"}};
+  std::string letters;
+  for (std::size_t i = 0; i < 2050; ++i) letters += static_cast<char>('a' + i % 26);
   for (const auto& [special, written] : specials) {
-    for (const std::size_t size : {0U, 1U, 3U, 4U, 5U, 15U, 16U, 17U, 33U, 1023U, 1024U, 2050U}) {
+    for (const std::size_t size :
+         {0U, 1U, 2U, 3U, 4U, 5U, 7U, 15U, 16U, 17U, 22U, 33U, 1023U, 1024U, 2050U}) {
       for (std::size_t at = 0; at <= size; at += size < 40 || at < 20 || at + 40 > size ? 1 : 13) {
-        const std::wstring value = std::wstring(at, L'v') + special + std::wstring(size - at, L'v');
-        const std::string expected = std::string(at, 'v') + written + std::string(size - at, 'v');
+        std::string expected = letters.substr(0, size);
+        std::wstring value(expected.begin(), expected.end());
+        value.insert(at, special);
+        expected.insert(at, written);
         ASSERT_EQ(Written([&](XmlWriter& writer) { writer.WriteElement(L"a", value); }),
                   "<a>" + expected + "</a>")
+            << size << " " << at;
+        ASSERT_EQ(Written([&](XmlWriter& writer) { writer.WriteElement(L"a", L"<" + value); }),
+                  "<a>&lt;" + expected + "</a>")
             << size << " " << at;
       }
     }
