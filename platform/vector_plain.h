@@ -60,7 +60,8 @@ class PlainBytes {
     return {ZeroBytes(low_ & kOnes * 0xE0), ZeroBytes(high_ & kOnes * 0xE0)};
   }
 
-  /// Space and the control characters below it, but not zero. In XML that is white space.
+  /// Space and the control characters below it, but not zero. Of the characters that XML allows,
+  /// these are white space.
   PlainBytes IsSpace() const { return {Spaces(low_), Spaces(high_)}; }
 
   /// The ASCII characters from space on.

@@ -13,27 +13,20 @@
 namespace tolva::platform::own_xml {
 
 enum CharacterClass : std::uint8_t {
-  kSpace = 1,             ///< white space: space, TAB, LF, CR
-  kName = 2,              ///< allowed in a name: ASCII, without the colon
-  kNameStart = 4,         ///< allowed as the first character of a name: likewise
-  kDoubleQuoteStop = 8,   ///< ends a value in double quotes, or is special in it
-  kSingleQuoteStop = 16,  ///< ends a value in single quotes, or is special in it
+  kSpace = 1,      ///< white space: space, TAB, LF, CR
+  kName = 2,       ///< allowed in a name: ASCII, without the colon
+  kNameStart = 4,  ///< allowed as the first character of a name: likewise
 };
 
 inline constexpr auto kClasses = [] {
   std::array<std::uint8_t, 256> classes{};
-  for (unsigned c = 0; c < 0x20; ++c) classes[c] = kDoubleQuoteStop | kSingleQuoteStop;
-  for (const char c : {' ', '\t', '\n', '\r'}) classes[static_cast<unsigned char>(c)] |= kSpace;
+  for (const char c : {' ', '\t', '\n', '\r'}) classes[static_cast<unsigned char>(c)] = kSpace;
   for (unsigned c = '0'; c <= '9'; ++c) classes[c] = kName;
   for (unsigned c = 'a'; c <= 'z'; ++c) classes[c] = kName | kNameStart;
   for (unsigned c = 'A'; c <= 'Z'; ++c) classes[c] = kName | kNameStart;
   classes['_'] = kName | kNameStart;
   classes['-'] = kName;
   classes['.'] = kName;
-  classes['<'] = kDoubleQuoteStop | kSingleQuoteStop;
-  classes['&'] = kDoubleQuoteStop | kSingleQuoteStop;
-  classes['"'] = kDoubleQuoteStop;
-  classes['\''] = kSingleQuoteStop;
   return classes;
 }();
 
@@ -57,8 +50,8 @@ const char* SkipNonAsciiName(const char* at, bool started);
 inline const char* SkipName(const char* at) {
   if (!IsClass(*at, kNameStart)) return IsAscii(*at) ? at : SkipNonAsciiName(at, false);
   ++at;
-  // Names come again and again, so the processor guesses where this one ends, and goes on. It would
-  // have to wait for the result of a vector comparison.
+  // Names repeat, so the processor predicts where this loop ends. It would have to wait for the
+  // result of a vector comparison.
   while (IsClass(*at, kName)) ++at;
   return IsAscii(*at) ? at : SkipNonAsciiName(at, true);
 }
@@ -92,13 +85,6 @@ const char* Find(const char* at) {
 /// the zero.
 template <char Quote>
 const char* FindInAttribute(const char* at) {
-  constexpr CharacterClass kStops = Quote == '"' ? kDoubleQuoteStop : kSingleQuoteStop;
-  // Most values are short. A loop whose end the processor predicts is faster for them than to wait
-  // for the result of a vector comparison.
-  const char* const vector_start = at + Bytes::kCount;
-  for (; at != vector_start; ++at) {
-    if (IsClass(*at, kStops)) return at;
-  }
   for (;; at += Bytes::kCount) {
     const Bytes block = Bytes::Load(at);
     const Mask found =

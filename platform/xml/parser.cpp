@@ -83,7 +83,7 @@ inline Status ReadQName(const char* at, QName& name) {
   return end == at ? NC_E_QNAMECHARACTER : kDone;
 }
 
-/// Whether an attribute that has no prefix is a namespace declaration.
+/// Whether an attribute without a prefix declares a namespace. GCC calls a function for ==.
 bool IsXmlns(std::string_view name) {
   return name.size() == 5 && std::memcmp(name.data(), "xmlns", 5) == 0;
 }
@@ -383,10 +383,10 @@ Status Parser::ParseStartTag(const char* at) {
   if (IsOutsideRoot() && has_root_) return WC_E_ROOTELEMENT;
   if (depth_ == kMaxDepth) return SC_E_MAXELEMENTDEPTH;
 
-  QName name;
+  QName name;  // a local, so that it stays in registers
   Status status = ReadQName(at, name);
-  name_ = name;
   if (!status.IsDone()) return FaultAt(at, status);
+  name_ = name;
   at = EndOf(name.text);
   TagTraits traits;
   traits.uses_namespaces = name.prefix != 0;
