@@ -9,8 +9,8 @@ option(TOLVA_LTO "Optimize the library as a whole when it is linked" ${lto_works
 
 # tolva_enable_lto(<library> <objects> <settings>): the library is optimized as a whole. The other
 # programs that are made of the objects are not, so that they link fast, and so that both kinds of
-# code are tested. The command-line tool is one of them: it would be no faster. The settings are
-# those that all of them have.
+# code are tested. The command-line tool is one of them: optimized as a whole, it is no faster. The
+# settings are those that all of them have.
 function(tolva_enable_lto library objects settings)
   if(NOT TOLVA_LTO)
     return()

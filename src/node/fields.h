@@ -5,7 +5,7 @@
 //   Optional<T> x_;                optional attribute
 //   CY y_;                         required child
 //   OptionalChild<CY> y_;          optional child
-//   LazyChild<CY> y_;              optional child, large and mostly absent
+//   LazyChild<CY> y_;              optional child, mostly absent
 //   ChildList<CY> y_;              repeated child
 //
 // All of them are values: copying a class copies everything below it.
@@ -89,7 +89,7 @@ struct OptionalChild {
 };
 
 /// An optional child that is created on first use and then kept. It saves memory in elements that
-/// occur often and mostly do without the child.
+/// mostly do without the child.
 template <class C>
 class LazyChild {
  public:
@@ -217,8 +217,9 @@ class ChildList final : public ItemList {
   /// small.
   static constexpr DWORD kFirst = sizeof(C) <= 256 ? 2 : 1;
 
-  /// No block has room for more items. The GNU C library merges all small free blocks before it
-  /// allocates 1 KB or more, which makes the next small ones slow.
+  /// No block has room for more items. With its header and a small table a block stays below 1 KB:
+  /// before it allocates more than that, the GNU C library merges all small free blocks, and the
+  /// next small allocations are slow.
   static constexpr DWORD kMostAtOnce = std::max<DWORD>(1, 900 / sizeof(C));
 
   template <class... Arguments>

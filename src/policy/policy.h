@@ -17,6 +17,8 @@
 
 namespace TolvaInterface {
 
+// Children that most protections do without are created on first use: a protection takes less than
+// 1 KB then.
 class CILPProtection final : public Node<CILPProtection, IILPProtection> {
  public:
   static const Schema kSchema;
