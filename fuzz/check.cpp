@@ -16,6 +16,7 @@ using cli::Code;
 using cli::Finding;
 using test::Findings;
 using test::Has;
+
 bool IsSame(const Finding& left, const Finding& right) {
   return left.code == right.code && left.position.offset == right.position.offset &&
          left.position.line == right.position.line &&

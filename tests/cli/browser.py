@@ -54,7 +54,8 @@ class Browser:
         self._call('POST', '/url', {'url': url})
 
     def run(self, value, *arguments):
-        """The value of an expression in which one(selector) and all(selector) are what a selector finds."""
+        """The value of an expression. In it, one(selector) is the first element that matches, and
+        all(selector) are all of them."""
         script = HELPERS + 'return ' + value
         return self._call('POST', '/execute/sync', {'script': script, 'args': arguments})
 

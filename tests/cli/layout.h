@@ -116,7 +116,7 @@ class Layout {
 
   /// Some characters as references, or a text as a section.
   std::string Text(std::string_view text, bool may_be_section = true) {
-    const bool is_ascii = cli::Columns(text) == text.size();
+    const bool is_ascii = cli::Columns(text) == text.size();  // no character takes two bytes
     if (may_be_section && is_ascii && text.find('&') == std::string_view::npos && Perhaps()) {
       return "<![CDATA[" + std::string(text) + "]]>";
     }

@@ -61,6 +61,7 @@ TEST(Sentences, AgreeWithTheTables) {
 
 TEST(Tables, SayWhatElementsMean) {
   EXPECT_EQ(FindDocument("Location"), nullptr);
+  EXPECT_EQ(FindDocument("ILPClientConfiguration"), FindDocument("policy"));
   const std::string proxy = "policy/LocationArray/Location/ILPProtection/ILPInlineProxy/";
   EXPECT_EQ(FindPlace(proxy + "Enable").attribute->when_absent, "1");
   EXPECT_EQ(NamesOfItem(*FindPlace(proxy + "LocalProxies/LocalProxy").element),
@@ -107,6 +108,8 @@ std::string FaultOf(const std::string& place) {
 
 TEST(Paths, NameStepsAndWhichItemIsMeant) {
   EXPECT_EQ(ParsePath("A[N=x y]")[0].value, "x y");  // a shell took the quotes
+  EXPECT_EQ(ParsePath("A[N=\"x]/\"]/B")[0].value, "x]/");
+  EXPECT_EQ(ParsePath("A[N='\"']")[0].value, "\"");
   EXPECT_EQ(ParsePath("A/").size(), 1U);
   for (const char* const wrong :
        {"/A", "A//B", "[1]", "A[", "A[]", "A[0]", "A[1", "A[1]B", "A[N]", "A[N=]", "A[N=x\"]",

@@ -301,9 +301,9 @@ std::string Show(std::string_view text) {
   std::string shown;
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    char text_of[8] = {c};
-    if (byte < 0x20 || byte > 0x7E || c == '\\') std::snprintf(text_of, 8, "\\x%02X", byte);
-    shown += text_of;
+    char written[8] = {c};
+    if (byte < 0x20 || byte > 0x7E || c == '\\') std::snprintf(written, 8, "\\x%02X", byte);
+    shown += written;
   }
   return shown;
 }

@@ -62,7 +62,8 @@ bool ExpatAccepts(std::string_view document);
 /// What the own parser finds wrong with the document, or S_OK.
 platform::HRESULT OwnFault(std::string_view document);
 
-/// The nodes of the document as the own parser reads them, without white space between tags.
+/// The nodes of the document as the own parser reads them, without white space between tags
+/// within the root.
 std::string OwnTags(std::string_view document);
 
 /// Reads the document with the own parser, in blocks of several sizes, and with expat: what they do

@@ -79,6 +79,9 @@ bool RunsOutOfMemory(std::size_t n, bool and_later, const std::function<void()>&
     operation();
   } catch (const std::bad_alloc&) {
     has_failed = true;
+  } catch (...) {
+    calls_until_failure = kNever;
+    throw;
   }
   calls_until_failure = kNever;
   return has_failed;

@@ -35,8 +35,11 @@ bool IsNumber(ValueType type) {
 }
 
 std::wstring ReadDocument(const std::string& name) {
+  std::string bytes = TempFile::ReadFile(TOLVA_DOCUMENTS "/" + name + ".xml");
+  const std::size_t size = bytes.size();
+  bytes.append(platform::kReadAhead, '\0');
   std::wstring text;
-  platform::AssignWide(TempFile::ReadFile(TOLVA_DOCUMENTS "/" + name + ".xml"), text);
+  platform::AssignWide(std::string_view(bytes).substr(0, size), text);
   // Comments are not written; nor are the line ends after them.
   for (std::size_t start = 0; (start = text.find(L"<!--")) != std::wstring::npos;) {
     text.erase(start, text.find(L"-->", start) + 4 - start);
@@ -57,6 +60,7 @@ void Example::Parse() {
   for (std::size_t at = 0; (at = text_.find(L'<', at)) != std::wstring::npos;) {
     const std::size_t close = text_.find(L'>', at);
     if (text_[at + 1] == L'/') {
+      Require(!open.empty(), "an end tag without an element", text_.substr(at));
       elements_[open.back()].close = at;
       elements_[open.back()].end = close + 1;
       open.pop_back();

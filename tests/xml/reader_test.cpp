@@ -129,6 +129,11 @@ TEST_F(ManagerReader, ConvertsStrings) {
   EXPECT_EQ(Attribute(kB), L"\uFFFD\uFFFD");
   Open(L"<A b='\U0010FFFF'/>");
   EXPECT_EQ(Attribute(kB), L"\U0010FFFF");
+  for (const std::size_t size : {62U, 63U, 1022U, 1023U, 5000U}) {
+    const std::wstring value = L'\u00E9' + std::wstring(size, L'x');
+    Open((L"<A b='" + value + L"'/>").c_str());
+    EXPECT_EQ(Attribute(kB), value);
+  }
 }
 
 TEST_F(ManagerReader, FindsAttributes) {
