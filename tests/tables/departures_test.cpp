@@ -16,6 +16,9 @@ void AddDepartures(const std::string& name, const Schema& table, std::set<std::s
   const auto add = [&](bool departs, const std::string& what) {
     if (departs) found.insert(name + what);
   };
+  if (table.dialect.numbers == Numbers::kSigned) {
+    found.insert(name.substr(0, name.find(':')) + ": numbers are signed");
+  }
   add(table.closes_as_empty_tag, ": closes as an empty tag");
   add(table.content.takes_leading_digits, ": takes leading digits");
   add(table.content.is_always_written, ": is always written");
@@ -41,8 +44,10 @@ void AddDepartures(const std::string& name, const Schema& table, std::set<std::s
 
 TEST(Tables, DepartFromTheRulesHereAlone) {
   const std::set<std::string> expected = {
+      "CIConfInterface: numbers are signed",
       "CIConfInterface::ClientSetting/EnableTelemetry: is present when clear",
       "CIConfInterface::ICIClientConfiguration/ClientSetting: is reported first",
+      "ClientConfig: numbers are signed",
       "ClientConfig::ActiveDir: closes as an empty tag",
       "ClientConfig::DefaultDomain/Enabled: ignores a failed write",
       "ClientConfig::DefaultDomain/Enabled: may be absent",
@@ -54,10 +59,13 @@ TEST(Tables, DepartFromTheRulesHereAlone) {
       "CpsAnalysisDetailsConf::violation/customDisplayText: may be absent",
       "GlobalConfInterface::Setting/AppName: else FIREFOX",
       "GlobalConfInterface::Setting/AppName: keeps its value",
+      "IpbtConf: numbers are signed",
       "MessageConf::Content: is always written",
       "MessageConf::Content: stops at the first end tag",
       "MessageConf::Description: stops at the first end tag",
+      "PatchFileHistory: numbers are signed",
       "ProxyClientConfig::ClientSetting/EnableTelemetry: is present when clear",
+      "RFConfInterface: numbers are signed",
       "RFConfInterface::ClientSetting/EnableTelemetry: may be absent",
       "RFConfInterface::IRFClientConfiguration/ClientSetting: is reported first",
       "TolvaInterface::DiscoveryAction/Action: keeps its value",
