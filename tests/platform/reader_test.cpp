@@ -57,6 +57,8 @@ TEST_F(Reader, SurvivesARunOutOfMemory) {
     AskForAll();
     ReadOn();
     ASSERT_EQ(reader_.SetInput(nullptr), S_OK);
+    XmlNodeType type = XmlNodeType_None;
+    ASSERT_EQ(reader_.Read(&type), E_UNEXPECTED);
   }
 }
 
