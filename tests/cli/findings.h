@@ -30,12 +30,13 @@ inline Findings Check(std::string_view document, std::size_t block = 1 << 16) {
 }
 
 inline bool Has(const Findings& findings, cli::Code code) {
-  return std::ranges::any_of(findings, [code](const auto& one) { return one.code == code; });
+  return std::any_of(findings.begin(), findings.end(),
+                     [code](const auto& one) { return one.code == code; });
 }
 
 inline bool HasError(const Findings& findings) {
-  return std::ranges::any_of(findings,
-                             [](const auto& one) { return cli::InfoOf(one.code).is_error; });
+  return std::any_of(findings.begin(), findings.end(),
+                     [](const auto& one) { return cli::InfoOf(one.code).is_error; });
 }
 
 }  // namespace tolva::test

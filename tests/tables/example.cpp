@@ -39,7 +39,7 @@ std::wstring ReadDocument(const std::string& name) {
   const std::size_t size = bytes.size();
   bytes.append(platform::kReadAhead, '\0');
   std::wstring text;
-  platform::AssignWide(std::string_view(bytes).substr(0, size), text);
+  platform::AssignWide({bytes.data(), size}, text);
   // Comments are not written; nor are the line ends after them.
   for (std::size_t start = 0; (start = text.find(L"<!--")) != std::wstring::npos;) {
     text.erase(start, text.find(L"-->", start) + 4 - start);
