@@ -22,7 +22,10 @@ class Nodes {
  public:
   static constexpr char kPart = '\2';  ///< no document contains it
 
-  void Clear() { *this = Nodes(); }
+  void Clear() {
+    text_.clear();
+    in_text_ = false;
+  }
 
   void Begin(char kind, std::string_view first = {}) {
     text_ += '\1';
