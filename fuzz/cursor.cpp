@@ -1,5 +1,4 @@
 // Calls of the cursor in any order: the last bytes of the document are the program as well.
-#include <functional>
 #include <iterator>
 #include <numeric>
 

@@ -1,6 +1,5 @@
 // Any bytes read by the node whose element they begin with. What has been read can be written, and
 // what has been written reads back and is written as it was.
-#include <cwchar>
 #include <string>
 
 #include "exports/documents.h"

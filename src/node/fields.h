@@ -5,7 +5,7 @@
 //   Optional<T> x_;                optional attribute
 //   CY y_;                         required child
 //   OptionalChild<CY> y_;          optional child
-//   LazyChild<CY> y_;              optional child, mostly absent
+//   LazyChild<CY> y_;              optional child, created on first use
 //   ChildList<CY> y_;              repeated child
 //
 // All of them are values: copying a class copies everything below it.
@@ -88,8 +88,8 @@ struct OptionalChild {
   DWORD present = 0;
 };
 
-/// An optional child that is created on first use and then kept. It saves memory in elements that
-/// mostly do without the child.
+/// An optional child that is created on first use and then kept. It saves memory where the child is
+/// mostly absent, and keeps elements with large children small.
 template <class C>
 class LazyChild {
  public:

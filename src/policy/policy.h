@@ -17,8 +17,8 @@
 
 namespace TolvaInterface {
 
-// Children that most protections do without are created on first use: a protection takes less than
-// 1 KB then.
+// The largest children are created on first use: a protection takes less than 1 KB then, for the
+// reason that ChildList has for the size of its blocks.
 class CILPProtection final : public Node<CILPProtection, IILPProtection> {
  public:
   static const Schema kSchema;

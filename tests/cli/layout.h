@@ -7,7 +7,6 @@
 #include <regex>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "cli/byte_form.h"

@@ -7,7 +7,6 @@
 #include "cli/places.h"
 #include "cli/run.h"
 #include "cli/tables.h"
-#include "cli/text.h"
 #include "cli/wording.h"
 
 namespace tolva::test {

@@ -89,14 +89,11 @@ TEST(Writer, EscapesEveryPlaceOfAValue) {
 
 /// The scan keeps to its text, whatever follows.
 TEST(Writer, KnowsWhatXmlForbids) {
-  for (const std::size_t size : {0U, 1U, 3U, 15U, 16U, 17U, 40U}) {
-    const std::wstring text = std::wstring(size, L'v') + L"\x1";
-    const wchar_t* const end = text.data() + size;
-    EXPECT_EQ(FindForbidden(text.data(), end), end) << size;
-    EXPECT_EQ(FindForbidden(text.data(), end + 1), end) << size;
-    const std::wstring more = std::wstring(size + 9, L'v') + L"\x1";
-    EXPECT_EQ(FindForbidden(more.data(), more.data() + size), more.data() + size) << size;
-  }
+  const std::wstring text = std::wstring(40, L'v') + L"\x1";
+  const wchar_t* const end = text.data() + 40;
+  for (const wchar_t* at = text.data(); at <= end; ++at)
+    EXPECT_EQ(FindForbidden(text.data(), at), at);
+  EXPECT_EQ(FindForbidden(text.data(), end + 1), end);
 }
 
 #if !defined(_WIN32)

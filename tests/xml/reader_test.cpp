@@ -8,7 +8,6 @@
 #include <iterator>
 #include <string>
 #include <thread>
-#include <utility>
 
 #include "support/allocations.h"
 #include "support/capabilities.h"

@@ -14,7 +14,6 @@
 
 #include "platform/com_ptr.h"
 #include "platform/open_to_read.h"
-#include "platform/utf.h"
 #include "support/files.h"
 #include "support/system_faults.h"
 
