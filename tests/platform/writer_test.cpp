@@ -91,8 +91,9 @@ TEST(Writer, EscapesEveryPlaceOfAValue) {
 TEST(Writer, KnowsWhatXmlForbids) {
   const std::wstring text = std::wstring(40, L'v') + L"\x1";
   const wchar_t* const end = text.data() + 40;
-  for (const wchar_t* at = text.data(); at <= end; ++at)
+  for (const wchar_t* at = text.data(); at <= end; ++at) {
     EXPECT_EQ(FindForbidden(text.data(), at), at);
+  }
   EXPECT_EQ(FindForbidden(text.data(), end + 1), end);
 }
 
