@@ -10,7 +10,7 @@ namespace tolva::platform {
 namespace {
 
 /// The number of bytes that are compared together.
-constexpr std::size_t kStretch = 4 * Bytes::kCount;
+constexpr std::size_t kStride = 4 * Bytes::kCount;
 
 /// The length of a character that starts with a byte of 0x80 or more. 0 if it is malformed or XML
 /// does not allow it; -1 if the buffer ends within it.
@@ -60,7 +60,7 @@ std::size_t SkipUsual(const char* text, std::size_t at, std::size_t size) {
     const Bytes block = Bytes::Load(part);
     return block.IsPrintable() | block.Is('\n');
   };
-  for (; at + kStretch <= size; at += kStretch) {
+  for (; at + kStride <= size; at += kStride) {
     const char* const part = text + at;
     const Bytes all = usual(part) & usual(part + Bytes::kCount) & usual(part + 2 * Bytes::kCount) &
                       usual(part + 3 * Bytes::kCount);
@@ -116,7 +116,7 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
   std::size_t i = 0;
   while (i < size) {
     i = SkipUsual(text, i, size);
-    const std::size_t stretch_end = std::min(size, i + kStretch);
+    const std::size_t stretch_end = std::min(size, i + kStride);
     while (i < stretch_end) {
       if (i + Bytes::kCount <= size) {
         const unsigned plain = CountPlain(text + i);

@@ -39,7 +39,8 @@ case ${1:-} in
     seconds=$2
     shift 2
     [ $# != 0 ] || set -- "${all[@]}"
-    make_dictionary > build/fuzz/dictionary
+    make_dictionary > build/fuzz/dictionary.new
+    mv build/fuzz/dictionary.new build/fuzz/dictionary  # another run may be reading it
     for target in "$@"; do
       mkdir -p "build/fuzz/corpus/$target"
       # shellcheck disable=SC2046

@@ -11,10 +11,10 @@ namespace tolva::platform::own_xml {
 namespace {
 
 /// How much is read from the stream at a time.
-constexpr std::size_t kBlock = std::size_t{64} * 1024;
+constexpr std::size_t kReadBlock = std::size_t{64} * 1024;
 
 /// A window that has grown beyond this for one long token is released after it.
-constexpr std::size_t kLargestKept = 8 * kBlock;
+constexpr std::size_t kLargestKept = 8 * kReadBlock;
 
 /// The most bytes that a character takes in any encoding.
 constexpr std::size_t kLongestCharacter = 4;
@@ -105,7 +105,7 @@ std::string_view Input::ReadDeclaration() {
 std::size_t Input::DropBefore(const char* at) {
   const auto rest = static_cast<std::size_t>(limit() - at);
   if (observer_ != nullptr) observer_->Dropping(View(window_).substr(0, window_.size() - rest));
-  if (window_.capacity() > kLargestKept && rest < kBlock) {
+  if (window_.capacity() > kLargestKept && rest < kReadBlock) {
     Buffer<char> smaller;
     smaller.Append(at, rest);
     window_ = std::move(smaller);
@@ -119,8 +119,8 @@ std::size_t Input::DropBefore(const char* at) {
 bool Input::ReadBlock(Buffer<char>& into) {
   if (stream_state_ != StreamState::kOpen) return false;
   ULONG count = 0;
-  char* const room = into.Room(kBlock + kPadding);
-  const HRESULT result = stream_->Read(room, static_cast<ULONG>(kBlock), &count);
+  char* const room = into.Room(kReadBlock + kPadding);
+  const HRESULT result = stream_->Read(room, static_cast<ULONG>(kReadBlock), &count);
   if (FAILED(result)) {
     stream_state_ = StreamState::kFailed;
     stream_failure_ = result;

@@ -13,7 +13,7 @@ namespace tolva::platform {
 namespace {
 
 /// Output is passed on when there is this much of it.
-constexpr std::size_t kBlock = std::size_t{64} * 1024;
+constexpr std::size_t kWriteBlock = std::size_t{64} * 1024;
 
 /// Values are escaped in stretches of this many characters, so that the room for one is bounded.
 constexpr std::size_t kStretch = 1024;
@@ -236,7 +236,7 @@ HRESULT XmlWriter::Begin() {
 /// callers never ignore their failures.
 HRESULT XmlWriter::BeginElement() {
   const HRESULT result = Begin();
-  return FAILED(result) || out_.size() < kBlock ? result : Drain();
+  return FAILED(result) || out_.size() < kWriteBlock ? result : Drain();
 }
 
 HRESULT XmlWriter::BeginAttribute() {
@@ -274,7 +274,7 @@ HRESULT XmlWriter::WriteStartDocument() {
   const HRESULT result = Begin();
   if (FAILED(result)) return result;
   if (state_ != State::kNothing) return Refuse();
-  out_.Room(kBlock + kBlock / 16);  // all that most documents need
+  out_.Room(kWriteBlock + kWriteBlock / 16);  // all that most documents need
   constexpr std::string_view kDeclaration = R"(<?xml version="1.0" encoding="UTF-8"?>)";
   out_.Append(kDeclaration.data(), kDeclaration.size());
   at_line_start_ = false;
