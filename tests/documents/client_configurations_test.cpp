@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <tolva/tolva.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -26,12 +27,10 @@ std::unique_ptr<IActiveDirectory> MakeDirectory() {
   return directory;
 }
 
-bool HoldsDirectory(const node::IElement& node) {
-  return WriteText(node).find(kDirectory) != std::string::npos;
-}
-
-bool HoldsNoDirectory(const node::IElement& node) {
-  return WriteText(node).find("ActiveDirectory") == std::string::npos;
+/// What a node writes of it, and of the same length; nothing if it writes none.
+std::string DirectoryIn(const node::IElement& node) {
+  const std::string text = WriteText(node);
+  return text.substr(std::min(text.find("<ActiveDirectory"), text.size()), kDirectory.size());
 }
 
 TEST(ActiveDirectory, IsCopiedThroughItsDomain) {
@@ -58,28 +57,28 @@ TEST(Policy, EmbedsTheActiveDirectory) {
   ASSERT_EQ(root->GetActiveDirectory(&held), 0);
   EXPECT_EQ(root->SetActiveDirectory(held), 0);  // itself
   EXPECT_EQ(held->GetDefaultDomain()->GetName(), kName);
-  EXPECT_TRUE(HoldsDirectory(*root));
+  EXPECT_EQ(DirectoryIn(*root), kDirectory);
   const std::unique_ptr<IILPClientConfiguration> copy(ILPClientConfiguration_CreateNewInstance());
   copy->CopyFrom(*root);
-  EXPECT_TRUE(HoldsDirectory(*copy));
+  EXPECT_EQ(DirectoryIn(*copy), kDirectory);
 
   // The flag alone; any value but 0 is present, and is kept.
   DWORD present = 9;
   EXPECT_EQ(root->SetActiveDirectoryPresent(nullptr), 0);
   EXPECT_EQ(root->GetActiveDirectoryPresent(nullptr), 0);
   EXPECT_EQ(root->GetActiveDirectory(&held), 1);
-  EXPECT_TRUE(HoldsNoDirectory(*root));
+  EXPECT_EQ(DirectoryIn(*root), "");
   EXPECT_EQ(root->SetActiveDirectoryPresent(&present), 0);
   present = 0;
   EXPECT_EQ(root->GetActiveDirectoryPresent(&present), 0);
   EXPECT_EQ(present, 9U);
-  EXPECT_TRUE(HoldsDirectory(*root));
+  EXPECT_EQ(DirectoryIn(*root), kDirectory);
   EXPECT_EQ(root->SetActiveDirectory(nullptr), 0);
   root->GetActiveDirectoryPresent(&present);
   EXPECT_EQ(present, 0U);
-  EXPECT_TRUE(HoldsNoDirectory(*root));
+  EXPECT_EQ(DirectoryIn(*root), "");
   root->SetActiveDirectoryPresent(&kOne);
-  EXPECT_TRUE(HoldsDirectory(*root)) << "absent, it keeps what it holds";
+  EXPECT_EQ(DirectoryIn(*root), kDirectory) << "absent, it keeps what it holds";
   EXPECT_EQ(diagnostics.Take(), Texts{});
 }
 
@@ -99,18 +98,18 @@ TEST(NgConfiguration, ReachesTheActiveDirectoryByForwarding) {
   EXPECT_EQ(management->SetDefaultDomainEnabled(nullptr), 0);
   EXPECT_EQ(management->GetDefaultDomainEnabled(&number), 0);
   EXPECT_EQ(number, 1U);
-  EXPECT_TRUE(HoldsNoDirectory(*management));
+  EXPECT_EQ(DirectoryIn(*management), "");
   EXPECT_EQ(management->SetDefaultDomainName(&kName), 0);
   EXPECT_EQ(management->GetDefaultDomainName(nullptr), 0);
   EXPECT_EQ(management->GetDefaultDomainName(&text), 0);
   EXPECT_EQ(text, kName);
-  EXPECT_TRUE(HoldsDirectory(*management));
+  EXPECT_EQ(DirectoryIn(*management), kDirectory);
   EXPECT_EQ(management->SetDefaultDomainName(nullptr), 0);
-  EXPECT_TRUE(HoldsNoDirectory(*management));
+  EXPECT_EQ(DirectoryIn(*management), "");
   EXPECT_EQ(management->SetActiveDirectoryPresent(&kOne), 0);
-  EXPECT_TRUE(HoldsDirectory(*management));
+  EXPECT_EQ(DirectoryIn(*management), kDirectory);
   EXPECT_EQ(management->SetActiveDirectoryPresent(nullptr), 0);
-  EXPECT_TRUE(HoldsNoDirectory(*management));
+  EXPECT_EQ(DirectoryIn(*management), "");
   EXPECT_EQ(diagnostics.Take(), Texts{});
 }
 
@@ -143,9 +142,9 @@ TEST(ProxyConfiguration, HandsTheActiveDirectoryOut) {
   EXPECT_EQ(proxy->GetActiveDirectory(&directory), 0);  // absent or not
   ASSERT_NE(directory, nullptr);
   directory->SetDefaultDomain(MakeDirectory()->GetDefaultDomain());
-  EXPECT_TRUE(HoldsNoDirectory(*proxy));
+  EXPECT_EQ(DirectoryIn(*proxy), "");
   EXPECT_EQ(proxy->SetActiveDirectoryPresent(&kOne), 0);
-  EXPECT_TRUE(HoldsDirectory(*proxy));
+  EXPECT_EQ(DirectoryIn(*proxy), kDirectory);
   EXPECT_EQ(diagnostics.Take(), Texts{});
 
   EXPECT_EQ(proxy->SetActiveDirectory(nullptr), -101);
@@ -155,7 +154,7 @@ TEST(ProxyConfiguration, HandsTheActiveDirectoryOut) {
   EXPECT_EQ(present, 0U);
   const std::unique_ptr<IProxySetting> other(ProxySetting_CreateNewInstance());
   EXPECT_EQ(other->SetActiveDirectory(directory), 0);
-  EXPECT_TRUE(HoldsDirectory(*other));
+  EXPECT_EQ(DirectoryIn(*other), kDirectory);
   EXPECT_EQ(other->SetActiveDirectoryPresent(nullptr), 0);
   EXPECT_EQ(other->GetActiveDirectoryPresent(&present), 0);
   EXPECT_EQ(present, 0U);

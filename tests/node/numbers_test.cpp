@@ -7,8 +7,9 @@
 namespace tolva::test {
 namespace {
 
+using node::Numbers;
+
 TEST(Numbers, AreDigitsAlone) {
-  using node::Numbers;
   constexpr struct {
     const wchar_t* text;
     DWORD as_signed;
@@ -48,7 +49,6 @@ TEST(Numbers, AreDigitsAlone) {
 }
 
 TEST(Numbers, AreWrittenWithOrWithoutASign) {
-  using node::Numbers;
   node::NumberText text;
   EXPECT_EQ(node::FormatNumber(2147483648, Numbers::kSigned, text), ValueOf(L"-2147483648"));
   EXPECT_EQ(node::FormatNumber(4294967295, Numbers::kSigned, text), ValueOf(L"-1"));

@@ -19,6 +19,9 @@ using ManagerPtr = std::unique_ptr<IXMLLiteManager, ManagerDeleter>;
 inline ManagerPtr MakeReader() { return ManagerPtr(tolvaCreateXMLManager(0)); }
 inline ManagerPtr MakeWriter() { return ManagerPtr(tolvaCreateXMLManager(1)); }
 
+/// A last error that nothing sets.
+inline constexpr DWORD kUntouched = 4711;
+
 using Texts = std::vector<std::wstring>;
 
 /// Collects the diagnostics while it lives.

@@ -21,12 +21,11 @@ using namespace platform;
 using xml::CXMLLiteManagerWriter;
 using End = CXMLLiteManagerWriter::End;
 
-constexpr DWORD kNotTouched = 4711;
 constexpr DWORD kFault = WriterFault::kCode;
 
 class ManagerWriter : public testing::Test {
  protected:
-  ManagerWriter() { tolvaSetLastError(kNotTouched); }
+  ManagerWriter() { tolvaSetLastError(kUntouched); }
 
   void Open() { ASSERT_EQ(writer_.OpenFile(file_.Wide().c_str()), 0); }
 
@@ -39,7 +38,7 @@ class ManagerWriter : public testing::Test {
 TEST_F(ManagerWriter, RefusesWhatCannotBeOpened) {
   EXPECT_EQ(writer_.OpenFile(nullptr), -102);
   EXPECT_EQ(writer_.OpenFromString(L"<a/>"), -101);
-  EXPECT_EQ(tolvaGetLastError(), kNotTouched);
+  EXPECT_EQ(tolvaGetLastError(), kUntouched);
   EXPECT_EQ(writer_.OpenFile((file_.Wide() + L"-no/folder.xml").c_str()), -101);
   EXPECT_EQ(tolvaGetLastError(), 0x80070003U);
   const TempFile folder;
@@ -57,7 +56,7 @@ TEST_F(ManagerWriter, RefusesWhatCannotBeWritten) {
       [this] { return writer_.WriteElement(L"early", L"x"); },
   };
   for (const auto& call : early_calls) {
-    tolvaSetLastError(kNotTouched);
+    tolvaSetLastError(kUntouched);
     EXPECT_EQ(call(), -101);
     EXPECT_EQ(tolvaGetLastError(), 0x8000FFFFU);
   }
@@ -180,7 +179,7 @@ TEST_F(ManagerWriter, RefusesASecondRootAndKeepsTheFirst) {
   EXPECT_EQ(writer_.StartElement(L"second"), -101);
   EXPECT_EQ(tolvaGetLastError(), 0xC00CEF0BU);
   for (int again = 0; again < 2; ++again) {
-    tolvaSetLastError(kNotTouched);
+    tolvaSetLastError(kUntouched);
     EXPECT_EQ(writer_.Close(), -101);
     EXPECT_EQ(tolvaGetLastError(), 0xC00CEF0BU);
     EXPECT_TRUE(Holds("<first>good</first>"));
