@@ -96,16 +96,19 @@ struct NamedVerb {
   void (*add)(CLI::App& tool, Session& session);
 };
 
+/// Completion and manual page are made from all verbs, so those that print them are not among
+/// these.
 constexpr NamedVerb kVerbs[] = {
     {"check", AddCheck},   {"diff", AddDiff}, {"explain", AddExplain},
     {"schema", AddSchema}, {"new", AddNew},   {"get", AddGet},
     {"set", AddSet},       {"fmt", AddFmt},   {"convert", AddConvert},
 };
 
-/// Adds what the tool's command line consists of: all verbs, or the one that it starts with. All of
-/// them take a fifth of the instructions of a `get`.
+/// Adds what the tool's command line consists of: all verbs, or the one that it starts with. Adding
+/// all of them would be a fifth of the instructions of a `get`.
 void AddTool(CLI::App& tool, Session& session, std::string_view first) {
   tool.allow_windows_style_options(false);  // a path begins with a slash everywhere
+  tool.require_subcommand(0, 1);            // what follows a verb is an argument
   tool.set_help_flag("-h,--help", "prints this help.");
   tool.set_version_flag("--version", "", "prints the version.");
   tool.footer(
@@ -115,7 +118,7 @@ void AddTool(CLI::App& tool, Session& session, std::string_view first) {
       "tolva new policy --full         a policy to start from\n"
       "tolva fmt --check policy.xml    whether it is as the library writes it\n"
       "tolva schema html -o doc.html   a page about all documents");
-  const auto named = std::ranges::find(kVerbs, first, &NamedVerb::name);
+  const NamedVerb* const named = std::ranges::find(kVerbs, first, &NamedVerb::name);
   if (named != std::ranges::end(kVerbs)) {
     named->add(tool, session);
     return;

@@ -116,8 +116,8 @@ Utf8Prefix MeasureXmlUtf8(const char* text, std::size_t size) noexcept {
   std::size_t i = 0;
   while (i < size) {
     i = SkipUsual(text, i, size);
-    const std::size_t stretch_end = std::min(size, i + kStride);
-    while (i < stretch_end) {
+    const std::size_t stride_end = std::min(size, i + kStride);
+    while (i < stride_end) {
       if (i + Bytes::kCount <= size) {
         const unsigned plain = CountPlain(text + i);
         i += plain;

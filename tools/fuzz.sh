@@ -39,8 +39,9 @@ case ${1:-} in
     seconds=$2
     shift 2
     [ $# != 0 ] || set -- "${all[@]}"
-    make_dictionary > build/fuzz/dictionary.new
-    mv build/fuzz/dictionary.new build/fuzz/dictionary  # another run may be reading it
+    new=$(mktemp build/fuzz/dictionary.XXXXXX)
+    make_dictionary > "$new"
+    mv "$new" build/fuzz/dictionary  # another run may be reading it
     for target in "$@"; do
       mkdir -p "build/fuzz/corpus/$target"
       # shellcheck disable=SC2046

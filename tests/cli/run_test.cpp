@@ -43,6 +43,9 @@ TEST(Tool, SaysWhatIsWrongWithACommandLine) {
       {{"new", "policy", "-o"}, "--output needs FILE"},
       {{"new", "policy", "-o", "a", "-o", "b"}, "--output is given more than once"},
       {{"new", "policy", "ng"}, "there is no place for the argument 'ng'"},
+      {{"new", "policy", "check"}, "there is no place for the argument 'check'"},
+      {{"new", "policy", "new"}, "there is no place for the argument 'new'"},
+      {{"explain", "explain"}, "there is no document 'explain'; "},
       {{"explain", "--", "--tree"}, "there is no document '--tree'; "},
       {{"explain", "\x1B[31m\xFF"}, "there is no document '\\x1B[31m\\xFF'; "}};
   for (const auto& [arguments, fault] : cases) {

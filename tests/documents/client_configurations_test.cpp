@@ -27,7 +27,8 @@ std::unique_ptr<IActiveDirectory> MakeDirectory() {
   return directory;
 }
 
-/// What a node writes of it, and of the same length; nothing if it writes none.
+/// What a node writes from the start of its directory on, as long as kDirectory; empty if it has
+/// none.
 std::string DirectoryIn(const node::IElement& node) {
   const std::string text = WriteText(node);
   return text.substr(std::min(text.find("<ActiveDirectory"), text.size()), kDirectory.size());

@@ -367,12 +367,12 @@ TEST(Parser, TakesHostileSizesInItsStride) {
 
 // ---- memory ------------------------------------------------------------------------------------
 
-const std::string kElement =
+const std::string kRule =
     "  <rule action='BLOCK' name='Stick &amp; disk' id='12'>\n    <c>some text &lt;here&gt;</c>\n"
     "    <!-- a comment --><p:e xmlns:p='u' p:x='1'/>\n  </rule>\n";
 
 TEST(Parser, DoesNotAllocateOnceItIsWarm) {
-  const std::string document = "<a>" + Repeat(kElement, 4000) + "</a>";
+  const std::string document = "<a>" + Repeat(kRule, 4000) + "</a>";
   TextStream stream(document);
   Parser parser;
   parser.SetInput(&stream, false);
@@ -394,7 +394,7 @@ TEST(Parser, NeedsMemoryForABlockAndTheCurrentNode) {
     ReadOn(parser, [] {});
     return CountAllocations().peak_bytes - before.bytes;
   };
-  EXPECT_LT(peak("<a>" + Repeat(kElement, 400'000) + "</a>"), kBound);
+  EXPECT_LT(peak("<a>" + Repeat(kRule, 400'000) + "</a>"), kBound);
 
   // Names go with the elements in which they are declared.
   std::string names = "<a>";
@@ -407,7 +407,7 @@ TEST(Parser, NeedsMemoryForABlockAndTheCurrentNode) {
   // A large node's memory is released after it.
   std::string huge = "<x b='" + std::string(std::size_t{8} << 20, 'v') + "'/><x xmlns:p='u'";
   for (int i = 0; i < 30'000; ++i) huge += " p:a" + std::to_string(i) + "=''";
-  const std::string document = "<a>" + huge + "/>" + Repeat(kElement, 200'000) + "</a>";
+  const std::string document = "<a>" + huge + "/>" + Repeat(kRule, 200'000) + "</a>";
   TextStream stream(document);
   Parser parser;
   parser.SetInput(&stream, false);

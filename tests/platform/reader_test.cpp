@@ -16,11 +16,11 @@ namespace {
 
 using platform::Name;
 
-struct Row {
+struct OneRow {
   Name name;
 };
-constexpr Row kRows[] = {{L"b"}};
-const Names kNames(std::span<const Row>(kRows), &Row::name);
+constexpr OneRow kOneRow[] = {{L"b"}};
+const Names kNames(std::span<const OneRow>(kOneRow), &OneRow::name);
 
 class Reader : public testing::Test {
  protected:

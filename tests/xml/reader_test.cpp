@@ -294,6 +294,7 @@ TEST_F(ManagerReader, ReadsToTheEnd) {
   }
   // The cursor meets that zero; one that a file ends with is no character.
   Open(L"<A/>");
+  tolvaSetLastError(kUntouched);
   EXPECT_EQ(reader_.NextNode(), kNone);
   EXPECT_EQ(tolvaGetLastError(), 0xC00CEE2DU);
   const TempFile file("<A/>");

@@ -15,14 +15,13 @@
 #include "platform/com_ptr.h"
 #include "platform/open_to_read.h"
 #include "support/files.h"
+#include "support/managers.h"
 #include "support/system_faults.h"
 
 namespace tolva::test {
 namespace {
 
 using namespace platform;
-
-constexpr DWORD kUntouched = 4711;
 
 /// The last error of an open for reading.
 DWORD ErrorOfReading(const std::wstring& path) {
