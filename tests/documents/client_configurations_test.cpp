@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <tolva/tolva.h>
 
-#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -31,7 +30,8 @@ std::unique_ptr<IActiveDirectory> MakeDirectory() {
 /// none.
 std::string DirectoryIn(const node::IElement& node) {
   const std::string text = WriteText(node);
-  return text.substr(std::min(text.find("<ActiveDirectory"), text.size()), kDirectory.size());
+  const std::size_t at = text.find("ActiveDirectory");
+  return at == std::string::npos ? "" : text.substr(at - 1, kDirectory.size());
 }
 
 TEST(ActiveDirectory, IsCopiedThroughItsDomain) {

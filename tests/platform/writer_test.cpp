@@ -89,12 +89,14 @@ TEST(Writer, EscapesEveryPlaceOfAValue) {
 
 /// The scan keeps to its text, whatever follows.
 TEST(Writer, KnowsWhatXmlForbids) {
-  const std::wstring text = std::wstring(40, L'v') + L"\x1";
-  const wchar_t* const end = text.data() + 40;
-  for (const wchar_t* at = text.data(); at <= end; ++at) {
-    EXPECT_EQ(FindForbidden(text.data(), at), at);
+  for (std::size_t size = 0; size <= 40; ++size) {
+    const std::wstring text = std::wstring(size, L'v') + L"\x1";
+    const wchar_t* const end = text.data() + size;
+    for (const wchar_t* at = text.data(); at <= end; ++at) {
+      EXPECT_EQ(FindForbidden(text.data(), at), at);
+    }
+    EXPECT_EQ(FindForbidden(text.data(), end + 1), end);
   }
-  EXPECT_EQ(FindForbidden(text.data(), end + 1), end);
 }
 
 #if !defined(_WIN32)
